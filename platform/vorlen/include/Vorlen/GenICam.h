@@ -1,0 +1,15 @@
+#pragma once
+// Everything of the camera library in one include.
+#include "Vorlen/Memory/TSharedPtr.h"
+#include "Vorlen/Infra/CString.h"
+#include "Vorlen/Infra/TVector.h"
+#include "Vorlen/Infra/Error.h"
+#include "Vorlen/GenICam/Defs.h"
+#include "Vorlen/GenICam/ICamera.h"
+#include "Vorlen/GenICam/CInterfaceInfo.h"
+#include "Vorlen/GenICam/CSystem.h"
+#include "Vorlen/GenICam/CCameraInfo.h"
+#include "Vorlen/GenICam/CInternalParameterNode.h"
+#include "Vorlen/GenICam/CFrame.h"
+#include "Vorlen/GenICam/CInternalStreamSource.h"
+#include "Vorlen/GenICam/CInternalEventManager.h"
