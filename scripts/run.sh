@@ -27,9 +27,11 @@ if [ -z "$(timeout 5 arv-tool-0.8 2>/dev/null | grep -v '^No device found' || tr
   sleep 1
 fi
 
+# The log configuration is looked up in the folder Lumidor starts in.
+cd "$bin"
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
   echo "No display: running under xvfb-run"
-  xvfb-run -a -s "-screen 0 1600x1000x24" "$bin/Lumidor" "$@"
+  xvfb-run -a -s "-screen 0 1600x1000x24" ./Lumidor "$@"
 else
-  "$bin/Lumidor" "$@"
+  ./Lumidor "$@"
 fi

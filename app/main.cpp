@@ -1,0 +1,42 @@
+// Lumidor: viewer for GenICam cameras.
+#include <QApplication>
+
+#include "CConfiguration.h"
+#include "CTavMessage.h"
+#include "MainWindow.h"
+#include "StartupUtils.h"
+#include "StyleSheet.h"
+#include "Tavlog4cpp/TavLogMacros.h"
+
+int main(int argc, char* argv[])
+{
+    // Logging first, so everything after it can report. The properties file
+    // is looked up in the directory the program was started from.
+    const bool configured = Tavlog4cpp::CTavLog::LoadConfig("SDKLOG_default.properties");
+    if (!configured)
+        Tavlog4cpp::CTavLog::LoadDefault();
+    LOG_DEBUG("###########################################################################");
+    LOG_DEBUG("#                                    Start                                #");
+    LOG_DEBUG("###########################################################################");
+    if (configured)
+        LOG_DEBUG("use log configuration file");
+    else
+        LOG_DEBUG("use default log configuration");
+
+    QApplication app(argc, argv);
+    app.setQuitOnLastWindowClosed(false);
+    registerMessageMetaTypes();
+
+    // Resources (style sheets, ...) are found relative to the executable.
+    changeToExecutableDir(argv[0]);
+    setStyleSheet<QApplication>(app, QStringLiteral("Skins/Default/Vintrel/style.qss"));
+
+    const QString commandLine = joinCommandLine(argc, argv);
+    CConfiguration::getInstance();
+
+    MainWindow* window = new MainWindow(commandLine, nullptr);
+    window->show();
+    const int result = app.exec();
+    delete window;
+    return result;
+}

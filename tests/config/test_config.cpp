@@ -1,0 +1,321 @@
+// Application configuration file: exact default file, round trip of every
+// key, damaged files, language.ini and the change signals.
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "CConfiguration.h"
+
+namespace {
+
+QByteArray readAll(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+bool writeAll(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(bytes) == bytes.size();
+}
+
+// Every key set to something other than its default.
+void setNonDefaults(CConfiguration& c)
+{
+    c.deviceCtrlVisibility = 1;
+    c.iAnswerTimeout = 2500;
+    c.iHeartbeatIval = 4000;
+    c.iInterPacketTimeout = 1234;
+    c.iSingleResendMaxPackNum = 512;
+    c.iMaximumLostPacketNum = 777;
+    c.logGenIcamEnabled = false;
+    c.logEventsEnabled = true;
+    c.logBufferAllEnabled = true;
+    c.logBufferErrorEnabled = false;
+    c.logFileName = QStringLiteral("/tmp/events <&> log.txt");
+    c.streamingBufferCount = 16;
+    c.snapRecordBufferCount = 30;
+    c.streamingUrbNumberCount = 32;
+    c.streamingUrbSizeCount = 128;
+    c.strDisplayValue = QStringLiteral("15 FPS");
+    c.imageOneOutOf = QStringLiteral("3");
+    c.imageMaxRate = QStringLiteral("250");
+    c.imageAverageThroughPut = QStringLiteral("7");
+    c.imageSaveThrottleOption = 2;
+    c.imageSavePath = QStringLiteral("/data/pics");
+    c.imageSaveFormat = 2;
+    c.displayChunkDataEnable = true;
+    c.autoRefreshEnable = false;
+    c.imageSavePreFix = QStringLiteral("Shot");
+    c.imageSaveFileNameFormat = 1;
+    c.imageQualityLevel = 1;
+    c.imageQuality = 80;
+    c.imageSaveOnePopDlg = true;
+    c.setPersistentIP = false;
+    c.isShowCrosshair = true;
+    c.RedCrosshair = 10;
+    c.BlueCrosshair = 20;
+    c.GreenCrosshair = 30;
+    c.BayerDemosaicing = 2;
+    c.AcquisitionFPS = false;
+    c.BandwidthMbps = false;
+    c.ReceivedImages = false;
+    c.LostBlocks = false;
+    c.ErrorImages = false;
+    c.RecordLocation = QStringLiteral("/data/videos");
+    c.RecordPopDlg = true;
+    c.VideoQualityLevel = 2;
+    c.VideoQuality = 75;
+    c.VideoNameFormat = 1;
+    c.VideoPrefix = QStringLiteral("Rec");
+    c.PlaybackSpeed = 3;
+    c.CustomFps = QStringLiteral("12");
+    c.RemoteIpAddr = QStringLiteral("192.168.7.20");
+}
+
+} // namespace
+
+class TestConfig : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_home;
+    QString m_work;   // scratch files of the test cases
+    CConfiguration* cfg() { return CConfiguration::getInstance(); }
+    QByteArray expectedDefault()
+    {
+        QByteArray bytes = readAll(QStringLiteral(CONFIG_TEST_DATA_DIR "/expected_default.tavcfg"));
+        bytes.replace("@HOME@", m_home.path().toUtf8() + "/");
+        return bytes;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(m_home.isValid());
+        qputenv("LUMIDOR_HOME", m_home.path().toUtf8());
+        QCoreApplication::setApplicationName(QStringLiteral("Lumidor"));
+        m_work = m_home.path() + QStringLiteral("/work/");
+        QVERIFY(QDir().mkpath(m_work));
+    }
+
+    // First start: the directory is made and the default file written from
+    // the built-in defaults, byte for byte; no user file yet.
+    void firstStartWritesDefaultFile()
+    {
+        const QString cfgDir = m_home.path() + QStringLiteral("/Lumidor/cfg/app/");
+        QVERIFY(!QDir(cfgDir).exists());
+        CConfiguration* c = cfg();
+        QCOMPARE(c->defaultConfigPath(), cfgDir + QStringLiteral("LumidorDefault.tavcfg"));
+        QCOMPARE(c->userConfigPath(), cfgDir + QStringLiteral("Lumidor.tavcfg"));
+        QCOMPARE(c->languageIniPath(), cfgDir + QStringLiteral("language.ini"));
+        QCOMPARE(c->appHomeDir(), m_home.path() + QStringLiteral("/Lumidor/"));
+        QVERIFY(!QFile::exists(c->userConfigPath()));
+        QCOMPARE(readAll(c->defaultConfigPath()), expectedDefault());
+        QCOMPARE(c->mapVideoFormROI.size(), CConfiguration::kVideoFormCount);
+
+        QVERIFY(c->saveConfigToUserXml());
+        QCOMPARE(readAll(c->userConfigPath()), expectedDefault());
+        QVERIFY(c->hasLumidorElement(c->userConfigPath()));
+    }
+
+    void roundTripOfEveryKey()
+    {
+        CConfiguration* c = cfg();
+        c->init();
+        setNonDefaults(*c);
+        c->drawRoiEnable = true;
+        c->displayRoiEnable = true;
+        c->roiRed = 1;
+        c->roiBlue = 2;
+        c->roiGreen = 3;
+        stuROI a;
+        a.Left = 10;
+        a.Top = 20;
+        a.Width = 300;
+        a.Height = 8000000000LL;
+        a.RedROI = 4;
+        a.GreenROI = 5;
+        a.BlueROI = 6;
+        stuROI b;
+        b.Left = -1;
+        c->mapVideoFormROI[0] = {a, b};
+        c->mapVideoFormROI[15] = {b};
+        const QString path = m_work + QStringLiteral("all.tavcfg");
+        QVERIFY(c->saveConfig(path));
+
+        // The image format is written as its text.
+        QVERIFY(readAll(path).contains("<imageSaveFormat>TIFF</imageSaveFormat>"));
+        QVERIFY(readAll(path).contains("<deviceCtrlVisibility>Expert</deviceCtrlVisibility>"));
+        QCOMPARE(readAll(path).count("<VideoForm "), 16);
+
+        // No value element is left at its default (the container has only one).
+        const QByteArray written = readAll(path);
+        for (const QByteArray& line : expectedDefault().split('\n')) {
+            const QByteArray t = line.trimmed();
+            if (t.startsWith("<") && !t.startsWith("</") && t.contains("</") && t != "<AVI>AVI</AVI>")
+                QVERIFY2(!written.contains("\n" + line + "\n"), line.constData());
+        }
+
+        // Every key was changed from its default, so reading the file back and
+        // writing it again gives the same bytes only if every key was read.
+        c->init();
+        QVERIFY(c->restoreConfig(path, true));
+        const QString again = m_work + QStringLiteral("again.tavcfg");
+        QVERIFY(c->saveConfig(again));
+        QCOMPARE(readAll(again), readAll(path));
+        QCOMPARE(c->logFileName, QStringLiteral("/tmp/events <&> log.txt"));
+        QCOMPARE(c->mapVideoFormROI.size(), 16);
+        QCOMPARE(c->mapVideoFormROI[0].size(), 2);
+        const stuROI& ra = c->mapVideoFormROI[0][0];
+        QCOMPARE(ra.Height, qint64(8000000000LL));
+        QCOMPARE(ra.GreenROI, 5);
+        QCOMPARE(ra.BlueROI, 6);
+
+        // Opening a file without its ROIs keeps the ROIs in memory.
+        c->init();
+        c->mapVideoFormROI[3] = {b};
+        QVERIFY(c->restoreConfig(path, false));
+        QCOMPARE(c->RemoteIpAddr, QStringLiteral("192.168.7.20"));
+        QCOMPARE(c->drawRoiEnable, false);
+        QCOMPARE(c->mapVideoFormROI[0].size(), 0);
+        QCOMPARE(c->mapVideoFormROI[3].size(), 1);
+        c->init();
+    }
+
+    void damagedAndOddFiles()
+    {
+        CConfiguration* c = cfg();
+        c->init();
+        setNonDefaults(*c);
+        const QString full = m_work + QStringLiteral("full.tavcfg");
+        QVERIFY(c->saveConfig(full));
+        const QByteArray bytes = readAll(full);
+
+        // Cut in the middle of an element: keys before the cut are taken,
+        // the rest keep their values; nothing crashes.
+        const int cut = bytes.indexOf("<imageSavePath>") + 8;
+        const QString truncated = m_work + QStringLiteral("truncated.tavcfg");
+        QVERIFY(writeAll(truncated, bytes.left(cut)));
+        c->init();
+        QVERIFY(!c->restoreConfig(truncated, true));
+        QCOMPARE(int(c->iAnswerTimeout), 2500);
+        QCOMPARE(c->imageSaveThrottleOption, 2);
+        QCOMPARE(c->imageSavePath, c->appHomeDir() + QStringLiteral("pictures"));
+        QCOMPARE(c->RemoteIpAddr, QStringLiteral("0.0.0.0"));
+
+        // Garbage and a missing file change nothing.
+        const QString garbage = m_work + QStringLiteral("garbage.tavcfg");
+        QVERIFY(writeAll(garbage, QByteArray("\x01\x02<<<not xml at all>>>\xff", 22)));
+        c->init();
+        QVERIFY(!c->restoreConfig(garbage, true));
+        QVERIFY(!c->restoreConfig(m_work + QStringLiteral("missing.tavcfg"), true));
+        QCOMPARE(int(c->iAnswerTimeout), 1000);
+        QVERIFY(!c->hasLumidorElement(garbage));
+
+        // An older file: keys straight under the root element, no Lumidor.
+        const QString old = m_work + QStringLiteral("old.tavcfg");
+        QVERIFY(writeAll(old, "<?xml version=\"1.0\"?>\n<puregevpersistencefile version=\"1.0\">\n"
+                              "<iAnswerTimeout>300</iAnswerTimeout><device><x>1</x></device>"
+                              "<imageSaveFormat>PNG</imageSaveFormat><unknownKey>5</unknownKey>"
+                              "<deviceCtrlVisibility>Wizard</deviceCtrlVisibility>"
+                              "<streamingBufferCount>many</streamingBufferCount>"
+                              "<RemoteIpAddr>10.0.0.9</RemoteIpAddr></puregevpersistencefile>\n"));
+        QVERIFY(!c->hasLumidorElement(old));
+        c->init();
+        QVERIFY(c->restoreConfig(old, true));
+        QCOMPARE(int(c->iAnswerTimeout), 300);
+        QCOMPARE(c->imageSaveFormat, 3);
+        QCOMPARE(c->deviceCtrlVisibility, 2);
+        QCOMPARE(c->streamingBufferCount, 0u);
+        QCOMPARE(c->RemoteIpAddr, QStringLiteral("10.0.0.9"));
+
+        // A VideoFormat element (never written by us) resets the format to BMP;
+        // an out-of-range VideoForm index is ignored.
+        const QString vf = m_work + QStringLiteral("videoformat.tavcfg");
+        QVERIFY(writeAll(vf, "<puregevpersistencefile><Lumidor><imageSaveFormat>JPEG</imageSaveFormat>"
+                             "<VideoFormat>MP4</VideoFormat><DrawROI><VideoForm index=\"99\"><ROI><Left>5</Left>"
+                             "</ROI></VideoForm><VideoForm index=\"2\"><ROI><Left>7</Left></ROI></VideoForm>"
+                             "</DrawROI></Lumidor></puregevpersistencefile>"));
+        c->init();
+        QVERIFY(c->restoreConfig(vf, true));
+        QCOMPARE(c->imageSaveFormat, 0);
+        QCOMPARE(c->mapVideoFormROI.size(), 16);
+        QCOMPARE(c->mapVideoFormROI[2].size(), 1);
+        QCOMPARE(c->mapVideoFormROI[2][0].Left, qint64(7));
+
+        // A file that cannot be written reports false.
+        QVERIFY(!c->saveConfig(garbage + QStringLiteral("/sub/x.tavcfg")));
+        c->init();
+    }
+
+    void languageIni()
+    {
+        CConfiguration* c = cfg();
+        QFile::remove(c->languageIniPath());
+        QCOMPARE(c->readLanguageSetting(), 0);
+        QCOMPARE(c->readFeatureLanguageSetting(), 1);
+        c->writeLanguageSetting(1);
+        QCOMPARE(c->readLanguageSetting(), 1);
+        QCOMPARE(c->readFeatureLanguageSetting(), 1);
+        c->writeFeatureLanguageSetting(0);
+        QCOMPARE(c->readFeatureLanguageSetting(), 0);
+        {
+            QSettings ini(c->languageIniPath(), QSettings::IniFormat);
+            QCOMPARE(ini.value(QStringLiteral("language/lang")).toInt(), 1);
+            ini.setValue(QStringLiteral("language/featurelang"), QStringLiteral("abc"));
+        }
+        QCOMPARE(c->readFeatureLanguageSetting(), 0);
+    }
+
+    void settersSignalOnlyOnChange()
+    {
+        CConfiguration* c = cfg();
+        c->init();
+        QSignalSpy answer(c, &CConfiguration::signalAnswerTimeoutChanged);
+        QSignalSpy heartbeat(c, &CConfiguration::signalHeartbeatIntervalChanged);
+        QSignalSpy packet(c, &CConfiguration::signalInterPacketTimeoutChanged);
+        QSignalSpy resend(c, &CConfiguration::signalSingleResendMaxPackNumChanged);
+        QSignalSpy lost(c, &CConfiguration::signalMaximumLostPacketNumChanged);
+        QSignalSpy visibility(c, &CConfiguration::signalVisibilityChanged);
+
+        c->setAnswerTimeout(1000);
+        c->setHeartbeatInterval(1500);
+        c->setInterPacketTimeout(0);
+        c->setSingleResendMaxPackNum(65536);
+        c->setMaximumLostPacketNum(65536);
+        c->setVisibility(0);
+        QCOMPARE(answer.count() + heartbeat.count() + packet.count() + resend.count() + lost.count()
+                     + visibility.count(),
+                 0);
+
+        c->setAnswerTimeout(200);
+        c->setHeartbeatInterval(600);
+        c->setInterPacketTimeout(5);
+        c->setSingleResendMaxPackNum(7);
+        c->setMaximumLostPacketNum(8);
+        c->setVisibility(2);
+        c->setVisibility(2);
+        QCOMPARE(answer.count(), 1);
+        QCOMPARE(answer.at(0).at(0).value<uint16_t>(), uint16_t(200));
+        QCOMPARE(c->iAnswerTimeout, uint16_t(200));
+        QCOMPARE(heartbeat.count(), 1);
+        QCOMPARE(c->iHeartbeatIval, uint16_t(600));
+        QCOMPARE(packet.count(), 1);
+        QCOMPARE(resend.count(), 1);
+        QCOMPARE(lost.count(), 1);
+        QCOMPARE(c->iMaximumLostPacketNum, 8u);
+        QCOMPARE(visibility.count(), 1);
+        QCOMPARE(visibility.at(0).at(0).toInt(), 2);
+        c->init();
+    }
+};
+
+QTEST_GUILESS_MAIN(TestConfig)
+#include "test_config.moc"

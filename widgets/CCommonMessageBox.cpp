@@ -1,0 +1,162 @@
+#include "CCommonMessageBox.h"
+
+#include <QDesktopServices>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QUrl>
+#include <QVBoxLayout>
+
+CCommonMessageBox::CCommonMessageBox(QWidget* parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("CCommonMessageBox"));
+    setWindowTitle(QStringLiteral("Lumidor"));
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    setModal(true);
+
+    m_iconLabel = new QLabel(this);
+    m_iconLabel->setObjectName(QStringLiteral("messageIcon"));
+    m_iconLabel->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
+    m_iconLabel->hide();
+
+    m_messageLabel = new QLabel(this);
+    m_messageLabel->setObjectName(QStringLiteral("messageText"));
+    m_messageLabel->setWordWrap(true);
+    m_messageLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_messageLabel->setMinimumWidth(280);
+
+    m_fileRow = new QWidget(this);
+    m_fileRow->setObjectName(QStringLiteral("messageFileRow"));
+    m_fileLabel = new QLabel(m_fileRow);
+    m_fileLabel->setObjectName(QStringLiteral("messageFile"));
+    m_fileLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_openFileButton = new QPushButton(tr("Open file"), m_fileRow);
+    m_openFileButton->setObjectName(QStringLiteral("btnOpenFile"));
+    m_openFileButton->setAutoDefault(false);
+    auto* fileLayout = new QHBoxLayout(m_fileRow);
+    fileLayout->setContentsMargins(0, 0, 0, 0);
+    fileLayout->addWidget(m_fileLabel, 1);
+    fileLayout->addWidget(m_openFileButton);
+    m_fileRow->hide();
+    connect(m_openFileButton, &QPushButton::clicked, this, &CCommonMessageBox::onOpenFileClicked);
+
+    m_buttonBox = new QDialogButtonBox(this);
+    m_buttonBox->setCenterButtons(false);
+    connect(m_buttonBox, &QDialogButtonBox::clicked, this, &CCommonMessageBox::onButtonClicked);
+
+    auto* top = new QHBoxLayout;
+    top->setSpacing(14);
+    top->addWidget(m_iconLabel);
+    top->addWidget(m_messageLabel, 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(18, 16, 18, 12);
+    layout->setSpacing(12);
+    layout->addLayout(top, 1);
+    layout->addWidget(m_fileRow);
+    layout->addWidget(m_buttonBox);
+
+    setButtons(QMessageBox::Ok);
+}
+
+void CCommonMessageBox::setMessage(const QString& text)
+{
+    m_messageLabel->setText(text);
+}
+
+QString CCommonMessageBox::message() const
+{
+    return m_messageLabel->text();
+}
+
+void CCommonMessageBox::setButtons(QMessageBox::StandardButtons buttons)
+{
+    if (buttons == QMessageBox::NoButton)
+        buttons = QMessageBox::Ok;
+    m_buttons = buttons;
+    // QDialogButtonBox and QMessageBox share the values of their standard buttons.
+    m_buttonBox->setStandardButtons(QDialogButtonBox::StandardButtons(int(buttons)));
+    const QList<QAbstractButton*> list = m_buttonBox->buttons();
+    for (QAbstractButton* b : list) {
+        if (auto* push = qobject_cast<QPushButton*>(b)) {
+            const int role = m_buttonBox->buttonRole(b);
+            push->setDefault(role == QDialogButtonBox::AcceptRole || role == QDialogButtonBox::YesRole);
+        }
+    }
+}
+
+void CCommonMessageBox::setIcon(QMessageBox::Icon icon)
+{
+    m_icon = icon;
+    QStyle::StandardPixmap pixmap = QStyle::SP_CustomBase;
+    QString title = QStringLiteral("Lumidor");
+    switch (icon) {
+    case QMessageBox::Information:
+        pixmap = QStyle::SP_MessageBoxInformation;
+        title = tr("Information");
+        break;
+    case QMessageBox::Warning:
+        pixmap = QStyle::SP_MessageBoxWarning;
+        title = tr("Warning");
+        break;
+    case QMessageBox::Critical:
+        pixmap = QStyle::SP_MessageBoxCritical;
+        title = tr("Error");
+        break;
+    case QMessageBox::Question:
+        pixmap = QStyle::SP_MessageBoxQuestion;
+        title = tr("Question");
+        break;
+    default:
+        break;
+    }
+    setWindowTitle(title);
+    if (pixmap == QStyle::SP_CustomBase) {
+        m_iconLabel->clear();
+        m_iconLabel->hide();
+        return;
+    }
+    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+    m_iconLabel->setPixmap(style()->standardIcon(pixmap, nullptr, this).pixmap(size, size));
+    m_iconLabel->show();
+}
+
+void CCommonMessageBox::setFilePath(const QString& path)
+{
+    m_filePath = path;
+    m_fileLabel->setText(path.isEmpty() ? QString() : QFileInfo(path).fileName());
+    m_fileLabel->setToolTip(path);
+    m_fileRow->setVisible(!path.isEmpty());
+}
+
+QPushButton* CCommonMessageBox::button(QMessageBox::StandardButton which) const
+{
+    return m_buttonBox->button(QDialogButtonBox::StandardButton(int(which)));
+}
+
+void CCommonMessageBox::onButtonClicked(QAbstractButton* button)
+{
+    done(int(m_buttonBox->standardButton(button)));
+}
+
+void CCommonMessageBox::onOpenFileClicked()
+{
+    if (!m_filePath.isEmpty())
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(m_filePath).absoluteFilePath()));
+}
+
+void CCommonMessageBox::reject()
+{
+    if (m_buttons.testFlag(QMessageBox::Cancel))
+        done(QMessageBox::Cancel);
+    else if (m_buttons.testFlag(QMessageBox::No))
+        done(QMessageBox::No);
+    else if (m_buttonBox->buttons().size() == 1)
+        done(int(m_buttonBox->standardButton(m_buttonBox->buttons().first())));
+    else
+        done(QMessageBox::NoButton);
+}
