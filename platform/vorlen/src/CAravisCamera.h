@@ -2,13 +2,25 @@
 // The camera object behind ICamera/CInternalCamera, over an Aravis device.
 // One object per physical camera for the life of the process: discovery
 // updates it in place, so the key and every shared pointer stay valid.
+// GLib names a struct member "signals", which Qt defines as a keyword:
+// keep Qt's macro out of the Aravis headers whatever was included first.
+#ifdef signals
+#pragma push_macro("signals")
+#undef signals
 #include <arv.h>
+#pragma pop_macro("signals")
+#else
+#include <arv.h>
+#endif
+#include <memory>
 #include <mutex>
 #include <string>
 #include "Vorlen/GenICam/ICamera.h"
 
 namespace Vorlen {
 namespace GenICam {
+
+class CNodeMap;
 
 class CAravisCamera : public CInternalCamera
 {
@@ -61,7 +73,27 @@ public:
     // this camera; Aravis' node map is not thread-safe.
     std::recursive_mutex& gcMutex() const { return m_gcMutex; }
 
+    // Makes a camera that knows its own shared pointer (the registry makes
+    // every camera this way; camera-loss handling relies on it).
+    static Memory::TSharedPtr<CAravisCamera> create(const SDiscoveryInfo& info);
+    // Answer timeout of the library's own GVCP exchanges with the camera.
+    unsigned int answerTimeoutMs() const;
+    // Dependencies, selectors and events of the connected camera's
+    // description; null when not connected. Call under gcMutex().
+    std::shared_ptr<CNodeMap> nodeMap();
+    // Message channel: opened while connected and somebody subscribed.
+    bool openMessageChannel();
+    void closeMessageChannel();
+    uint16_t messageChannelPort() const;
+    // Privilege this process holds on the camera (Open when not connected).
+    ECameraAccessPermission heldPermission() const;
+    // Runs on the event thread after Aravis reported the camera lost during
+    // the connection numbered generation.
+    void handleLost(uint64_t generation);
+
 private:
+    void releaseConnection(bool cameraAlive);
+
     mutable std::recursive_mutex m_gcMutex;
     struct SPrivate;
     SPrivate* p;

@@ -4,7 +4,10 @@
 // (writes) and streams (per-frame status); callbacks run on the hub's own
 // dispatch thread, never on the publisher's, so a slow subscriber never
 // stalls a stream or a GUI call.
+#include <functional>
+#include <memory>
 #include "Vorlen/GenICam/ICamera.h"
+#include "Vorlen/GenICam/CInternalEventManager.h"
 
 namespace Vorlen {
 namespace GenICam {
@@ -18,6 +21,44 @@ void publishMsgChannel(const ICamera* camera, const SMsgChannelArg& arg);
 // True when anybody subscribed to stream events of this camera (lets the
 // stream skip building records nobody reads).
 bool hasStreamSubscribers(const ICamera* camera);
+
+// --- Internal to the library -------------------------------------------
+
+enum EKind
+{
+    kindConnect = 0,
+    kindParamUpdate,
+    kindStream,
+    kindMsgChannel
+};
+
+// The handlers of one event manager. Handlers are changed only through
+// setHandler so that the dispatch thread never sees a half-written one.
+struct SSubscriber
+{
+    const ICamera* camera = nullptr;
+    CInternalEventManager::ConnectProc onConnect;
+    CInternalEventManager::ParamUpdateProc onParamUpdate;
+    CInternalEventManager::StreamProc onStream;
+    CInternalEventManager::MsgChannelProc onMsgChannel;
+};
+
+void attach(const std::shared_ptr<SSubscriber>& subscriber);
+// Removes the subscriber; once it returns (off the dispatch thread) none of
+// its handlers runs any more.
+void detach(const std::shared_ptr<SSubscriber>& subscriber);
+void setConnectHandler(SSubscriber& s, const CInternalEventManager::ConnectProc& proc);
+void setParamUpdateHandler(SSubscriber& s, const CInternalEventManager::ParamUpdateProc& proc);
+void setStreamHandler(SSubscriber& s, const CInternalEventManager::StreamProc& proc);
+void setMsgChannelHandler(SSubscriber& s, const CInternalEventManager::MsgChannelProc& proc);
+bool hasSubscribers(const ICamera* camera, EKind kind);
+
+// Runs a task on the dispatch thread, after the events queued before it.
+void post(const std::function<void()>& task);
+bool onDispatchThread();
+// Waits until everything queued so far has been delivered (not from the
+// dispatch thread itself; returns false on timeout).
+bool flush(unsigned int timeoutMs);
 
 } // namespace EventHub
 } // namespace GenICam

@@ -1,0 +1,174 @@
+#include <arv.h>
+
+#include "FakeCameraRig.h"
+
+#include "SimCamSetup.h"
+
+#include <arpa/inet.h>
+#include <ifaddrs.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <thread>
+
+namespace {
+
+// Aravis' fake camera binds its control port with address reuse, so a second
+// camera on the same address starts "successfully" and the two answer at
+// random. A plain bind tells whether the port is taken.
+bool controlPortFree(const std::string& address)
+{
+    const int fd = ::socket(AF_INET, SOCK_DGRAM, 0);
+    if (fd < 0)
+        return false;
+    sockaddr_in a{};
+    a.sin_family = AF_INET;
+    a.sin_port = htons(3956);
+    inet_pton(AF_INET, address.c_str(), &a.sin_addr);
+    const bool free = ::bind(fd, reinterpret_cast<sockaddr*>(&a), sizeof(a)) == 0;
+    ::close(fd);
+    return free;
+}
+
+} // namespace
+
+FakeCameraRig::FakeCameraRig() = default;
+
+FakeCameraRig::~FakeCameraRig()
+{
+    stopAll();
+}
+
+int FakeCameraRig::start(const std::string& address, const std::string& serial, const std::string& xmlPath, int width,
+                         int height, const std::string& pixelFormat)
+{
+    if (!hasAddress(address))
+        return -1;
+    // Another process (a test running beside this one) may hold the address
+    // for a while: wait for it rather than fight over the port.
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(kPortWaitSeconds);
+    while (!controlPortFree(address)) {
+        if (std::chrono::steady_clock::now() > deadline)
+            return -1;
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    }
+    const std::string xml = xmlPath.empty() ? defaultXmlPath() : xmlPath;
+    ArvGvFakeCamera* camera = arv_gv_fake_camera_new_full(address.c_str(), serial.c_str(), xml.c_str());
+    if (!camera)
+        return -1;
+    if (!arv_gv_fake_camera_is_running(camera)) {
+        g_object_unref(camera);
+        return -1;
+    }
+    ArvFakeCamera* fake = arv_gv_fake_camera_get_fake_camera(camera);
+    SimCam::setup(fake, serial);
+    if (width > 0)
+        arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_WIDTH, uint32_t(width));
+    if (height > 0)
+        arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_HEIGHT, uint32_t(height));
+    if (!pixelFormat.empty()) {
+        const uint32_t code = pixelFormatCode(pixelFormat);
+        if (code != 0)
+            arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_PIXEL_FORMAT, code);
+    }
+    SEntry e;
+    e.camera = camera;
+    e.address = address;
+    e.serial = serial;
+    m_cameras.push_back(e);
+    return int(m_cameras.size()) - 1;
+}
+
+void FakeCameraRig::stop(int i)
+{
+    if (i < 0 || i >= count() || !m_cameras[i].camera)
+        return;
+    g_object_unref(m_cameras[i].camera);
+    m_cameras[i].camera = nullptr;
+}
+
+void FakeCameraRig::stopAll()
+{
+    for (int i = 0; i < count(); ++i)
+        stop(i);
+}
+
+bool FakeCameraRig::isRunning(int i) const
+{
+    return i >= 0 && i < count() && m_cameras[i].camera;
+}
+
+ArvFakeCamera* FakeCameraRig::fake(int i) const
+{
+    return isRunning(i) ? arv_gv_fake_camera_get_fake_camera(m_cameras[i].camera) : nullptr;
+}
+
+ArvGvFakeCamera* FakeCameraRig::gvFake(int i) const
+{
+    return isRunning(i) ? m_cameras[i].camera : nullptr;
+}
+
+std::string FakeCameraRig::address(int i) const
+{
+    return (i >= 0 && i < count()) ? m_cameras[i].address : std::string();
+}
+
+std::string FakeCameraRig::serial(int i) const
+{
+    return (i >= 0 && i < count()) ? m_cameras[i].serial : std::string();
+}
+
+bool FakeCameraRig::writeRegister(int i, uint32_t address, uint32_t value)
+{
+    ArvFakeCamera* f = fake(i);
+    return f && arv_fake_camera_write_register(f, address, value);
+}
+
+bool FakeCameraRig::readRegister(int i, uint32_t address, uint32_t& value) const
+{
+    ArvFakeCamera* f = fake(i);
+    return f && arv_fake_camera_read_register(f, address, &value);
+}
+
+std::string FakeCameraRig::defaultXmlPath()
+{
+    const char* env = std::getenv("LUMIDOR_SOURCE_DIR");
+    std::string root = (env && *env) ? env : LUMIDOR_SOURCE_DIR_FALLBACK;
+    return root + "/res/simcam/LumidorSimCam.xml";
+}
+
+bool FakeCameraRig::hasAddress(const std::string& address)
+{
+    in_addr wanted{};
+    if (inet_pton(AF_INET, address.c_str(), &wanted) != 1)
+        return false;
+    ifaddrs* list = nullptr;
+    if (getifaddrs(&list) != 0)
+        return false;
+    bool found = false;
+    for (ifaddrs* it = list; it && !found; it = it->ifa_next) {
+        if (it->ifa_addr && it->ifa_addr->sa_family == AF_INET)
+            found = reinterpret_cast<sockaddr_in*>(it->ifa_addr)->sin_addr.s_addr == wanted.s_addr;
+    }
+    freeifaddrs(list);
+    return found;
+}
+
+uint32_t FakeCameraRig::pixelFormatCode(const std::string& name)
+{
+    struct SFormat { const char* name; uint32_t code; };
+    static const SFormat formats[] = {
+        {"Mono8", ARV_PIXEL_FORMAT_MONO_8},         {"Mono16", ARV_PIXEL_FORMAT_MONO_16},
+        {"BayerRG8", ARV_PIXEL_FORMAT_BAYER_RG_8},  {"BayerGR8", ARV_PIXEL_FORMAT_BAYER_GR_8},
+        {"BayerGB8", ARV_PIXEL_FORMAT_BAYER_GB_8},  {"BayerBG8", ARV_PIXEL_FORMAT_BAYER_BG_8},
+        {"RGB8", ARV_PIXEL_FORMAT_RGB_8_PACKED},    {"RGB8Packed", ARV_PIXEL_FORMAT_RGB_8_PACKED},
+    };
+    for (const SFormat& f : formats)
+        if (name == f.name)
+            return f.code;
+    return 0;
+}
