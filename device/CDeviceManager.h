@@ -1,0 +1,62 @@
+#pragma once
+// The map of known devices, keyed by the camera key, and the publisher of the
+// message bus: device signals arrive here on the GUI thread and leave as
+// CTavMessages to every observer of the subject.
+#include <QMap>
+#include <QMutex>
+#include <QObject>
+#include <QString>
+
+#include "CSubject.h"
+#include "CTavMessage.h"
+#include "IMsgSink.h"
+
+class CDiscoveryDevicesThread;
+
+class CDeviceManager : public QObject, public IMsgSink
+{
+    Q_OBJECT
+public:
+    // Created on first use, on the calling (GUI) thread; the constructor
+    // starts the discovery worker and asks for the first pass.
+    static CDeviceManager* getInstance();
+    // Closes every open device, stops discovery and deletes the manager (and
+    // the discovery worker); the next getInstance() starts afresh.
+    static void destroyInstance();
+
+    CTavDevicePtr getDeviceByKey(const QString& key);
+    QMap<QString, CTavDevicePtr> getAllDevices();
+    int getOpenedDeviceCount();
+    // Asks the discovery worker for a pass (see CDiscoveryDevicesThread::StartDiscovery).
+    void refreshDeviceMap(const QString& ip, int flags);
+
+    CSubject* getSubject() { return &m_subject; }
+    void attach(CObserver* observer) { m_subject.Attach(observer); }
+    void detach(CObserver* observer) { m_subject.Detach(observer); }
+
+signals:
+    // The device map has been rebuilt after a discovery pass.
+    void discoveryDevicesFinished();
+
+public slots:
+    void on_discoveryDevicesFinished(bool ok);
+    void on_Device_Param_Update(const Vorlen::GenICam::SParamUpdataArg arg, QString key);
+    void on_Device_Stream_Event(const Vorlen::GenICam::SStreamArg arg, QString key);
+    void on_Device_Msg_Channel(const Vorlen::GenICam::SMsgChannelArg arg, QString key);
+    void on_Device_Status_Changed(EN_MESSAGE_TYPE type, CTavDevicePtr device);
+
+protected:
+    QObject* sinkObject() override { return this; }
+
+private:
+    CDeviceManager();
+    ~CDeviceManager() override;
+
+    void connectDevice(const CTavDevicePtr& device);
+    void disconnectDevice(const CTavDevicePtr& device);
+
+    QMutex m_mapMutex;   // the disconnect-all worker reads the map too
+    QMap<QString, CTavDevicePtr> m_mapDevices;
+    CSubject m_subject;
+    CDiscoveryDevicesThread* m_pDiscovery = nullptr;
+};

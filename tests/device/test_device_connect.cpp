@@ -1,0 +1,290 @@
+// One device against a simulated camera: connect, stream, close and again,
+// without leaking threads; a second open during a connection; a camera held
+// by another client; the bus messages the manager publishes.
+// GLib headers come before Qt's: Qt defines "signals" as a keyword.
+#include <arv.h>
+#include "FakeCameraRig.h"
+#include <QSignalSpy>
+#include <QtTest>
+
+#include "CConfiguration.h"
+#include "CDeviceManager.h"
+#include "CTavDevice.h"
+#include "DeviceTestSupport.h"
+
+// Configuration files go to the test's own home (CTest sets HOME per test).
+static const bool g_ownHome = []() {
+    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
+        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
+    return true;
+}();
+
+using namespace Vorlen::GenICam;
+
+class TestDeviceConnect : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void openStreamCloseRepeatedly();
+    void secondOpenDuringConnectStartsNothing();
+    void synchronousOpenAndClose();
+    void refusedWhenAnotherClientHoldsControl();
+    void busMessagesFromDeviceSignals();
+    void streamNeedsConnection();
+
+private:
+    FakeCameraRig m_rig;
+    BusRecorder m_bus;
+    CTavDevicePtr m_device;
+    QString m_key;
+};
+
+void TestDeviceConnect::initTestCase()
+{
+    enableLogWhenAsked();
+    if (m_rig.start("127.0.0.1", "LUMCONN1", std::string(), 320, 240, "Mono8") < 0)
+        QSKIP("the simulated camera cannot start on 127.0.0.1");
+
+    CDeviceManager* manager = CDeviceManager::getInstance();
+    manager->attach(&m_bus);
+    QVERIFY(QTest::qWaitFor([&]() { return findDeviceBySerial("LUMCONN1") != nullptr; }, 15000) ||
+            (rediscover() && findDeviceBySerial("LUMCONN1")));
+    m_device = findDeviceBySerial("LUMCONN1");
+    QVERIFY(m_device);
+    m_device->getDeviceKey(m_key);
+    QVERIFY(!m_key.isEmpty());
+    QCOMPARE(manager->getDeviceByKey(m_key), m_device);
+    QCOMPARE(manager->getOpenedDeviceCount(), 0);
+}
+
+void TestDeviceConnect::cleanupTestCase()
+{
+    m_device.reset();
+    if (CDeviceManager* manager = CDeviceManager::getInstance())
+        manager->detach(&m_bus);
+    CDeviceManager::destroyInstance();
+}
+
+void TestDeviceConnect::init()
+{
+    // Queued messages of the previous case are delivered before the slate is cleaned.
+    QTest::qWait(100);
+    m_bus.clear();
+}
+
+void TestDeviceConnect::openStreamCloseRepeatedly()
+{
+    CDeviceManager* manager = CDeviceManager::getInstance();
+    FrameCounter counter(m_device.get());
+    int baseline = -1;
+
+    for (int round = 0; round < 20; ++round)
+    {
+        m_bus.clear();
+        counter.frames = 0;
+
+        QVERIFY(m_device->openDevice(false));
+        QVERIFY(m_device->isConnecting());
+        QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key));
+        QVERIFY(m_device->isConnected());
+        QVERIFY(!m_device->isConnecting());
+        QVERIFY(m_device->getStreamSource());
+        QVERIFY(m_device->getEventManager());
+        QCOMPARE(manager->getOpenedDeviceCount(), 1);
+
+        QVERIFY2(m_device->openStream(), qPrintable(QString("round %1").arg(round)));
+        QVERIFY(m_device->isGrabing());
+        QVERIFY(m_device->GetStreamThread()->isRunning());
+        QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, m_key));
+        QTRY_VERIFY_WITH_TIMEOUT(counter.frames >= 3, 10000);
+        QVERIFY(counter.valid == counter.frames || counter.valid > 0);
+
+        QString rx, disp, bw;
+        unsigned long long total = 0;
+        QTRY_VERIFY_WITH_TIMEOUT((m_device->getStreamStatistic(rx, disp, total, bw), total >= 3), 5000);
+
+        QVERIFY(m_device->closeDevice(false));
+        QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
+        QVERIFY(!m_device->isConnected());
+        QVERIFY(!m_device->isDisconnecting());
+        QVERIFY(!m_device->isGrabing());
+        QVERIFY(!m_device->GetStreamThread()->isRunning());
+        QVERIFY(!m_device->getStreamSource());
+        QVERIFY(!m_device->getEventManager());
+        QCOMPARE(manager->getOpenedDeviceCount(), 0);
+        QCOMPARE(m_bus.statusTypes(m_key),
+                 QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECTED, MSG_STREAM_OPENED, MSG_DEVICE_DISCONNECTING,
+                             MSG_STREAM_CLOSED, MSG_DEVICE_DISCONNECTED}));
+
+        // Every thread of a round ends with it: after the first rounds the
+        // count comes back to the same figure each time.
+        if (round == 1)
+        {
+            QTest::qWait(300);
+            baseline = liveThreadCount();
+        }
+        else if (round > 1)
+        {
+            QTRY_VERIFY2_WITH_TIMEOUT(liveThreadCount() <= baseline,
+                                      qPrintable(QString("round %1: %2 threads, baseline %3")
+                                                     .arg(round)
+                                                     .arg(liveThreadCount())
+                                                     .arg(baseline)),
+                                      5000);
+        }
+    }
+}
+
+void TestDeviceConnect::secondOpenDuringConnectStartsNothing()
+{
+    QVERIFY(m_device->openDevice(false));
+    QVERIFY(!m_device->openDevice(false));   // the worker still runs
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key));
+    QTest::qWait(300);
+    QCOMPARE(m_bus.count(MSG_DEVICE_CONNECTING, m_key), 1);
+    QCOMPARE(m_bus.count(MSG_DEVICE_CONNECTED, m_key), 1);
+    QCOMPARE(m_bus.count(MSG_DEVICE_CONNECT_FAILED, m_key), 0);
+
+    // Open while connected changes nothing either.
+    QVERIFY(!m_device->openDevice(false));
+    QVERIFY(m_device->isConnected());
+
+    QVERIFY(m_device->closeDevice(false));
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
+}
+
+void TestDeviceConnect::synchronousOpenAndClose()
+{
+    QVERIFY(m_device->openDevice(true));
+    QVERIFY(m_device->isConnected());
+    QVERIFY(m_device->getStreamSource());
+    QVERIFY(m_device->openStream());
+    // Already grabbing: a second open of the stream is refused.
+    QVERIFY(!m_device->openStream());
+    QVERIFY(m_device->closeDevice(true));
+    QVERIFY(!m_device->isConnected());
+    QVERIFY(!m_device->GetStreamThread()->isRunning());
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
+    QCOMPARE(m_bus.statusTypes(m_key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECTED, MSG_STREAM_OPENED,
+                                             MSG_DEVICE_DISCONNECTING, MSG_STREAM_CLOSED, MSG_DEVICE_DISCONNECTED}));
+}
+
+void TestDeviceConnect::refusedWhenAnotherClientHoldsControl()
+{
+    // Another client opens the camera and takes control of it.
+    GError* error = nullptr;
+    ArvDevice* other = arv_open_device("127.0.0.1", &error);
+    if (!other)
+    {
+        const QString why = error ? QString(error->message) : QString();
+        g_clear_error(&error);
+        QFAIL(qPrintable("second client cannot open the camera: " + why));
+    }
+    QVERIFY(ARV_IS_GV_DEVICE(other));
+    if (!arv_gv_device_is_controller(ARV_GV_DEVICE(other)))
+        arv_gv_device_take_control(ARV_GV_DEVICE(other), nullptr);
+    QVERIFY(arv_gv_device_is_controller(ARV_GV_DEVICE(other)));
+
+    // The access permission as seen from here.
+    m_device->refreshAccessPermission();
+    QVERIFY(m_bus.waitFor(MSG_ACCESS_STATUS_CHANGED, m_key));
+    QVERIFY(m_device->getAccessPermission() == accessPermissionControl ||
+            m_device->getAccessPermission() == accessPermissionExclusive);
+
+    m_bus.clear();
+    QVERIFY(m_device->openDevice(false));
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECT_FAILED, m_key, 20000));
+    QTest::qWait(300);
+    QCOMPARE(m_bus.statusTypes(m_key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECT_FAILED}));
+    QVERIFY(!m_device->isConnected());
+    QVERIFY(!m_device->isConnecting());
+    QVERIFY(!m_device->getEventManager());
+    QVERIFY(!m_device->getStreamSource());
+    QVERIFY(!m_device->openStream());
+
+    g_object_unref(other);
+
+    // Once the other client has gone the camera can be opened again.
+    m_bus.clear();
+    m_device->refreshAccessPermission();
+    QVERIFY(m_bus.waitFor(MSG_ACCESS_STATUS_CHANGED, m_key));
+    QCOMPARE(int(m_device->getAccessPermission()), int(accessPermissionOpen));
+    QVERIFY(m_device->openDevice(true));
+    QVERIFY(m_device->closeDevice(true));
+}
+
+void TestDeviceConnect::busMessagesFromDeviceSignals()
+{
+    CDeviceManager* manager = CDeviceManager::getInstance();
+
+    // Events of a key the manager does not hold reach nobody.
+    SParamUpdataArg param;
+    param.paramNames.push_back("Width");
+    param.paramNames.push_back("PayloadSize");
+    manager->on_Device_Param_Update(param, "no such key");
+    manager->on_Device_Stream_Event(SStreamArg(), "no such key");
+    manager->on_Device_Msg_Channel(SMsgChannelArg(), "no such key");
+    QTest::qWait(100);
+    QVERIFY2(m_bus.records.isEmpty(), qPrintable(m_bus.dump()));
+
+    // For a known key each becomes one message with the record copied.
+    SStreamArg stream;
+    stream.blockId = 42;
+    stream.eStreamEventStatus = streamEventLostPacket;
+    SMsgChannelArg channel;
+    channel.eventID = 0x9001;
+    channel.paramNames.push_back("EventExposureEndTimestamp");
+    manager->on_Device_Param_Update(param, m_key);
+    manager->on_Device_Stream_Event(stream, m_key);
+    manager->on_Device_Msg_Channel(channel, m_key);
+    QTRY_COMPARE(m_bus.records.size(), 3);
+    QCOMPARE(int(m_bus.records[0].type), int(MSG_PARAM_UPDATE));
+    QCOMPARE(m_bus.records[0].msg->device, m_device);
+    QCOMPARE(int(m_bus.records[0].msg->paramUpdateArg.paramNames.size()), 2);
+    QCOMPARE(QString(m_bus.records[0].msg->paramUpdateArg.paramNames[1].c_str()), QString("PayloadSize"));
+    QCOMPARE(int(m_bus.records[1].type), int(MSG_STREAM_EVENT));
+    QCOMPARE(m_bus.records[1].msg->streamArg.blockId, 42ull);
+    QCOMPARE(int(m_bus.records[2].type), int(MSG_MSG_CHANNEL));
+    QCOMPARE(int(m_bus.records[2].msg->msgChannelArg.eventID), 0x9001);
+
+    // Device signals travel to the manager and come out as messages.
+    m_bus.clear();
+    emit m_device->device_param_update(param, m_key);
+    QTRY_COMPARE(m_bus.count(MSG_PARAM_UPDATE, m_key), 1);
+
+    // Status changes are always published.
+    m_bus.clear();
+    manager->on_Device_Status_Changed(MSG_ACCESS_STATUS_CHANGED, m_device);
+    manager->on_Device_Status_Changed(MSG_DEVICE_OFFLINE, CTavDevicePtr());
+    QTRY_COMPARE(m_bus.records.size(), 2);
+    QCOMPARE(m_bus.records[0].msg->device, m_device);
+    QCOMPARE(int(m_bus.records[1].type), int(MSG_DEVICE_OFFLINE));
+    QVERIFY(!m_bus.records[1].msg->device);
+
+    // A discovery pass ends with a type-0 message without a device.
+    m_bus.clear();
+    QVERIFY(rediscover());
+    QTRY_COMPARE(m_bus.count(MSG_DISCOVERY_FINISHED), 1);
+    for (const BusRecord& r : m_bus.records)
+        if (r.type == MSG_DISCOVERY_FINISHED)
+            QVERIFY(!r.msg->device);
+    // The same camera keeps its device object across passes.
+    QCOMPARE(manager->getDeviceByKey(m_key), m_device);
+}
+
+void TestDeviceConnect::streamNeedsConnection()
+{
+    QVERIFY(!m_device->isConnected());
+    QVERIFY(!m_device->openStream());
+    QVERIFY(!m_device->GetStreamThread()->isRunning());
+
+    // The save name is a usable file-name stem ending in the serial number.
+    const QString save = m_device->getDeviceSaveName();
+    QVERIFY2(save.endsWith("_LUMCONN1") && !save.contains('/') && !save.contains(' '), qPrintable(save));
+}
+
+QTEST_GUILESS_MAIN(TestDeviceConnect)
+#include "test_device_connect.moc"

@@ -1,0 +1,186 @@
+// The device manager with two simulated cameras: disconnect-all, a camera
+// lost while streaming and found again, and the map across discovery passes.
+// GLib headers come before Qt's: Qt defines "signals" as a keyword.
+#include "FakeCameraRig.h"
+#include <QSignalSpy>
+#include <QtTest>
+
+#include "CConfiguration.h"
+#include "CDeviceManager.h"
+#include "CDisconnectAllThread.h"
+#include "CTavDevice.h"
+#include "DeviceTestSupport.h"
+
+// Configuration files go to the test's own home (CTest sets HOME per test).
+static const bool g_ownHome = []() {
+    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
+        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
+    return true;
+}();
+
+using namespace Vorlen::GenICam;
+
+class TestDeviceManager : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void disconnectAllClosesEveryDevice();
+    void offlineWhileStreamingThenBack();
+    void managerCanBeRecreated();
+
+private:
+    bool startCamera(int slot);
+    bool waitForDevices();
+
+    FakeCameraRig m_rig;
+    BusRecorder m_bus;
+    int m_cam[2] = {-1, -1};
+    const char* m_address[2] = {"127.0.0.3", "127.0.0.4"};
+    const char* m_serial[2] = {"LUMMGR01", "LUMMGR02"};
+};
+
+bool TestDeviceManager::startCamera(int slot)
+{
+    m_cam[slot] = m_rig.start(m_address[slot], m_serial[slot], std::string(), 320, 240, "Mono8");
+    return m_cam[slot] >= 0;
+}
+
+bool TestDeviceManager::waitForDevices()
+{
+    return QTest::qWaitFor(
+        [&]() { return findDeviceBySerial(m_serial[0]) && findDeviceBySerial(m_serial[1]); }, 15000);
+}
+
+void TestDeviceManager::initTestCase()
+{
+    enableLogWhenAsked();
+    if (!FakeCameraRig::hasAddress(m_address[0]) || !FakeCameraRig::hasAddress(m_address[1]))
+        QSKIP("127.0.0.3 and 127.0.0.4 are not configured (scripts/loopback.sh adds them)");
+    QVERIFY(startCamera(0));
+    QVERIFY(startCamera(1));
+
+    // Quick loss detection for the offline case.
+    CConfiguration::getInstance()->iHeartbeatIval = 500;
+    CConfiguration::getInstance()->iAnswerTimeout = 200;
+
+    CDeviceManager::getInstance()->attach(&m_bus);
+    QVERIFY(waitForDevices() || (rediscover() && waitForDevices()));
+}
+
+void TestDeviceManager::cleanupTestCase()
+{
+    if (CDeviceManager* manager = CDeviceManager::getInstance())
+        manager->detach(&m_bus);
+    CDeviceManager::destroyInstance();
+}
+
+void TestDeviceManager::init()
+{
+    // Queued messages of the previous case are delivered before the slate is cleaned.
+    QTest::qWait(100);
+    m_bus.clear();
+}
+
+void TestDeviceManager::disconnectAllClosesEveryDevice()
+{
+    CDeviceManager* manager = CDeviceManager::getInstance();
+    QList<CTavDevicePtr> devices = {findDeviceBySerial(m_serial[0]), findDeviceBySerial(m_serial[1])};
+    FrameCounter counter0(devices[0].get());
+    FrameCounter counter1(devices[1].get());
+    for (const CTavDevicePtr& device : devices)
+    {
+        QVERIFY(device->openDevice(false));
+        QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, device->getDeviceKey()));
+        QVERIFY(device->openStream());
+    }
+    QCOMPARE(manager->getOpenedDeviceCount(), 2);
+    QTRY_VERIFY_WITH_TIMEOUT(counter0.frames >= 2 && counter1.frames >= 2, 10000);
+
+    CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
+    QSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
+    QSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
+    closer->start();
+    QVERIFY(finished.wait(15000));
+    QCOMPARE(begin.count(), 1);
+    QVERIFY(closer->wait(5000));
+
+    QCOMPARE(manager->getOpenedDeviceCount(), 0);
+    for (const CTavDevicePtr& device : devices)
+    {
+        QVERIFY(!device->isConnected());
+        QVERIFY(!device->GetStreamThread()->isRunning());
+        QTRY_COMPARE(m_bus.count(MSG_DEVICE_DISCONNECTED, device->getDeviceKey()), 1);
+        QCOMPARE(m_bus.count(MSG_STREAM_CLOSED, device->getDeviceKey()), 1);
+    }
+
+    // Nothing open: it finishes at once.
+    closer->start();
+    QVERIFY(finished.wait(5000));
+    QVERIFY(closer->wait(5000));
+}
+
+void TestDeviceManager::offlineWhileStreamingThenBack()
+{
+    CTavDevicePtr device = findDeviceBySerial(m_serial[0]);
+    QVERIFY(device);
+    const QString key = device->getDeviceKey();
+    FrameCounter counter(device.get());
+
+    QVERIFY(device->openDevice(false));
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, key));
+    QVERIFY(device->openStream());
+    QTRY_VERIFY_WITH_TIMEOUT(counter.frames >= 2, 10000);
+
+    // The camera disappears.
+    m_rig.stop(m_cam[0]);
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_OFFLINE, key, 30000));
+    QVERIFY(!device->isConnected());
+    QVERIFY(!device->GetStreamThread()->isRunning());
+    QVERIFY(!device->getStreamSource());
+    QCOMPARE(CDeviceManager::getInstance()->getOpenedDeviceCount(), 0);
+    QCOMPARE(m_bus.count(MSG_DEVICE_OFFLINE, key), 1);
+    QCOMPARE(m_bus.count(MSG_DEVICE_DISCONNECTED, key), 0);
+
+    // Back on the network: found again under its key, with the same object,
+    // and it connects and streams again.
+    QVERIFY(startCamera(0));
+    QVERIFY(rediscover());
+    QTRY_VERIFY_WITH_TIMEOUT(CDeviceManager::getInstance()->getDeviceByKey(key) != nullptr, 15000);
+    QCOMPARE(CDeviceManager::getInstance()->getDeviceByKey(key), device);
+
+    m_bus.clear();
+    counter.frames = 0;
+    QVERIFY(device->openDevice(false));
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, key, 15000));
+    QVERIFY(device->openStream());
+    QTRY_VERIFY_WITH_TIMEOUT(counter.frames >= 2, 10000);
+    QVERIFY(device->closeDevice(true));
+    QVERIFY(!device->isConnected());
+}
+
+void TestDeviceManager::managerCanBeRecreated()
+{
+    CDeviceManager* manager = CDeviceManager::getInstance();
+    CTavDevicePtr device = findDeviceBySerial(m_serial[1]);
+    QVERIFY(device);
+    QVERIFY(device->openDevice(true));
+    manager->detach(&m_bus);
+
+    // Destroying the manager closes what is open.
+    CDeviceManager::destroyInstance();
+    QVERIFY(!device->isConnected());
+    device.reset();
+
+    CDeviceManager* again = CDeviceManager::getInstance();
+    again->attach(&m_bus);
+    QVERIFY(waitForDevices() || (rediscover() && waitForDevices()));
+    CTavDevicePtr fresh = findDeviceBySerial(m_serial[1]);
+    QVERIFY(fresh->openDevice(true));
+    QVERIFY(fresh->closeDevice(true));
+}
+
+QTEST_GUILESS_MAIN(TestDeviceManager)
+#include "test_device_manager.moc"

@@ -1,0 +1,304 @@
+// Semantics of the discovery worker against a recording stand-in for the
+// camera library: request coalescing, the unicast list, the result rule.
+#include <QSemaphore>
+#include <QSignalSpy>
+#include <QStringList>
+#include <QtTest>
+#include <memory>
+#include <set>
+
+#include "CDiscoveryDevicesThread.h"
+
+using namespace Vorlen::GenICam;
+
+namespace {
+
+class StubCamera : public ICamera
+{
+public:
+    explicit StubCamera(const char* key) : m_key(key) {}
+    CString getKey() const override { return m_key; }
+    CString getName() const override { return "Stub"; }
+    CString getSerialNumber() const override { return m_key; }
+    CString getVendorName() const override { return "Lumidor"; }
+    EInterfaceType getType() const override { return typeGigEVision; }
+    bool isConnected() const override { return false; }
+
+private:
+    CString m_key;
+};
+
+// Records every call as text: "bc0" / "bc1" (discovery with interface kind),
+// "uc:<ip>" (unicast probe), "all" (registry read).
+class RecordingSystem : public IDiscoverySystem
+{
+public:
+    bool discovery(CameraPtrVector& cameras, EInterfaceType type) override
+    {
+        if (blockBroadcast)
+        {
+            entered.release();
+            proceed.acquire();
+        }
+        record(QString("bc%1").arg(int(type)));
+        cameras.push_back(Vorlen::Memory::makeShared<StubCamera>("transient"));
+        return true;
+    }
+    bool discoveryEx(CameraPtrVector& cameras, EDiscoveryMode mode, CSystem::_DiscoveryModeInfo info) override
+    {
+        const QString ip = QString::fromLocal8Bit(info.ipAddress);
+        record(QString("uc:%1:%2").arg(ip).arg(int(mode)));
+        QMutexLocker locker(&mutex);
+        if (failingCall.count(ip.toStdString()))
+            return false;   // a failed call, whatever it would have found
+        if (answering.count(ip.toStdString()))
+            cameras.push_back(Vorlen::Memory::makeShared<StubCamera>(info.ipAddress));
+        return true;   // a silent address may still "succeed" with nothing found
+    }
+    bool getCameraPtrAll(CameraPtrVector& cameras) override
+    {
+        record("all");
+        QMutexLocker locker(&mutex);
+        cameras = registry;
+        return true;
+    }
+
+    QStringList takeCalls()
+    {
+        QMutexLocker locker(&mutex);
+        QStringList out = calls;
+        calls.clear();
+        return out;
+    }
+    void setAnswering(const std::set<std::string>& ips)
+    {
+        QMutexLocker locker(&mutex);
+        answering = ips;
+    }
+
+    QMutex mutex;
+    QStringList calls;
+    std::set<std::string> answering;
+    std::set<std::string> failingCall;
+    CameraPtrVector registry;
+    std::atomic<bool> blockBroadcast{false};
+    QSemaphore entered;
+    QSemaphore proceed;
+
+private:
+    void record(const QString& call)
+    {
+        QMutexLocker locker(&mutex);
+        calls.append(call);
+    }
+};
+
+struct Fixture
+{
+    Fixture()
+        : system(std::make_shared<RecordingSystem>()),
+          thread(new CDiscoveryDevicesThread(system)),
+          spy(thread.get(), &CDiscoveryDevicesThread::discoveryDevicesFinished)
+    {
+    }
+    ~Fixture() { thread->stop(); }
+
+    // Requests a pass and waits for its end; returns the pass' result.
+    bool pass(const QString& ip, int flags)
+    {
+        const int before = spy.count();
+        thread->StartDiscovery(ip, flags);
+        if (!thread->isRunning())
+            thread->start();
+        if (!QTest::qWaitFor([&]() { return spy.count() > before; }, 10000))
+            return false;
+        return spy.last().at(0).toBool();
+    }
+
+    std::shared_ptr<RecordingSystem> system;
+    std::unique_ptr<CDiscoveryDevicesThread> thread;
+    QSignalSpy spy;
+};
+}
+
+class TestDiscoveryThread : public QObject
+{
+    Q_OBJECT
+private slots:
+    void firstPassAndCameraList();
+    void quickRequestsGiveOnePass();
+    void requestDuringPassIsAbsorbed();
+    void unicastListKeptAndReprobed();
+    void broadcastOnlyDoesNotProbe();
+    void silentUnicastFails();
+    void modeFlags();
+    void runOnceAlwaysReportsSuccess();
+};
+
+void TestDiscoveryThread::firstPassAndCameraList()
+{
+    Fixture f;
+    f.system->registry.push_back(Vorlen::Memory::makeShared<StubCamera>("A"));
+    f.system->registry.push_back(Vorlen::Memory::makeShared<StubCamera>("B"));
+
+    QVERIFY(f.thread->getVecCamera().empty());
+    QVERIFY(!f.thread->isFirstDiscoveryFinished());
+    QVERIFY(!f.thread->isDisconvrying());
+
+    QVERIFY(f.pass(QString(), 11));
+    QVERIFY(f.thread->isFirstDiscoveryFinished());
+    QVERIFY(!f.thread->isDisconvrying());
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
+
+    CameraPtrVector cameras = f.thread->getVecCamera();
+    QCOMPARE(int(cameras.size()), 2);
+    QCOMPARE(QString(cameras[0]->getKey().c_str()), QString("A"));
+
+    // Each pass replaces the list; the first-pass flag stays set.
+    f.system->registry.clear();
+    QVERIFY(f.pass(QString(), 0));
+    QVERIFY(f.thread->getVecCamera().empty());
+    QVERIFY(f.thread->isFirstDiscoveryFinished());
+}
+
+void TestDiscoveryThread::quickRequestsGiveOnePass()
+{
+    Fixture f;
+    f.system->setAnswering({"10.1.1.1"});
+    // Both come before the worker looks: the second replaces the first.
+    f.thread->StartDiscovery("10.1.1.1", 0);
+    f.thread->StartDiscovery("255.255.255.255", 0);
+    QVERIFY(f.thread->isDisconvrying());
+    f.thread->start();
+    QVERIFY(f.spy.wait(10000));
+    QTest::qWait(400);   // several idle polls: no second pass
+    QCOMPARE(f.spy.count(), 1);
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
+    QVERIFY(f.thread->unicastAddresses().isEmpty());
+}
+
+void TestDiscoveryThread::requestDuringPassIsAbsorbed()
+{
+    Fixture f;
+    f.system->blockBroadcast = true;
+    f.thread->StartDiscovery(QString(), 0);
+    f.thread->start();
+    QVERIFY(f.system->entered.tryAcquire(1, 10000));   // the pass is running
+    f.thread->StartDiscovery("10.1.1.9", 0);            // arrives during the pass
+    f.system->blockBroadcast = false;
+    f.system->proceed.release(1);
+
+    QVERIFY(QTest::qWaitFor([&]() { return f.spy.count() > 0; }, 10000));
+    QTest::qWait(400);
+    QCOMPARE(f.spy.count(), 1);
+    QVERIFY(!f.thread->isDisconvrying());
+    const QStringList calls = f.system->takeCalls();
+    QVERIFY2(!calls.join(' ').contains("10.1.1.9"), qPrintable(calls.join(' ')));
+}
+
+void TestDiscoveryThread::unicastListKeptAndReprobed()
+{
+    Fixture f;
+    f.system->setAnswering({"10.0.0.7", "10.0.0.8"});
+
+    // A unicast add probes only that address (no broadcast).
+    QVERIFY(f.pass("10.0.0.7", 0));
+    QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.0.0.7:1", "bc1", "all"}));
+    QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.7"}));
+
+    // The same address twice keeps one entry; another one is appended.
+    QVERIFY(f.pass("10.0.0.7", 0));
+    QVERIFY(f.pass("10.0.0.8", 0));
+    QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.7", "10.0.0.8"}));
+    f.system->takeCalls();
+
+    // An ordinary refresh broadcasts and re-probes the list in order.
+    QVERIFY(f.pass(QString(), 0));
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "uc:10.0.0.7:1", "uc:10.0.0.8:1", "bc1", "all"}));
+
+    // 10.0.0.7 stops answering: dropped at the next refresh, never probed again.
+    f.system->setAnswering({"10.0.0.8"});
+    QVERIFY(f.pass(QString(), 0));
+    QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.8"}));
+    f.system->takeCalls();
+    QVERIFY(f.pass(QString(), 0));
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "uc:10.0.0.8:1", "bc1", "all"}));
+
+    // A failing probe call drops the address as well.
+    {
+        QMutexLocker locker(&f.system->mutex);
+        f.system->failingCall = {"10.0.0.8"};
+    }
+    QVERIFY(f.pass(QString(), 0));
+    QVERIFY(f.thread->unicastAddresses().isEmpty());
+}
+
+void TestDiscoveryThread::broadcastOnlyDoesNotProbe()
+{
+    Fixture f;
+    f.system->setAnswering({"10.0.0.7"});
+    QVERIFY(f.pass("10.0.0.7", 0));
+    f.system->takeCalls();
+
+    QVERIFY(f.pass("255.255.255.255", 0));
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
+    QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.7"}));
+}
+
+void TestDiscoveryThread::silentUnicastFails()
+{
+    Fixture f;
+    f.system->setAnswering({"10.0.0.1", "10.0.0.2"});
+    QVERIFY(f.pass("10.0.0.1", 0));
+    QVERIFY(f.pass("10.0.0.2", 0));
+    f.system->takeCalls();
+
+    // A silent address: false, not kept; the others are kept but not probed.
+    QVERIFY(!f.pass("10.0.0.3", 0));
+    QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.0.0.3:1", "bc1", "all"}));
+    QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.1", "10.0.0.2"}));
+
+    // A kept address that went silent, asked again: removed, false.
+    f.system->setAnswering({"10.0.0.2"});
+    QVERIFY(!f.pass("10.0.0.1", 0));
+    QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.2"}));
+
+    // Every other pass reports true, whatever it found.
+    f.system->setAnswering({});
+    QVERIFY(f.pass(QString(), 0));
+    QVERIFY(f.pass("255.255.255.255", 0));
+    QVERIFY(f.pass(QString(), 2));
+}
+
+void TestDiscoveryThread::modeFlags()
+{
+    Fixture f;
+    f.system->setAnswering({"10.0.0.5"});
+
+    QVERIFY(f.pass(QString(), 1));   // network only
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "all"}));
+    QVERIFY(f.pass(QString(), 2));   // second interface only
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc1", "all"}));
+    QVERIFY(f.pass(QString(), 8));   // start-up bit alone: neither
+    QCOMPARE(f.system->takeCalls(), QStringList({"all"}));
+    QVERIFY(f.pass(QString(), 3));
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
+    // A unicast address with the network bit clear is not probed.
+    QVERIFY(f.pass("10.0.0.5", 2));
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc1", "all"}));
+    QVERIFY(f.thread->unicastAddresses().isEmpty());
+}
+
+void TestDiscoveryThread::runOnceAlwaysReportsSuccess()
+{
+    Fixture f;
+    f.thread->StartDiscovery("10.9.9.9", 0);   // silent
+    f.thread->runOnce();                       // in this thread, without start()
+    QCOMPARE(f.spy.count(), 1);
+    QCOMPARE(f.spy.at(0).at(0).toBool(), true);
+    QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.9.9.9:1", "bc1", "all"}));
+    QVERIFY(f.thread->isFirstDiscoveryFinished());
+}
+
+QTEST_GUILESS_MAIN(TestDiscoveryThread)
+#include "test_discovery_thread.moc"

@@ -1,0 +1,519 @@
+// Display-rate limit, stream statistics, save throttle and the per-frame
+// decisions of the retrieval thread, on synthetic frames and clocks.
+// GLib headers come before Qt's: Qt defines "signals" as a keyword.
+#include <arv.h>
+#include "FrameData.h"
+#include <QSignalSpy>
+#include <QtTest>
+#include <memory>
+#include <vector>
+
+#include "CConfiguration.h"
+#include "CDisplayCounter.h"
+#include "StreamRetrieveThread.h"
+#include "StreamStatistic.h"
+
+// Configuration files go to the test's own home (CTest sets HOME per test).
+static const bool g_ownHome = []() {
+    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
+        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
+    return true;
+}();
+
+using Vorlen::GenICam::CFrame;
+
+namespace {
+const uint32_t kMono8 = 0x01080001;
+const qint64 kMs = 1000000;   // ns
+
+// A complete frame as the stream would hand it out, over our own pixels.
+CFrame makeFrame(const std::vector<CFrame::EPayloadType>& types, uint32_t width = 32, uint32_t height = 16,
+                 uint32_t pixelFormat = kMono8)
+{
+    static std::vector<unsigned char> pixels(1 << 16, 0x80);
+    std::shared_ptr<CFrame::SData> data = std::make_shared<CFrame::SData>();
+    data->buffer = arv_buffer_new_allocate(16);
+    data->payloadTypes = Vorlen::Infra::TVector<CFrame::EPayloadType>(types.begin(), types.end());
+    data->image = pixels.data();
+    data->imageSize = uint64_t(width) * height;
+    data->width = width;
+    data->height = height;
+    data->pixelFormat = pixelFormat;
+    data->blockId = 7;
+    return CFrame(Vorlen::Memory::TSharedPtr<CFrame::SData>(data));
+}
+
+CConfiguration* cfg()
+{
+    return CConfiguration::getInstance();
+}
+
+struct FrameRecord
+{
+    CQtHybridFramePtr frame;
+    bool display, save, record;
+};
+}
+
+class TestVideoStream : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void displayCounterLimitsRate();
+    void displayCounterSettings();
+    void statisticFigures();
+    void statisticErrorText();
+    void saveThrottleOneOutOf();
+    void saveThrottleMaxRate();
+    void saveThrottleThroughput();
+    void saveThrottleFromConfiguration();
+    void frameDecisions();
+    void disabledDisplayStillSavesAndRecords();
+    void chunkOnlyFrameIsIgnored();
+    void unsupportedFormatSetsError();
+};
+
+void TestVideoStream::init()
+{
+    cfg()->strDisplayValue = "30 FPS";
+    cfg()->displayChunkDataEnable = false;
+    cfg()->imageSaveThrottleOption = 3;
+}
+
+void TestVideoStream::displayCounterLimitsRate()
+{
+    // First frame is always shown, then at most one per 33.3 ms.
+    {
+        CDisplayCounter counter;
+        QVERIFY(counter.isTimeToDisplay(0, 1000 * kMs));
+        QVERIFY(!counter.isTimeToDisplay(0, 1010 * kMs));
+        QVERIFY(!counter.isTimeToDisplay(0, 1033 * kMs));
+        QVERIFY(counter.isTimeToDisplay(0, 1034 * kMs));
+        QVERIFY(!counter.isTimeToDisplay(0, 1050 * kMs));
+    }
+    // A 60 fps stream for 10 s: about 300 frames shown, never more than one
+    // per period on average, and frames shown at regular gaps.
+    {
+        CDisplayCounter counter;
+        int shown = 0;
+        const qint64 start = 5000 * kMs;
+        const qint64 step = 16666667;
+        for (int i = 0; i < 600; ++i)
+            shown += counter.isTimeToDisplay(0, start + i * step) ? 1 : 0;
+        QVERIFY2(shown <= 600 * step / CDisplayCounter::kDisplayPeriodNs + 1, qPrintable(QString::number(shown)));
+        QVERIFY2(shown >= 290, qPrintable(QString::number(shown)));
+    }
+    // Frames slower than the period are all shown.
+    {
+        CDisplayCounter counter;
+        int shown = 0;
+        for (int i = 0; i < 100; ++i)
+            shown += counter.isTimeToDisplay(0, 100 * kMs + i * 50 * kMs) ? 1 : 0;
+        QCOMPARE(shown, 100);
+    }
+}
+
+void TestVideoStream::displayCounterSettings()
+{
+    auto countShown = []() {
+        CDisplayCounter counter;
+        int shown = 0;
+        for (int i = 0; i < 600; ++i)
+            shown += counter.isTimeToDisplay(0, 1000 * kMs + qint64(i) * 8333333) ? 1 : 0;   // 120 fps for 5 s
+        return shown;
+    };
+    cfg()->strDisplayValue = "30 FPS";
+    const int at30 = countShown();
+    cfg()->strDisplayValue = "60 FPS";
+    const int at60 = countShown();
+    cfg()->strDisplayValue = "Disabled";
+    const int disabled = countShown();
+    cfg()->strDisplayValue = "whatever";
+    const int other = countShown();
+
+    QVERIFY(at30 > 100);
+    QCOMPARE(at60, at30);   // the period is fixed, "60 FPS" does not shorten it
+    QCOMPARE(disabled, 0);
+    QCOMPARE(other, at30);
+}
+
+void TestVideoStream::statisticFigures()
+{
+    StreamStatistic stat;
+    QString rx, disp, bw;
+    unsigned long long total = 99;
+
+    // Fewer than two frames: the texts keep their defaults.
+    stat.rcvNewFrame(1000000, 100 * kMs);
+    stat.getStatistic(rx, disp, total, bw);
+    QCOMPARE(rx, StreamStatistic::defaultReceiveFps());
+    QCOMPARE(disp, StreamStatistic::defaultDisplayFps());
+    QCOMPARE(bw, StreamStatistic::defaultBandwidth());
+    QCOMPARE(total, 1ULL);
+
+    // 10 frames of 1 MB, 100 ms apart: 9 intervals over 0.9 s.
+    for (int i = 1; i < 10; ++i)
+        stat.rcvNewFrame(1000000, 100 * kMs + i * 100 * kMs);
+    stat.getStatistic(rx, disp, total, bw);
+    QCOMPARE(rx, QString("10.00"));
+    QCOMPARE(bw, QString("88.89"));   // 10 MB * 8 / 0.9 s
+    QCOMPARE(total, 10ULL);
+
+    // Only the last 50 frames count: 60 more at 10 ms with 500000 bytes.
+    for (int i = 0; i < 60; ++i)
+        stat.rcvNewFrame(500000, 5000 * kMs + i * 10 * kMs);
+    stat.getStatistic(rx, disp, total, bw);
+    QCOMPARE(rx, QString("100.00"));
+    QCOMPARE(bw, QString("408.16"));   // 50 * 0.5 MB * 8 / 0.49 s
+    QCOMPARE(total, 70ULL);
+
+    // Display rate: 5 frames 40 ms apart is 25 fps; capped by the configured rate.
+    for (int i = 0; i < 5; ++i)
+        stat.increaseDisplayFrame(1000 * kMs + i * 40 * kMs);
+    stat.getStatistic(rx, disp, total, bw);
+    QCOMPARE(disp, QString("25"));
+    stat.setDisplayFPS(20);
+    stat.getStatistic(rx, disp, total, bw);
+    QCOMPARE(disp, QString("20"));
+
+    // 3 frames over 0.9 s: 2.22 rounds to 2.
+    StreamStatistic slow;
+    slow.increaseDisplayFrame(0 + 1);
+    slow.increaseDisplayFrame(450 * kMs);
+    slow.increaseDisplayFrame(900 * kMs);
+    slow.getStatistic(rx, disp, total, bw);
+    QCOMPARE(disp, QString("2"));
+
+    // Display rate 0: the display text stays at its default.
+    StreamStatistic off;
+    off.setDisplayFPS(0);
+    for (int i = 0; i < 5; ++i)
+        off.increaseDisplayFrame(1000 * kMs + i * 40 * kMs);
+    off.getStatistic(rx, disp, total, bw);
+    QCOMPARE(disp, StreamStatistic::defaultDisplayFps());
+
+    // reset() forgets everything.
+    stat.reset();
+    stat.getStatistic(rx, disp, total, bw);
+    QCOMPARE(rx, StreamStatistic::defaultReceiveFps());
+    QCOMPARE(disp, StreamStatistic::defaultDisplayFps());
+    QCOMPARE(total, 0ULL);
+}
+
+void TestVideoStream::statisticErrorText()
+{
+    StreamStatistic stat;
+    QString rx, disp, bw, error;
+    unsigned long long total = 0, errors = 0;
+
+    // An ordinary error is shown once, with the lost-frame count.
+    stat.setError("ERR_TIMEOUT");
+    stat.setErrorCount(3);
+    stat.getStatistic(rx, disp, total, bw, error, errors);
+    QCOMPARE(error, QString("ERR_TIMEOUT"));
+    QCOMPARE(errors, 3ULL);
+    stat.getStatistic(rx, disp, total, bw, error, errors);
+    QCOMPARE(error, QString());
+
+    // These two stay until replaced or reset.
+    for (const char* sticky : {"NOT SUPPORTED IMAGE FORMAT", "ERROR_STREAM_CHANNEL_ERROR"})
+    {
+        stat.setError(sticky);
+        stat.getStatistic(rx, disp, total, bw);
+        stat.getStatistic(rx, disp, total, bw, error, errors);
+        QCOMPARE(error, QString(sticky));
+    }
+    stat.reset();
+    stat.getStatistic(rx, disp, total, bw, error, errors);
+    QCOMPARE(error, QString());
+    QCOMPARE(errors, 0ULL);
+}
+
+void TestVideoStream::saveThrottleOneOutOf()
+{
+    StreamRetrieveThread thread;
+    thread.setSaveImageEnable(true);
+
+    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 3);
+    QString pattern;
+    for (int i = 0; i < 9; ++i)
+        pattern += thread.isTimeToSaveImage(100, i) ? '1' : '0';
+    QCOMPARE(pattern, QString("100100100"));
+
+    // Re-arming starts the count again.
+    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 3);
+    QVERIFY(thread.isTimeToSaveImage(100, 0));
+
+    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 1);
+    for (int i = 0; i < 5; ++i)
+        QVERIFY(thread.isTimeToSaveImage(100, i));
+    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 0);
+    for (int i = 0; i < 5; ++i)
+        QVERIFY(!thread.isTimeToSaveImage(100, i));
+
+    // Save switched off: nothing, whatever the rule.
+    thread.setSaveType(StreamRetrieveThread::saveAll, 0);
+    QVERIFY(thread.isTimeToSaveImage(100, 0));
+    thread.setSaveImageEnable(false);
+    QVERIFY(!thread.isTimeToSaveImage(100, 0));
+    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 1);
+    QVERIFY(!thread.isTimeToSaveImage(100, 0));
+}
+
+void TestVideoStream::saveThrottleMaxRate()
+{
+    StreamRetrieveThread thread;
+    thread.setSaveImageEnable(true);
+
+    thread.setSaveType(StreamRetrieveThread::saveMaxRate, 100);
+    QVERIFY(thread.isTimeToSaveImage(100, 5000));   // first after arming
+    QVERIFY(!thread.isTimeToSaveImage(100, 5050));
+    QVERIFY(thread.isTimeToSaveImage(100, 5100));
+    QVERIFY(!thread.isTimeToSaveImage(100, 5150));
+    QVERIFY(!thread.isTimeToSaveImage(100, 5199));
+    QVERIFY(thread.isTimeToSaveImage(100, 5200));
+
+    thread.setSaveType(StreamRetrieveThread::saveMaxRate, 0);
+    QVERIFY(thread.isTimeToSaveImage(100, 6000));
+    QVERIFY(thread.isTimeToSaveImage(100, 6000));
+
+    thread.setSaveType(StreamRetrieveThread::saveMaxRate, -1);
+    QVERIFY(!thread.isTimeToSaveImage(100, 7000));
+    QVERIFY(!thread.isTimeToSaveImage(100, 9000));
+
+    thread.setSaveType(7, 0);   // unknown rule: every frame
+    QVERIFY(thread.isTimeToSaveImage(100, 0));
+    QVERIFY(thread.isTimeToSaveImage(100, 0));
+}
+
+void TestVideoStream::saveThrottleThroughput()
+{
+    StreamRetrieveThread thread;
+    thread.setSaveImageEnable(true);
+
+    // 131072 bytes = 2^20 bits: at 1 Mbit/s a frame takes 1000 ms.
+    thread.setSaveType(StreamRetrieveThread::saveAverageThroughput, 1);
+    QVERIFY(thread.isTimeToSaveImage(131072, 10000));
+    QVERIFY(!thread.isTimeToSaveImage(131072, 10500));
+    QVERIFY(!thread.isTimeToSaveImage(131072, 11000));
+    QVERIFY(thread.isTimeToSaveImage(131072, 11001));
+    // A larger frame waits longer: 4 Mbit at 2 Mbit/s is 2000 ms.
+    thread.setSaveType(StreamRetrieveThread::saveAverageThroughput, 2);
+    QVERIFY(thread.isTimeToSaveImage(524288, 20000));
+    QVERIFY(!thread.isTimeToSaveImage(131072, 21500));
+    QVERIFY(!thread.isTimeToSaveImage(131072, 22000));
+    QVERIFY(thread.isTimeToSaveImage(131072, 22001));
+    // ... and that frame sets the next wait (500 ms).
+    QVERIFY(!thread.isTimeToSaveImage(131072, 22501));
+    QVERIFY(thread.isTimeToSaveImage(131072, 22502));
+
+    // Rate 0 leaves the wait at 0: saved whenever the clock has moved on.
+    thread.setSaveType(StreamRetrieveThread::saveAverageThroughput, 0);
+    QVERIFY(thread.isTimeToSaveImage(131072, 30000));
+    QVERIFY(!thread.isTimeToSaveImage(131072, 30000));
+    QVERIFY(thread.isTimeToSaveImage(131072, 30001));
+}
+
+void TestVideoStream::saveThrottleFromConfiguration()
+{
+    StreamRetrieveThread thread;
+    thread.setSaveImageEnable(true);
+
+    cfg()->imageSaveThrottleOption = 0;
+    cfg()->imageOneOutOf = "2";
+    cfg()->notifySaveConfigChanged();
+    QString pattern;
+    for (int i = 0; i < 6; ++i)
+        pattern += thread.isTimeToSaveImage(10, i) ? '1' : '0';
+    QCOMPARE(pattern, QString("101010"));
+
+    cfg()->imageSaveThrottleOption = 1;
+    cfg()->imageMaxRate = "250";
+    cfg()->notifySaveConfigChanged();
+    QVERIFY(thread.isTimeToSaveImage(10, 1000));
+    QVERIFY(!thread.isTimeToSaveImage(10, 1249));
+    QVERIFY(thread.isTimeToSaveImage(10, 1250));
+
+    cfg()->imageSaveThrottleOption = 2;
+    cfg()->imageAverageThroughPut = "1";
+    thread.Init();   // Init reads the configuration too
+    QVERIFY(thread.isTimeToSaveImage(131072, 0));
+    QVERIFY(!thread.isTimeToSaveImage(131072, 1000));
+    QVERIFY(thread.isTimeToSaveImage(131072, 1001));
+
+    cfg()->imageSaveThrottleOption = 3;
+    cfg()->notifySaveConfigChanged();
+    QVERIFY(thread.isTimeToSaveImage(10, 0));
+    QVERIFY(thread.isTimeToSaveImage(10, 0));
+}
+
+void TestVideoStream::frameDecisions()
+{
+    StreamRetrieveThread thread;
+    thread.Init();
+    QList<FrameRecord> frames;
+    connect(&thread, &StreamRetrieveThread::newFrame, this,
+            [&](CQtHybridFramePtr f, bool d, bool s, bool r) { frames.append({f, d, s, r}); });
+    QSignalSpy displayed(&thread, &StreamRetrieveThread::increaseDisplayFrame);
+
+    thread.setWidthReg(32);
+    thread.setHeightReg(16);
+
+    // The first frame is displayed; the converted frame comes out, and the
+    // camera buffer is let go at once.
+    CFrame first = makeFrame({CFrame::payloadImage}, 32, 16);
+    QElapsedTimer timer;
+    timer.start();
+    thread.addFrame(first);
+    CFrame second = makeFrame({CFrame::payloadImage}, 32, 16);
+    thread.addFrame(second);
+    const qint64 gapMs = timer.elapsed();
+    QVERIFY(!first.valid());
+    QVERIFY(!second.valid());
+
+    QVERIFY(frames.size() >= 1);
+    QVERIFY(frames[0].display && !frames[0].save && !frames[0].record);
+    QVERIFY(frames[0].frame->isHybridFrameValid());
+    QCOMPARE(frames[0].frame->getConvertedWidth(), 32u);
+    QCOMPARE(frames[0].frame->getConvertedHeight(), 16u);
+    QCOMPARE(frames[0].frame->getRawDataSize(), 32ull * 16);
+    QCOMPARE(frames[0].frame->getBlockId(), 7ull);
+    if (gapMs < 30)
+    {
+        // The second came within the display period and nobody else wanted it.
+        QCOMPARE(frames.size(), 1);
+        QCOMPARE(displayed.count(), 1);
+    }
+
+    unsigned long long processed = 0, recorded = 0;
+    thread.getRecordStatistics(processed, recorded);
+    QCOMPARE(processed, 2ULL);
+    QCOMPARE(recorded, 0ULL);
+
+    // The record question is answered by a direct receiver before the decision.
+    cfg()->strDisplayValue = "Disabled";
+    int asked = 0;
+    connect(&thread, &StreamRetrieveThread::signalGetRecordEnable, this,
+            [&]() {
+                ++asked;
+                thread.setRecordEnable(true);
+            },
+            Qt::DirectConnection);
+    frames.clear();
+    CFrame third = makeFrame({CFrame::payloadImage});
+    thread.addFrame(third);
+    QCOMPARE(asked, 1);
+    QCOMPARE(frames.size(), 1);
+    QVERIFY(!frames[0].display && !frames[0].save && frames[0].record);
+    thread.getRecordStatistics(processed, recorded);
+    QCOMPARE(processed, 3ULL);
+    QCOMPARE(recorded, 1ULL);
+
+    thread.resetRecordStatistics();
+    thread.getRecordStatistics(processed, recorded);
+    QCOMPARE(processed, 0ULL);
+    QCOMPARE(recorded, 0ULL);
+
+    // An invalid frame is not even counted.
+    CFrame empty;
+    thread.addFrame(empty);
+    thread.getRecordStatistics(processed, recorded);
+    QCOMPARE(processed, 0ULL);
+}
+
+void TestVideoStream::disabledDisplayStillSavesAndRecords()
+{
+    cfg()->strDisplayValue = "Disabled";
+    StreamRetrieveThread thread;
+    thread.Init();
+    thread.setSaveImageEnable(true);
+    thread.setSaveType(StreamRetrieveThread::saveAll, 0);
+    thread.setRecordEnable(true);
+    QList<FrameRecord> frames;
+    connect(&thread, &StreamRetrieveThread::newFrame, this,
+            [&](CQtHybridFramePtr f, bool d, bool s, bool r) { frames.append({f, d, s, r}); });
+
+    for (int i = 0; i < 5; ++i)
+    {
+        CFrame frame = makeFrame({CFrame::payloadImage});
+        thread.addFrame(frame);
+    }
+    QCOMPARE(frames.size(), 5);
+    for (const FrameRecord& r : frames)
+        QVERIFY(!r.display && r.save && r.record);
+
+    QString rx, disp, bw;
+    unsigned long long total = 0;
+    thread.getStreamStatistic(rx, disp, total, bw);
+    QCOMPARE(total, 5ULL);   // counted although never displayed
+    unsigned long long processed = 0, recorded = 0;
+    thread.getRecordStatistics(processed, recorded);
+    QCOMPARE(processed, 5ULL);
+    QCOMPARE(recorded, 5ULL);
+
+    // Nobody wants the frames: dropped, still counted.
+    thread.setSaveImageEnable(false);
+    thread.setRecordEnable(false);
+    frames.clear();
+    CFrame frame = makeFrame({CFrame::payloadImage});
+    thread.addFrame(frame);
+    QVERIFY(!frame.valid());
+    QCOMPARE(frames.size(), 0);
+    thread.getStreamStatistic(rx, disp, total, bw);
+    QCOMPARE(total, 6ULL);
+}
+
+void TestVideoStream::chunkOnlyFrameIsIgnored()
+{
+    cfg()->displayChunkDataEnable = true;
+    StreamRetrieveThread thread;
+    thread.Init();
+    thread.setSaveImageEnable(true);
+    thread.setSaveType(StreamRetrieveThread::saveAll, 0);
+    thread.setRecordEnable(true);
+    QSignalSpy spy(&thread, &StreamRetrieveThread::newFrame);
+
+    CFrame frame = makeFrame({CFrame::payloadChunkData});
+    thread.addFrame(frame);
+    QCOMPARE(spy.count(), 0);
+
+    QString rx, disp, bw;
+    unsigned long long total = 0;
+    thread.getStreamStatistic(rx, disp, total, bw);
+    QCOMPARE(total, 0ULL);
+    unsigned long long processed = 0, recorded = 0;
+    thread.getRecordStatistics(processed, recorded);
+    QCOMPARE(processed, 0ULL);
+
+    // Image with chunk payload: one frame, counted once.
+    CFrame withChunk = makeFrame({CFrame::payloadImage, CFrame::payloadChunkData});
+    thread.addFrame(withChunk);
+    QCOMPARE(spy.count(), 1);
+    thread.getStreamStatistic(rx, disp, total, bw);
+    QCOMPARE(total, 1ULL);
+}
+
+void TestVideoStream::unsupportedFormatSetsError()
+{
+    StreamRetrieveThread thread;
+    thread.Init();
+    QSignalSpy spy(&thread, &StreamRetrieveThread::newFrame);
+
+    CFrame frame = makeFrame({CFrame::payloadImage}, 32, 16, 0x7fff0001);
+    thread.addFrame(frame);
+    QCOMPARE(spy.count(), 0);
+    QVERIFY(!frame.valid());
+
+    QString rx, disp, bw, error;
+    unsigned long long total = 0, errors = 0;
+    thread.getStatistic()->getStatistic(rx, disp, total, bw, error, errors);
+    QCOMPARE(error, QString("NOT SUPPORTED IMAGE FORMAT"));
+    QCOMPARE(total, 1ULL);
+    unsigned long long processed = 0, recorded = 0;
+    thread.getRecordStatistics(processed, recorded);
+    QCOMPARE(processed, 1ULL);
+}
+
+QTEST_GUILESS_MAIN(TestVideoStream)
+#include "test_video_stream.moc"

@@ -1,0 +1,327 @@
+#include "StreamRetrieveThread.h"
+
+#include <QByteArray>
+#include <QElapsedTimer>
+
+#include "CConfiguration.h"
+#include "Tavlog4cpp/TavLogMacros.h"
+#include "Utils.h"
+#include "Vorlen/Infra/Error.h"
+#include "Vorlen/Infra/TVector.h"
+
+using namespace Vorlen::GenICam;
+
+namespace {
+const char* const kBufferOverride = "WARN_BUFFER_OVERRIDE";
+const char* const kNotSupportedImageFormat = "NOT SUPPORTED IMAGE FORMAT";
+}
+
+void registerFrameMetaTypes()
+{
+    qRegisterMetaType<CQtHybridFramePtr>("CQtHybridFramePtr");
+    qRegisterMetaType<CQtHybridFramePtr>("QSharedPointer<Gliv::CQtHybridFrame>");
+}
+
+StreamRetrieveThread::StreamRetrieveThread(QObject* parent) : QThread(parent)
+{
+    registerFrameMetaTypes();
+    m_clock.start();
+    connect(CConfiguration::getInstance(), &CConfiguration::signalSaveConfigChanged, this,
+            &StreamRetrieveThread::onSaveConfigChanged);
+}
+
+StreamRetrieveThread::~StreamRetrieveThread()
+{
+    stop();
+    wait();
+}
+
+void StreamRetrieveThread::setStream(const Vorlen::Memory::TSharedPtr<CInternalStreamSource>& stream)
+{
+    QMutexLocker locker(&m_streamMutex);
+    m_pStream = stream;
+}
+
+void StreamRetrieveThread::setDevice(const Vorlen::Memory::TSharedPtr<CInternalCamera>& camera)
+{
+    QMutexLocker locker(&m_streamMutex);
+    m_pCamera = camera;
+}
+
+Vorlen::Memory::TSharedPtr<CInternalStreamSource> StreamRetrieveThread::streamSource()
+{
+    QMutexLocker locker(&m_streamMutex);
+    return m_pStream;
+}
+
+void StreamRetrieveThread::Init()
+{
+    onSaveConfigChanged();
+    resetRecordStatistics();
+}
+
+void StreamRetrieveThread::stop()
+{
+    m_bRunning = false;
+    // Also covers a stop() that comes before run() has set the flag.
+    if (isRunning())
+        requestInterruption();
+}
+
+void StreamRetrieveThread::setDisplayFPS(int fps)
+{
+    m_statistic.setDisplayFPS(fps);
+    m_displayCounter.setDisplayFPS(fps);
+}
+
+void StreamRetrieveThread::run()
+{
+    LOG_DEBUG("StreamRetrieveThread run begin");
+    m_bRunning = true;
+    m_statistic.reset();
+    m_displayCounter.reset();
+
+    while (m_bRunning && !isInterruptionRequested())
+    {
+        Vorlen::Memory::TSharedPtr<CInternalStreamSource> stream = streamSource();
+        if (!stream)
+        {
+            LOG_ERROR("m_pStream is null. StreamRetrieveThread will stop");
+            break;
+        }
+
+        CFrame frame;
+        const bool got = stream->getFrame(frame, 100);
+        // The last error belongs to getFrame; take it before anything else runs.
+        const int errorCode = Vorlen::Infra::getLastError();
+        const QString error = GetErrorDesc();
+        if (got)
+            addFrame(frame);
+        frame.reset();
+        // Started just before startGrabbing, or the grab was stopped under
+        // us: getFrame returns at once, so do not spin.
+        if (!got && errorCode == Vorlen::Infra::ERR_STREAM_NOT_OPEN)
+            msleep(5);
+
+        // Checked whether or not a frame came: a timeout can carry a stream error.
+        if (!error.isEmpty() && error != QLatin1String(kBufferOverride))
+        {
+            m_statistic.setError(error);
+            m_statistic.setErrorCount(stream->getLostFrameCount());
+        }
+    }
+
+    LOG_DEBUG("StreamRetrieveThread run end");
+}
+
+void StreamRetrieveThread::addFrame(CFrame& frame)
+{
+    if (!frame.valid())
+        return;
+
+    Vorlen::Infra::TVector<CFrame::EPayloadType> types;
+    frame.getPayLoadTypes(types);
+
+    const CConfiguration* cfg = CConfiguration::getInstance();
+    bool isImage = false;
+    int payloadType = CFrame::payloadImage;
+    QByteArray chunkText;
+    for (CFrame::EPayloadType type : types)
+    {
+        if (type == CFrame::payloadImage || type == CFrame::payloadJPEG)
+        {
+            isImage = true;
+            payloadType = type;
+            m_statistic.rcvNewFrame(frame);
+        }
+        else if (type == CFrame::payloadChunkData && cfg->displayChunkDataEnable)
+        {
+            const uint32_t count = frame.getChunkCount();
+            for (uint32_t i = 0; i < count; ++i)
+            {
+                uint32_t id = 0;
+                Vorlen::Infra::TVector<Vorlen::Infra::CString> lines;
+                if (!frame.getChunkDataByIndex(i, id, lines))
+                    continue;
+                for (const auto& line : lines)
+                {
+                    chunkText.append(line.c_str());
+                    chunkText.append('\n');
+                }
+            }
+        }
+    }
+
+    if (!isImage)
+        return;
+
+    m_bDisplay = m_displayCounter.isTimeToDisplay(frame.getImageTimeStamp());
+    m_bSave = isTimeToSaveImage(frame.getImageSize());
+    emit signalGetRecordEnable();
+    m_bRecord = m_bRecordEnable;
+
+    if (!m_bDisplay && !m_bSave && !m_bRecord)
+    {
+        frame.reset();
+        QMutexLocker locker(&m_recordMutex);
+        ++m_nProcessedFrames;
+        return;
+    }
+
+    if (m_bCompressionModeJpeg)
+        payloadType = CFrame::payloadJPEG;
+
+    if (!Gliv::CQtHybridFrame::isSupportedPixelFormat(frame.getImagePixelFormat(), payloadType))
+    {
+        frame.reset();
+        m_statistic.setError(QLatin1String(kNotSupportedImageFormat));
+        QMutexLocker locker(&m_recordMutex);
+        ++m_nProcessedFrames;
+        return;
+    }
+
+    Gliv::SFrameInfo info;
+    info.blockId = frame.getBlockId();
+    info.imageSize = frame.getImageSize();
+    info.height = frame.getImageHeight();
+    info.width = frame.getImageWidth();
+    info.widthReg = m_nWidthReg;
+    info.heightReg = m_nHeightReg;
+    info.paddingX = frame.getImagePadddingX();
+    info.paddingY = frame.getImagePadddingY();
+    info.payloadType = payloadType;
+    info.pixelFormat = frame.getImagePixelFormat();
+    info.rawData = frame.getImage();
+    info.driverInstalled = m_bDriverInstalled;
+    const int demosaic = cfg->BayerDemosaicing;
+    info.demosaic = (demosaic >= Gliv::bayerBilinear && demosaic <= Gliv::bayerVariableNumberOfGradients)
+                        ? static_cast<Gliv::EBayerDemosaic>(demosaic)
+                        : Gliv::bayerBilinear;
+
+    // The hybrid frame copies the raw data and converts it here, on this
+    // thread; the camera buffer then goes straight back to the stream.
+    QElapsedTimer convertTimer;
+    convertTimer.start();
+    CQtHybridFramePtr hybrid(new Gliv::CQtHybridFrame(info));
+    const qint64 convertNs = convertTimer.nsecsElapsed();
+    frame.reset();
+    if (m_conversionObserver)
+        m_conversionObserver(convertNs);
+
+    if (!chunkText.isEmpty())
+        hybrid->setChunkData(chunkText.constData());
+
+    const bool display = m_bDisplay;
+    const bool save = m_bSave;
+    const bool record = m_bRecord;
+    if (display)
+    {
+        m_statistic.increaseDisplayFrame();
+        emit increaseDisplayFrame();
+    }
+    emit newFrame(hybrid, display, save, record);
+
+    QMutexLocker locker(&m_recordMutex);
+    ++m_nProcessedFrames;
+    if (record)
+        ++m_nRecordedFrames;
+}
+
+void StreamRetrieveThread::onSaveConfigChanged()
+{
+    const CConfiguration* cfg = CConfiguration::getInstance();
+    const int type = cfg->imageSaveThrottleOption;
+    int value = 0;
+    switch (type)
+    {
+    case saveOneOutOf:
+        value = cfg->imageOneOutOf.toInt();
+        break;
+    case saveMaxRate:
+        value = cfg->imageMaxRate.toInt();
+        break;
+    case saveAverageThroughput:
+        value = cfg->imageAverageThroughPut.toInt();
+        break;
+    default:
+        break;
+    }
+    setSaveType(type, value);
+}
+
+void StreamRetrieveThread::setSaveType(int type, int value)
+{
+    QMutexLocker locker(&m_saveMutex);
+    m_nSaveType = type;
+    m_nSaveValue = value;
+    m_nSaveCounter = 0;
+    m_bSaveArmed = true;
+    m_nLastSaveMs = 0;
+    m_nSaveWaitMs = 0;
+}
+
+bool StreamRetrieveThread::isTimeToSaveImage(unsigned long long imageSize)
+{
+    return isTimeToSaveImage(imageSize, m_clock.elapsed());
+}
+
+bool StreamRetrieveThread::isTimeToSaveImage(unsigned long long imageSize, qint64 nowMs)
+{
+    if (!m_bSaveImageEnable)
+        return false;
+
+    QMutexLocker locker(&m_saveMutex);
+    switch (m_nSaveType)
+    {
+    case saveOneOutOf:
+    {
+        if (m_nSaveValue < 1)
+            return false;
+        const bool save = (m_nSaveCounter % static_cast<unsigned long long>(m_nSaveValue)) == 0;
+        ++m_nSaveCounter;
+        return save;
+    }
+    case saveMaxRate:
+    {
+        if (m_nSaveValue < 0)
+            return false;
+        if (m_bSaveArmed || nowMs - m_nLastSaveMs >= m_nSaveValue)
+        {
+            m_bSaveArmed = false;
+            m_nLastSaveMs = nowMs;
+            return true;
+        }
+        return false;
+    }
+    case saveAverageThroughput:
+    {
+        if (m_bSaveArmed || nowMs - m_nLastSaveMs > m_nSaveWaitMs)
+        {
+            m_bSaveArmed = false;
+            // Time this frame takes at the allowed rate: bytes * 8 bits, in
+            // ms at rate * 2^20 bits per second.
+            if (m_nSaveValue != 0)
+                m_nSaveWaitMs = (static_cast<qint64>(imageSize) * 8000 / m_nSaveValue) >> 20;
+            m_nLastSaveMs = nowMs;
+            return true;
+        }
+        return false;
+    }
+    default:
+        return true;
+    }
+}
+
+void StreamRetrieveThread::getRecordStatistics(unsigned long long& processed, unsigned long long& recorded)
+{
+    QMutexLocker locker(&m_recordMutex);
+    processed = m_nProcessedFrames;
+    recorded = m_nRecordedFrames;
+}
+
+void StreamRetrieveThread::resetRecordStatistics()
+{
+    QMutexLocker locker(&m_recordMutex);
+    m_nProcessedFrames = 0;
+    m_nRecordedFrames = 0;
+}
