@@ -9,9 +9,14 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
 #include <QTimer>
 
 #include "CConfiguration.h"
+#include "CDeviceManager.h"
+#include "CDisconnectAllThread.h"
+#include "CDiscoveryDevicesThread.h"
 #include "StyleSheet.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 #include "Utils.h"
@@ -37,6 +42,7 @@ MainWindow::MainWindow(const QString& commandLine, QWidget* parent)
     applyFontSheet(language);
 
     resize(1400, 860);
+    startDeviceManager();
 
     // Lets automated start-up checks end the program on their own.
     bool ok = false;
@@ -46,6 +52,28 @@ MainWindow::MainWindow(const QString& commandLine, QWidget* parent)
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::startDeviceManager()
+{
+    connect(CDiscoveryDevicesThread::getInstance(), &CDiscoveryDevicesThread::discoveryDevicesFinished, this,
+            &MainWindow::onSignalDiscoveryFinished, Qt::QueuedConnection);
+    // The manager starts the discovery worker and asks for the first pass.
+    connect(CDeviceManager::getInstance(), &CDeviceManager::discoveryDevicesFinished, this,
+            &MainWindow::onDevicesChanged);
+    statusBar()->showMessage(tr("Searching for cameras..."));
+}
+
+void MainWindow::onSignalDiscoveryFinished(bool ok)
+{
+    if (!ok)
+        messageBox(tr("Add remote device failed."), this, QMessageBox::Ok, QMessageBox::Critical);
+}
+
+void MainWindow::onDevicesChanged()
+{
+    const int count = CDeviceManager::getInstance()->getAllDevices().size();
+    statusBar()->showMessage(tr("Cameras found: %1").arg(count));
+}
 
 void MainWindow::createAreas()
 {
@@ -184,6 +212,17 @@ void MainWindow::on_actionAbout_triggered()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    // Open cameras are closed first, off the GUI thread; the window closes
+    // again when that is done (the worker gives up after 5 s).
+    if (!m_closingDevices && CDeviceManager::getInstance()->getOpenedDeviceCount() > 0) {
+        m_closingDevices = true;
+        event->ignore();
+        statusBar()->showMessage(tr("Closing cameras..."));
+        CDisconnectAllThread* worker = CDisconnectAllThread::getInstance();
+        connect(worker, &CDisconnectAllThread::closeAllFinished, this, &QWidget::close, Qt::QueuedConnection);
+        worker->start();
+        return;
+    }
     QMainWindow::closeEvent(event);
     // Closing the last window does not end the program by itself.
     if (event->isAccepted())

@@ -39,11 +39,15 @@ private slots:
     void on_actionOpenConfig_triggered();
     void on_actionSaveConfig_triggered();
     void on_actionAbout_triggered();
+    // End of a discovery pass; false only when a unicast address was silent.
+    void onSignalDiscoveryFinished(bool ok);
+    void onDevicesChanged();
 
 private:
     void createMenus();
     void createAreas();
     void applyFontSheet(int language);
+    void startDeviceManager();
 
     QString m_commandLine;
     QString m_baseStyleSheet;   // the main sheet, loaded before the window
@@ -54,4 +58,5 @@ private:
     QDockWidget* m_propertyDock = nullptr;
     QAction* m_actionEnglish = nullptr;
     QAction* m_actionChinese = nullptr;
+    bool m_closingDevices = false;
 };

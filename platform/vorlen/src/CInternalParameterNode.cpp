@@ -146,12 +146,9 @@ bool isValueType(CInternalParameterNode::EFeatureType t)
     return t != CInternalParameterNode::featureTypeNone && t != CInternalParameterNode::featureTypeCategory;
 }
 
-// ERR_OK when the node can be read now, else why not.
-int readability(ArvGcNode* node)
+// ERR_OK when the feature is implemented and available now, else why not.
+int presence(ArvGcFeatureNode* f)
 {
-    ArvGcFeatureNode* f = ARV_GC_FEATURE_NODE(node);
-    if (!isValueType(typeOf(node)))
-        return ERR_NOT_READABLE;
     GError* e = nullptr;
     if (!arv_gc_feature_node_is_implemented(f, &e)) {
         const int code = e ? mapError(e, ERR_READ_FAILED) : ERR_NOT_IMPLEMENTED;
@@ -163,6 +160,17 @@ int readability(ArvGcNode* node)
         g_clear_error(&e);
         return code;
     }
+    return ERR_OK;
+}
+
+// ERR_OK when the node can be read now, else why not.
+int readability(ArvGcNode* node)
+{
+    ArvGcFeatureNode* f = ARV_GC_FEATURE_NODE(node);
+    if (!isValueType(typeOf(node)))
+        return ERR_NOT_READABLE;
+    if (const int code = presence(f))
+        return code;
     return arv_gc_feature_node_get_actual_access_mode(f) == ARV_GC_ACCESS_MODE_WO ? ERR_NOT_READABLE : ERR_OK;
 }
 
@@ -171,17 +179,9 @@ int writability(ArvGcNode* node)
     ArvGcFeatureNode* f = ARV_GC_FEATURE_NODE(node);
     if (!isValueType(typeOf(node)))
         return ERR_NOT_WRITABLE;
+    if (const int code = presence(f))
+        return code;
     GError* e = nullptr;
-    if (!arv_gc_feature_node_is_implemented(f, &e)) {
-        const int code = e ? mapError(e, ERR_READ_FAILED) : ERR_NOT_IMPLEMENTED;
-        g_clear_error(&e);
-        return code;
-    }
-    if (!arv_gc_feature_node_is_available(f, &e)) {
-        const int code = e ? mapError(e, ERR_READ_FAILED) : ERR_NOT_AVAILABLE;
-        g_clear_error(&e);
-        return code;
-    }
     const bool locked = arv_gc_feature_node_is_locked(f, &e);
     g_clear_error(&e);
     if (locked)

@@ -567,6 +567,17 @@ bool settingsLocked(const std::shared_ptr<StreamCore>& core)
     return false;
 }
 
+// A transport setting applies only to its own kind of camera, and only
+// before grabbing starts.
+bool settingAccepted(const ICamera* camera, EInterfaceType kind, const std::shared_ptr<StreamCore>& core)
+{
+    if (camera && camera->getType() != kind) {
+        setLastError(Infra::ERR_NOT_SUPPORTED, kind == typeGigEVision ? "GigE Vision only" : "USB3 Vision only");
+        return false;
+    }
+    return !settingsLocked(core);
+}
+
 } // namespace
 
 bool CInternalStreamSource::setBufferCount(unsigned int count)
@@ -586,11 +597,7 @@ bool CInternalStreamSource::setBufferCount(unsigned int count)
 bool CInternalStreamSource::setInterPacketTimeout(unsigned int ms)
 {
     std::lock_guard<std::mutex> api(d->apiMutex);
-    if (d->camera && d->camera->getType() != typeGigEVision) {
-        setLastError(Infra::ERR_NOT_SUPPORTED, "GigE Vision only");
-        return false;
-    }
-    if (settingsLocked(d->core))
+    if (!settingAccepted(d->camera.get(), typeGigEVision, d->core))
         return false;
     d->interPacketTimeoutSet = true;
     d->interPacketTimeoutMs = ms;
@@ -601,11 +608,7 @@ bool CInternalStreamSource::setInterPacketTimeout(unsigned int ms)
 bool CInternalStreamSource::setSingleResendMaxPacketNum(unsigned int count)
 {
     std::lock_guard<std::mutex> api(d->apiMutex);
-    if (d->camera && d->camera->getType() != typeGigEVision) {
-        setLastError(Infra::ERR_NOT_SUPPORTED, "GigE Vision only");
-        return false;
-    }
-    if (settingsLocked(d->core))
+    if (!settingAccepted(d->camera.get(), typeGigEVision, d->core))
         return false;
     // 0 turns resends off; Aravis has no per-request packet limit, so any
     // other count leaves resends as Aravis and the camera agree on.
@@ -620,11 +623,7 @@ bool CInternalStreamSource::setSingleResendMaxPacketNum(unsigned int count)
 bool CInternalStreamSource::setMaxLostPacketNum(unsigned int count)
 {
     std::lock_guard<std::mutex> api(d->apiMutex);
-    if (d->camera && d->camera->getType() != typeGigEVision) {
-        setLastError(Infra::ERR_NOT_SUPPORTED, "GigE Vision only");
-        return false;
-    }
-    if (settingsLocked(d->core))
+    if (!settingAccepted(d->camera.get(), typeGigEVision, d->core))
         return false;
     d->maxLostSet = true;
     d->maxLostPackets = count;
@@ -635,11 +634,7 @@ bool CInternalStreamSource::setMaxLostPacketNum(unsigned int count)
 bool CInternalStreamSource::setUrbTransfer(unsigned int count, unsigned int size)
 {
     std::lock_guard<std::mutex> api(d->apiMutex);
-    if (d->camera && d->camera->getType() != typeUsb3Vision) {
-        setLastError(Infra::ERR_NOT_SUPPORTED, "USB3 Vision only");
-        return false;
-    }
-    if (settingsLocked(d->core))
+    if (!settingAccepted(d->camera.get(), typeUsb3Vision, d->core))
         return false;
     LOG_WARN("urb number count %u, urb size count %u have no counterpart in the receiver; its own transfer sizes are used",
              count, size);
