@@ -448,10 +448,10 @@ integer("PayloadSize", pvalue="PayloadSizeValue", vmin=0, vmax=0x7fffffff, unit=
         desc="Number of bytes transferred for each image on the stream channel.", vis="Expert")
 masked_reg("GevVersionMajorReg", 0x0, 0 + 15, 0, access="RO")
 integer("GevVersionMajor", pvalue="GevVersionMajorReg", access="RO", vis="Expert",
-        desc="Major version of the GigE Vision specification supported by the device.")
+        desc="Major version of the GigE Vision standard supported by the device.")
 masked_reg("GevVersionMinorReg", 0x0, 31, 16, access="RO")
 integer("GevVersionMinor", pvalue="GevVersionMinorReg", access="RO", vis="Expert",
-        desc="Minor version of the GigE Vision specification supported by the device.")
+        desc="Minor version of the GigE Vision standard supported by the device.")
 masked_reg("GevDeviceModeIsBigEndianReg", 0x4, 0, access="RO")
 boolean("GevDeviceModeIsBigEndian", "GevDeviceModeIsBigEndianReg", access="RO", vis="Guru",
         desc="Endianness of the bootstrap registers.")
