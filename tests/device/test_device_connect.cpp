@@ -9,6 +9,7 @@
 
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
+#include "CDeviceResetThread.h"
 #include "CTavDevice.h"
 #include "DeviceTestSupport.h"
 
@@ -31,6 +32,7 @@ private slots:
     void openStreamCloseRepeatedly();
     void secondOpenDuringConnectStartsNothing();
     void synchronousOpenAndClose();
+    void resetAndLinkSettingChanges();
     void refusedWhenAnotherClientHoldsControl();
     void busMessagesFromDeviceSignals();
     void streamNeedsConnection();
@@ -170,6 +172,43 @@ void TestDeviceConnect::synchronousOpenAndClose()
     QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
     QCOMPARE(m_bus.statusTypes(m_key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECTED, MSG_STREAM_OPENED,
                                              MSG_DEVICE_DISCONNECTING, MSG_STREAM_CLOSED, MSG_DEVICE_DISCONNECTED}));
+}
+
+void TestDeviceConnect::resetAndLinkSettingChanges()
+{
+    QVERIFY(m_device->openDevice(true));
+    const ICameraPtr camera = m_device->getDevice();
+
+    // The reset worker selects and loads the factory user set and makes it the default.
+    CEnumNode selector(camera, "UserSetSelector");
+    CEnumNode userSetDefault(camera, "UserSetDefault");
+    QVERIFY(selector.setValueBySymbol("UserSet1"));
+    QVERIFY(userSetDefault.setValueBySymbol("UserSet2"));
+    CDeviceResetThread reset;
+    QSignalSpy resetDone(&reset, &CDeviceResetThread::device_reset);
+    reset.setDevice(m_device);
+    reset.start();
+    QVERIFY(resetDone.wait(15000));
+    QCOMPARE(resetDone.first().first().toInt(), 1);
+    reset.wait();
+    Vorlen::Infra::CString symbol;
+    QVERIFY(selector.getValueSymbol(symbol));
+    QCOMPARE(QString(symbol.c_str()), QString("Default"));
+    QVERIFY(userSetDefault.getValueSymbol(symbol));
+    QCOMPARE(QString(symbol.c_str()), QString("Default"));
+
+    // A heartbeat change in the settings reaches the connected camera at once.
+    CConfiguration* cfg = CConfiguration::getInstance();
+    const uint16_t before = cfg->iHeartbeatIval;
+    cfg->setHeartbeatInterval(3500);
+    long heartbeat = 0;
+    QTRY_VERIFY_WITH_TIMEOUT(m_device->getParaIntValue("GevHeartbeatTimeout", heartbeat) && heartbeat == 3500, 5000);
+    cfg->setHeartbeatInterval(before);
+
+    QVERIFY(m_device->closeDevice(true));
+    // Closed: later changes are kept for the next connection and touch nothing.
+    cfg->setHeartbeatInterval(4000);
+    cfg->setHeartbeatInterval(before);
 }
 
 void TestDeviceConnect::refusedWhenAnotherClientHoldsControl()
