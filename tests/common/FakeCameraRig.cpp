@@ -15,27 +15,6 @@
 #include <cstring>
 #include <thread>
 
-namespace {
-
-// Aravis' fake camera binds its control port with address reuse, so a second
-// camera on the same address starts "successfully" and the two answer at
-// random. A plain bind tells whether the port is taken.
-bool controlPortFree(const std::string& address)
-{
-    const int fd = ::socket(AF_INET, SOCK_DGRAM, 0);
-    if (fd < 0)
-        return false;
-    sockaddr_in a{};
-    a.sin_family = AF_INET;
-    a.sin_port = htons(3956);
-    inet_pton(AF_INET, address.c_str(), &a.sin_addr);
-    const bool free = ::bind(fd, reinterpret_cast<sockaddr*>(&a), sizeof(a)) == 0;
-    ::close(fd);
-    return free;
-}
-
-} // namespace
-
 FakeCameraRig::FakeCameraRig() = default;
 
 FakeCameraRig::~FakeCameraRig()
@@ -51,7 +30,7 @@ int FakeCameraRig::start(const std::string& address, const std::string& serial, 
     // Another process (a test running beside this one) may hold the address
     // for a while: wait for it rather than fight over the port.
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(kPortWaitSeconds);
-    while (!controlPortFree(address)) {
+    while (!SimCam::controlPortFree(address)) {
         if (std::chrono::steady_clock::now() > deadline)
             return -1;
         std::this_thread::sleep_for(std::chrono::milliseconds(200));

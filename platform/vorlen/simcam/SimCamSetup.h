@@ -3,6 +3,10 @@
 // into the memory of Aravis' fake camera before anybody talks to it. Shared
 // by lumidor-simcam and the test rig so both present the same camera.
 #include <arv.h>
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
 #include <cstdint>
 #include <algorithm>
 #include <cstring>
@@ -55,6 +59,26 @@ inline void setup(ArvFakeCamera* fake, const std::string& serial)
     const std::string::size_type semicolon = text.find(';');
     if (colon != std::string::npos && semicolon != std::string::npos && semicolon > colon)
         writeString(fake, 0x0200, 512, text.substr(0, colon + 1) + "LumidorSimCam.xml" + text.substr(semicolon));
+}
+
+// Aravis' fake camera binds its control port with address reuse, so a second
+// camera on a taken address starts "successfully" and the two answer at
+// random. A plain bind tells whether the port is free.
+inline bool controlPortFree(const std::string& address)
+{
+    const int fd = ::socket(AF_INET, SOCK_DGRAM, 0);
+    if (fd < 0)
+        return false;
+    sockaddr_in a{};
+    a.sin_family = AF_INET;
+    a.sin_port = htons(3956);
+    if (inet_pton(AF_INET, address.c_str(), &a.sin_addr) != 1) {
+        ::close(fd);
+        return false;
+    }
+    const bool free = ::bind(fd, reinterpret_cast<sockaddr*>(&a), sizeof(a)) == 0;
+    ::close(fd);
+    return free;
 }
 
 } // namespace SimCam

@@ -48,25 +48,6 @@ uint32_t pixelFormatCode(const std::string& name)
     return 0;
 }
 
-// Aravis' fake camera binds its control port with address reuse: a second
-// camera on a taken address would start and answer at random.
-bool controlPortFree(const std::string& address)
-{
-    const int fd = ::socket(AF_INET, SOCK_DGRAM, 0);
-    if (fd < 0)
-        return false;
-    sockaddr_in a{};
-    a.sin_family = AF_INET;
-    a.sin_port = htons(3956);
-    if (inet_pton(AF_INET, address.c_str(), &a.sin_addr) != 1) {
-        ::close(fd);
-        return false;
-    }
-    const bool free = ::bind(fd, reinterpret_cast<sockaddr*>(&a), sizeof(a)) == 0;
-    ::close(fd);
-    return free;
-}
-
 std::string defaultXml(const char* argv0)
 {
     char path[PATH_MAX] = {0};
@@ -133,7 +114,7 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    if (!controlPortFree(address)) {
+    if (!SimCam::controlPortFree(address)) {
         std::fprintf(stderr, "lumidor-simcam: %s:3956 is not available (no such local address, or in use)\n",
                      address.c_str());
         return 1;

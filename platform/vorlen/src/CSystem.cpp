@@ -144,6 +144,19 @@ void initAravisOnce()
     });
 }
 
+// What Aravis' device list tells of every camera, whatever its interface.
+CAravisCamera::SDiscoveryInfo infoFromEntry(const SAravisEntry& e, EInterfaceType type)
+{
+    CAravisCamera::SDiscoveryInfo info;
+    info.type = type;
+    info.arvId = e.id;
+    info.vendor = e.vendor;
+    info.model = e.model;
+    info.serial = e.serial;
+    info.manufacturerInfo = e.manufacturerInfo;
+    return info;
+}
+
 std::vector<TSharedPtr<CAravisCamera>> discoverGigE()
 {
     std::vector<TSharedPtr<CAravisCamera>> found;
@@ -164,13 +177,7 @@ std::vector<TSharedPtr<CAravisCamera>> discoverGigE()
     for (const SAravisEntry& e : entries) {
         if (e.protocol != "GigEVision")
             continue;
-        CAravisCamera::SDiscoveryInfo info;
-        info.type = typeGigEVision;
-        info.arvId = e.id;
-        info.vendor = e.vendor;
-        info.model = e.model;
-        info.serial = e.serial;
-        info.manufacturerInfo = e.manufacturerInfo;
+        CAravisCamera::SDiscoveryInfo info = infoFromEntry(e, typeGigEVision);
         info.ipAddress = e.address;
         info.macAddress = e.physicalId;
         uint32_t ip = 0;
@@ -192,13 +199,7 @@ std::vector<TSharedPtr<CAravisCamera>> discoverUsb()
     for (const SAravisEntry& e : aravisDevices(arv_uv_interface_get_instance())) {
         if (e.protocol != "USB3Vision")
             continue;
-        CAravisCamera::SDiscoveryInfo info;
-        info.type = typeUsb3Vision;
-        info.arvId = e.id;
-        info.vendor = e.vendor;
-        info.model = e.model;
-        info.serial = e.serial;
-        info.manufacturerInfo = e.manufacturerInfo;
+        CAravisCamera::SDiscoveryInfo info = infoFromEntry(e, typeUsb3Vision);
         info.usbGuid = e.physicalId;
         SUsbSysfsInfo usb;
         if (usbSysfsInfo(e.serial, usb)) {
