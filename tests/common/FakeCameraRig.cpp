@@ -139,15 +139,5 @@ bool FakeCameraRig::hasAddress(const std::string& address)
 
 uint32_t FakeCameraRig::pixelFormatCode(const std::string& name)
 {
-    struct SFormat { const char* name; uint32_t code; };
-    static const SFormat formats[] = {
-        {"Mono8", ARV_PIXEL_FORMAT_MONO_8},         {"Mono16", ARV_PIXEL_FORMAT_MONO_16},
-        {"BayerRG8", ARV_PIXEL_FORMAT_BAYER_RG_8},  {"BayerGR8", ARV_PIXEL_FORMAT_BAYER_GR_8},
-        {"BayerGB8", ARV_PIXEL_FORMAT_BAYER_GB_8},  {"BayerBG8", ARV_PIXEL_FORMAT_BAYER_BG_8},
-        {"RGB8", ARV_PIXEL_FORMAT_RGB_8_PACKED},    {"RGB8Packed", ARV_PIXEL_FORMAT_RGB_8_PACKED},
-    };
-    for (const SFormat& f : formats)
-        if (name == f.name)
-            return f.code;
-    return 0;
+    return SimCam::pixelFormatCode(name);
 }

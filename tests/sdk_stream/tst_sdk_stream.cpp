@@ -7,7 +7,9 @@
 #include <atomic>
 #include <cstring>
 #include <mutex>
+#include <thread>
 
+#include "CAravisCamera.h"
 #include "FakeCameraRig.h"
 #include "Vorlen/GenICam.h"
 
@@ -37,6 +39,26 @@ struct SEventLog
         for (const SStreamArg& a : events)
             n += a.eStreamEventStatus == s ? 1 : 0;
         return n;
+    }
+};
+
+// Records the thread on which a GObject was released.
+struct SReleaseWatch
+{
+    std::mutex mutex;
+    bool released = false;
+    std::thread::id thread;
+    static void notify(gpointer data, GObject*)
+    {
+        auto* w = static_cast<SReleaseWatch*>(data);
+        std::lock_guard<std::mutex> lock(w->mutex);
+        w->released = true;
+        w->thread = std::this_thread::get_id();
+    }
+    bool isReleased()
+    {
+        std::lock_guard<std::mutex> lock(mutex);
+        return released;
     }
 };
 
@@ -356,6 +378,12 @@ private slots:
         CFrame held;
         QVERIFY(grab(src, held));
 
+        // The camera's device object, released once nobody holds it.
+        static SReleaseWatch watch;
+        ArvDevice* device = toAravisCamera(m_camera)->arvDevice();
+        QVERIFY(device);
+        g_object_weak_ref(G_OBJECT(device), &SReleaseWatch::notify, &watch);
+
         m_rig.stop(m_index);   // the camera is gone mid-stream
         bool channelError = false;
         CFrame f;
@@ -372,7 +400,15 @@ private slots:
 
         QVERIFY(held.valid());
         QCOMPARE(held.getImageSize(), uint64_t(kWidth) * kHeight);
+        // Once the camera has noticed its loss, the stream holds the last
+        // reference to the device; releasing a vanished device waits for its
+        // control channel to time out, which stopGrabbing must not do on the
+        // caller's thread.
+        QTRY_VERIFY_WITH_TIMEOUT(!m_camera->isConnected(), 30000);
+        QVERIFY(!watch.isReleased());
         QVERIFY(src.stopGrabbing());
+        QTRY_VERIFY_WITH_TIMEOUT(watch.isReleased(), 30000);
+        QVERIFY(watch.thread != std::this_thread::get_id());
         QVERIFY(held.valid());
         held.reset();
         events.unsubscribeStreamArg();

@@ -81,4 +81,20 @@ inline bool controlPortFree(const std::string& address)
     return free;
 }
 
+// PFNC code of a pixel format name the simulated camera offers, 0 when unknown.
+inline uint32_t pixelFormatCode(const std::string& name)
+{
+    struct SFormat { const char* name; uint32_t code; };
+    static const SFormat formats[] = {
+        {"Mono8", ARV_PIXEL_FORMAT_MONO_8},         {"Mono16", ARV_PIXEL_FORMAT_MONO_16},
+        {"BayerRG8", ARV_PIXEL_FORMAT_BAYER_RG_8},  {"BayerGR8", ARV_PIXEL_FORMAT_BAYER_GR_8},
+        {"BayerGB8", ARV_PIXEL_FORMAT_BAYER_GB_8},  {"BayerBG8", ARV_PIXEL_FORMAT_BAYER_BG_8},
+        {"RGB8", ARV_PIXEL_FORMAT_RGB_8_PACKED},    {"RGB8Packed", ARV_PIXEL_FORMAT_RGB_8_PACKED},
+    };
+    for (const SFormat& f : formats)
+        if (name == f.name)
+            return f.code;
+    return 0;
+}
+
 } // namespace SimCam

@@ -33,21 +33,6 @@ void usage()
                  "Pixel formats: Mono8 Mono16 BayerRG8 BayerGR8 BayerGB8 BayerBG8 RGB8\n");
 }
 
-uint32_t pixelFormatCode(const std::string& name)
-{
-    struct SFormat { const char* name; uint32_t code; };
-    static const SFormat formats[] = {
-        {"Mono8", ARV_PIXEL_FORMAT_MONO_8},        {"Mono16", ARV_PIXEL_FORMAT_MONO_16},
-        {"BayerRG8", ARV_PIXEL_FORMAT_BAYER_RG_8}, {"BayerGR8", ARV_PIXEL_FORMAT_BAYER_GR_8},
-        {"BayerGB8", ARV_PIXEL_FORMAT_BAYER_GB_8}, {"BayerBG8", ARV_PIXEL_FORMAT_BAYER_BG_8},
-        {"RGB8", ARV_PIXEL_FORMAT_RGB_8_PACKED},
-    };
-    for (const SFormat& f : formats)
-        if (name == f.name)
-            return f.code;
-    return 0;
-}
-
 std::string defaultXml(const char* argv0)
 {
     char path[PATH_MAX] = {0};
@@ -109,7 +94,7 @@ int main(int argc, char** argv)
         return 1;
     }
     uint32_t pfCode = 0;
-    if (!pixelFormat.empty() && (pfCode = pixelFormatCode(pixelFormat)) == 0) {
+    if (!pixelFormat.empty() && (pfCode = SimCam::pixelFormatCode(pixelFormat)) == 0) {
         std::fprintf(stderr, "lumidor-simcam: unknown pixel format %s\n", pixelFormat.c_str());
         return 2;
     }

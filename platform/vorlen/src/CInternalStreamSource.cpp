@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <mutex>
+#include <thread>
 
 #include "CAravisCamera.h"
 #include "EventHub.h"
@@ -384,7 +385,8 @@ bool CInternalStreamSource::SImpl::stop()
     // A camera that is gone would only make every command wait for its
     // timeouts.
     CAravisCamera* ac = toAravisCamera(camera);
-    if (ac && !session->controlLost.load() && ac->isConnected()) {
+    const bool cameraGone = channelFailed(*session);
+    if (ac && !cameraGone) {
         std::lock_guard<std::recursive_mutex> gc(ac->gcMutex());
         if (ArvCamera* cam = ac->arvCamera()) {
             GError* error = nullptr;
@@ -408,6 +410,12 @@ bool CInternalStreamSource::SImpl::stop()
     if (session->device && session->controlLostHandler) {
         g_signal_handler_disconnect(session->device, session->controlLostHandler);
         session->controlLostHandler = 0;
+    }
+    if (cameraGone) {
+        // The session may hold the last reference to a vanished camera's
+        // device, whose release waits for the control channel to time out:
+        // do not make the caller (often the GUI thread) wait for that.
+        std::thread([s = std::move(session)]() mutable { s.reset(); }).detach();
     }
     session.reset();
     LOG_DEBUG("stream stopped: channel %u, %d buffer(s) still held by frames", unsigned(channel),
