@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "CDisconnectAllThread.h"
 #include "CDiscoveryDevicesThread.h"
 #include "CTavDevice.h"
 #include "Tavlog4cpp/TavLogMacros.h"
@@ -53,6 +54,10 @@ CDeviceManager::CDeviceManager() : QObject(nullptr)
 
 CDeviceManager::~CDeviceManager()
 {
+    // A disconnect-all still under way polls this manager; let it end first
+    // (it gives up on its own after its time limit).
+    CDisconnectAllThread::getInstance()->wait();
+
     disconnect(m_pDiscovery, nullptr, this, nullptr);
     m_pDiscovery->stop();
 

@@ -1,6 +1,7 @@
 #include "CDisconnectAllThread.h"
 
 #include <QElapsedTimer>
+#include <QMetaObject>
 #include <QMutex>
 #include <memory>
 
@@ -34,8 +35,19 @@ void CDisconnectAllThread::run()
     const QMap<QString, CTavDevicePtr> devices = manager->getAllDevices();
     for (const CTavDevicePtr& device : devices)
     {
+        // The device's state belongs to its own (GUI) thread, which also
+        // handles its connection results and loss reports: the close runs
+        // there. closeDevice(false) only starts the disconnection, so
+        // nothing needs to wait for the call; the poll below waits for the
+        // devices to close.
         if (device && device->isConnected())
-            device->closeDevice(false);
+            QMetaObject::invokeMethod(
+                device.get(),
+                [device]() {
+                    if (device->isConnected())
+                        device->closeDevice(false);
+                },
+                Qt::QueuedConnection);
     }
 
     QElapsedTimer timer;

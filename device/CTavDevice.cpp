@@ -366,7 +366,6 @@ void CTavDevice::onDeviceOffline()
     const QByteArray key = m_strKey.toLocal8Bit();
     LOG_WARN("Device offline.Device Key[%s]", key.constData());
 
-    stopStreamThread();
     unsubscribeEvents();
     const TSharedPtr<CInternalStreamSource> stream = m_ptrStream;
     const TSharedPtr<CInternalEventManager> events = m_ptrEventManager;

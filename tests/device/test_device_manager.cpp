@@ -99,6 +99,18 @@ void TestDeviceManager::disconnectAllClosesEveryDevice()
     QCOMPARE(manager->getOpenedDeviceCount(), 2);
     QTRY_VERIFY_WITH_TIMEOUT(counter0.frames >= 2 && counter1.frames >= 2, 10000);
 
+    // The closes run on the devices' own thread, not on the worker: the
+    // device state is also changed there by connection results and losses.
+    QList<QThread*> closingThreads;
+    QList<QMetaObject::Connection> watches;
+    for (const CTavDevicePtr& device : devices)
+        watches.append(connect(device.get(), &CTavDevice::device_status_changed, this,
+                               [&closingThreads](EN_MESSAGE_TYPE type, CTavDevicePtr) {
+                                   if (type == MSG_DEVICE_DISCONNECTING)
+                                       closingThreads.append(QThread::currentThread());
+                               },
+                               Qt::DirectConnection));
+
     CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
     QSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
     QSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
@@ -106,6 +118,11 @@ void TestDeviceManager::disconnectAllClosesEveryDevice()
     QVERIFY(finished.wait(15000));
     QCOMPARE(begin.count(), 1);
     QVERIFY(closer->wait(5000));
+    for (const QMetaObject::Connection& watch : watches)
+        disconnect(watch);
+    QCOMPARE(closingThreads.size(), 2);
+    for (QThread* thread : closingThreads)
+        QCOMPARE(thread, QThread::currentThread());
 
     QCOMPARE(manager->getOpenedDeviceCount(), 0);
     for (const CTavDevicePtr& device : devices)

@@ -129,6 +129,7 @@ private slots:
     void mapFollowsTheCameras();
     void refreshPassesTheRequest();
     void disconnectAllGivesUp();
+    void managerGoesAfterDisconnectAll();
 
 private:
     std::shared_ptr<StubSystem> m_system;
@@ -269,6 +270,25 @@ void TestDeviceMap::disconnectAllGivesUp()
     // A's disconnection ends in the end.
     QTRY_VERIFY_WITH_TIMEOUT(!a->isConnected(), 10000);
     QCOMPARE(manager->getOpenedDeviceCount(), 0);
+}
+
+void TestDeviceMap::managerGoesAfterDisconnectAll()
+{
+    CDeviceManager* manager = CDeviceManager::getInstance();
+    QVERIFY(QTest::qWaitFor([&]() { return manager->getAllDevices().size() == 2; }, 10000));
+    const CTavDevicePtr a = manager->getDeviceByKey(keyOf(m_a));
+    QVERIFY(a->openDevice(true));
+
+    // The program ends while the disconnect-all worker is still waiting for
+    // the devices: the manager it polls must outlive it.
+    CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
+    QSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
+    closer->start();
+    QTRY_COMPARE_WITH_TIMEOUT(begin.count(), 1, 5000);
+    CDeviceManager::destroyInstance();
+    QVERIFY(!closer->isRunning());
+    QVERIFY(!a->isConnected());
+    QVERIFY(!m_a->isConnected());
 }
 
 QTEST_GUILESS_MAIN(TestDeviceMap)
