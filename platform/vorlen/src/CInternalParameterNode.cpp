@@ -265,6 +265,18 @@ std::string formatDouble(double v)
     return text;
 }
 
+// Reads one property of the feature under the camera's lock. Returns
+// `fallback` when the feature cannot be resolved; the last error says why.
+template <class T, class Read>
+T readMeta(const TSharedPtr<ICamera>& camera, const CString& name, T fallback, Read read)
+{
+    SAccess a;
+    if (!resolve(camera, name, a))
+        return fallback;
+    clearLastError();
+    return read(a);
+}
+
 } // namespace
 
 CInternalParameterNode::CInternalParameterNode(const TSharedPtr<ICamera>& camera, const char* name)
@@ -278,11 +290,7 @@ CInternalParameterNode::~CInternalParameterNode() = default;
 
 bool CInternalParameterNode::isValid() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return false;
-    clearLastError();
-    return true;
+    return readMeta(m_camera, m_name, false, [](const SAccess&) { return true; });
 }
 
 bool CInternalParameterNode::isImplemented() const
@@ -314,39 +322,25 @@ bool CInternalParameterNode::isAvailable() const
 
 bool CInternalParameterNode::isReadable() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return false;
-    clearLastError();
-    return readability(a.node) == ERR_OK;
+    return readMeta(m_camera, m_name, false, [](const SAccess& a) { return readability(a.node) == ERR_OK; });
 }
 
 bool CInternalParameterNode::isWriteable() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return false;
-    clearLastError();
-    return writability(a.node) == ERR_OK;
+    return readMeta(m_camera, m_name, false, [](const SAccess& a) { return writability(a.node) == ERR_OK; });
 }
 
 bool CInternalParameterNode::isStreamable() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return false;
-    clearLastError();
-    ArvGcPropertyNode* s = property(a.node, ARV_GC_PROPERTY_NODE_TYPE_STREAMABLE);
-    return s && arv_gc_property_node_get_streamable(s, ARV_GC_STREAMABLE_NO) == ARV_GC_STREAMABLE_YES;
+    return readMeta(m_camera, m_name, false, [](const SAccess& a) {
+        ArvGcPropertyNode* s = property(a.node, ARV_GC_PROPERTY_NODE_TYPE_STREAMABLE);
+        return s && arv_gc_property_node_get_streamable(s, ARV_GC_STREAMABLE_NO) == ARV_GC_STREAMABLE_YES;
+    });
 }
 
 CInternalParameterNode::EFeatureType CInternalParameterNode::getType() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return featureTypeNone;
-    clearLastError();
-    return typeOf(a.node);
+    return readMeta(m_camera, m_name, featureTypeNone, [](const SAccess& a) { return typeOf(a.node); });
 }
 
 CInternalParameterNode::ERepresent CInternalParameterNode::getRepresentation() const
@@ -377,20 +371,14 @@ CInternalParameterNode::ERepresent CInternalParameterNode::getRepresentation() c
 
 CInternalParameterNode::EVisibility CInternalParameterNode::getVisibility() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return visibilityUndefined;
-    clearLastError();
-    return mapVisibility(arv_gc_feature_node_get_visibility(feature(a)));
+    return readMeta(m_camera, m_name, visibilityUndefined,
+                    [](const SAccess& a) { return mapVisibility(arv_gc_feature_node_get_visibility(feature(a))); });
 }
 
 CInternalParameterNode::ENameSpace CInternalParameterNode::getNameSpace() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return nameSpaceUndefined;
-    clearLastError();
-    return mapNameSpace(arv_gc_feature_node_get_name_space(feature(a)));
+    return readMeta(m_camera, m_name, nameSpaceUndefined,
+                    [](const SAccess& a) { return mapNameSpace(arv_gc_feature_node_get_name_space(feature(a))); });
 }
 
 CString CInternalParameterNode::getName() const
@@ -400,30 +388,22 @@ CString CInternalParameterNode::getName() const
 
 CString CInternalParameterNode::getDisplayName() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return m_name;
-    clearLastError();
-    const char* text = arv_gc_feature_node_get_display_name(feature(a));
-    return text && *text ? CString(text) : m_name;
+    return readMeta(m_camera, m_name, m_name, [this](const SAccess& a) {
+        const char* text = arv_gc_feature_node_get_display_name(feature(a));
+        return text && *text ? CString(text) : m_name;
+    });
 }
 
 CString CInternalParameterNode::getDescription() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return CString();
-    clearLastError();
-    return CString(arv_gc_feature_node_get_description(feature(a)));
+    return readMeta(m_camera, m_name, CString(),
+                    [](const SAccess& a) { return CString(arv_gc_feature_node_get_description(feature(a))); });
 }
 
 CString CInternalParameterNode::getToolTip() const
 {
-    SAccess a;
-    if (!resolve(m_camera, m_name, a))
-        return CString();
-    clearLastError();
-    return CString(arv_gc_feature_node_get_tooltip(feature(a)));
+    return readMeta(m_camera, m_name, CString(),
+                    [](const SAccess& a) { return CString(arv_gc_feature_node_get_tooltip(feature(a))); });
 }
 
 bool CInternalParameterNode::getUnit(CString& unit) const
