@@ -12,6 +12,8 @@
 #include <QWidget>
 #include <QtTest>
 
+#include "TestFiles.h"
+
 #include <unistd.h>
 
 #include "CCommonMessageBox.h"
@@ -22,12 +24,6 @@
 using Node = Vorlen::GenICam::CInternalParameterNode;
 
 namespace {
-
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 // Answers the next modal message box with the given button (or Escape).
 void answerNextBox(QMessageBox::StandardButton button)

@@ -7,16 +7,12 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "TestFiles.h"
+
 namespace {
 
 const QByteArray kHashes = "###########################################################################";
 const QByteArray kStart = "#                                    Start                                #";
-
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 // Index of the banner + note sequence in the text, -1 when absent.
 int bannerFollowedBy(const QByteArray& text, const QByteArray& note)

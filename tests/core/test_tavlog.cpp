@@ -7,6 +7,8 @@
 #include <QThread>
 #include <QtTest>
 
+#include "TestFiles.h"
+
 #include <cstdio>
 #include <fcntl.h>
 #include <iostream>
@@ -18,18 +20,6 @@
 using Tavlog4cpp::CTavLog;
 
 namespace {
-
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-bool writeText(const QString& path, const QByteArray& text)
-{
-    QFile f(path);
-    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(text) == text.size();
-}
 
 QByteArray fileConfig(const QString& logFile, const QByteArray& extra = QByteArray())
 {
@@ -81,7 +71,7 @@ private slots:
 
         const QString logA = m_dir.filePath("a.log");
         const QString propsA = m_dir.filePath("a.properties");
-        QVERIFY(writeText(propsA, fileConfig(logA)));
+        QVERIFY(writeAll(propsA, fileConfig(logA)));
         QVERIFY(CTavLog::LoadConfig(qPrintable(propsA)));
 
         LOG_ERROR("value %d text %s", 42, "abc");
@@ -104,7 +94,7 @@ private slots:
         };
         for (const QByteArray& content : broken) {
             const QString props = m_dir.filePath("broken.properties");
-            QVERIFY(writeText(props, content));
+            QVERIFY(writeAll(props, content));
             QVERIFY2(!CTavLog::LoadConfig(qPrintable(props)), content.constData());
             LOG_DEBUG("still here");
             const int stillLine = __LINE__ - 1;
@@ -118,7 +108,7 @@ private slots:
     {
         const QString log = m_dir.filePath("threads.log");
         const QString props = m_dir.filePath("threads.properties");
-        QVERIFY(writeText(props, fileConfig(log)));
+        QVERIFY(writeAll(props, fileConfig(log)));
         QVERIFY(CTavLog::LoadConfig(qPrintable(props)));
 
         const int threads = 4;
