@@ -1,0 +1,42 @@
+#pragma once
+// Title row for frameless dialogs: the title text on the left, a close button
+// on the right, and dragging anywhere on the row moves the dialog.
+// Put it at the top of the dialog's layout; the close button calls the
+// window's close() (which for a QDialog ends in reject()).
+#include <QPoint>
+#include <QWidget>
+
+class QLabel;
+class QToolButton;
+
+class CDialogTitleBar : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit CDialogTitleBar(QWidget* parent = nullptr);
+
+    void setTitle(const QString& title);
+    QString title() const;
+
+    // Hide the close button for dialogs the user must not dismiss.
+    void setCloseButtonVisible(bool visible);
+    QToolButton* closeButton() const { return m_closeButton; }
+
+signals:
+    // Emitted before the window is closed by the close button.
+    void closeRequested();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void retranslate();
+
+    QLabel* m_titleLabel;
+    QToolButton* m_closeButton;
+    QPoint m_dragOffset;
+    bool m_dragging = false;
+};
