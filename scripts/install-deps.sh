@@ -6,7 +6,7 @@ set -euo pipefail
 PACKAGES=(
   build-essential cmake ninja-build pkg-config
   qtbase5-dev qtbase5-dev-tools libqt5svg5-dev
-  qttools5-dev qttools5-dev-tools fonts-wqy-microhei
+  qttools5-dev qttools5-dev-tools qttranslations5-l10n fonts-wqy-microhei
   libaravis-dev aravis-tools-cli libusb-1.0-0-dev
   libopencv-imgproc-dev libopencv-imgcodecs-dev
   libavformat-dev libavcodec-dev libavutil-dev libswscale-dev ffmpeg

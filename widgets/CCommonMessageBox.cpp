@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -34,7 +35,7 @@ CCommonMessageBox::CCommonMessageBox(QWidget* parent)
     m_fileLabel = new QLabel(m_fileRow);
     m_fileLabel->setObjectName(QStringLiteral("messageFile"));
     m_fileLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_openFileButton = new QPushButton(tr("Open file"), m_fileRow);
+    m_openFileButton = new QPushButton(m_fileRow);
     m_openFileButton->setObjectName(QStringLiteral("btnOpenFile"));
     m_openFileButton->setAutoDefault(false);
     auto* fileLayout = new QHBoxLayout(m_fileRow);
@@ -61,6 +62,7 @@ CCommonMessageBox::CCommonMessageBox(QWidget* parent)
     layout->addWidget(m_buttonBox);
 
     setButtons(QMessageBox::Ok);
+    retranslate();
 }
 
 void CCommonMessageBox::setMessage(const QString& text)
@@ -87,34 +89,30 @@ void CCommonMessageBox::setButtons(QMessageBox::StandardButtons buttons)
             push->setDefault(role == QDialogButtonBox::AcceptRole || role == QDialogButtonBox::YesRole);
         }
     }
+    retranslate();
 }
 
 void CCommonMessageBox::setIcon(QMessageBox::Icon icon)
 {
     m_icon = icon;
     QStyle::StandardPixmap pixmap = QStyle::SP_CustomBase;
-    QString title = QStringLiteral("Lumidor");
     switch (icon) {
     case QMessageBox::Information:
         pixmap = QStyle::SP_MessageBoxInformation;
-        title = tr("Information");
         break;
     case QMessageBox::Warning:
         pixmap = QStyle::SP_MessageBoxWarning;
-        title = tr("Warning");
         break;
     case QMessageBox::Critical:
         pixmap = QStyle::SP_MessageBoxCritical;
-        title = tr("Error");
         break;
     case QMessageBox::Question:
         pixmap = QStyle::SP_MessageBoxQuestion;
-        title = tr("Question");
         break;
     default:
         break;
     }
-    setWindowTitle(title);
+    retranslate();
     if (pixmap == QStyle::SP_CustomBase) {
         m_iconLabel->clear();
         m_iconLabel->hide();
@@ -123,6 +121,49 @@ void CCommonMessageBox::setIcon(QMessageBox::Icon icon)
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     m_iconLabel->setPixmap(style()->standardIcon(pixmap, nullptr, this).pixmap(size, size));
     m_iconLabel->show();
+}
+
+QString CCommonMessageBox::buttonText(QMessageBox::StandardButton which) const
+{
+    switch (which) {
+    case QMessageBox::Ok: return tr("OK");
+    case QMessageBox::Cancel: return tr("Cancel");
+    case QMessageBox::Yes: return tr("Yes");
+    case QMessageBox::No: return tr("No");
+    case QMessageBox::Close: return tr("Close");
+    case QMessageBox::Save: return tr("Save");
+    case QMessageBox::Discard: return tr("Discard");
+    case QMessageBox::Apply: return tr("Apply");
+    case QMessageBox::Retry: return tr("Retry");
+    case QMessageBox::Ignore: return tr("Ignore");
+    case QMessageBox::Abort: return tr("Abort");
+    default: return QString();
+    }
+}
+
+void CCommonMessageBox::retranslate()
+{
+    switch (m_icon) {
+    case QMessageBox::Information: setWindowTitle(tr("Information")); break;
+    case QMessageBox::Warning: setWindowTitle(tr("Warning")); break;
+    case QMessageBox::Critical: setWindowTitle(tr("Error")); break;
+    case QMessageBox::Question: setWindowTitle(tr("Question")); break;
+    default: setWindowTitle(QStringLiteral("Lumidor")); break;
+    }
+    m_openFileButton->setText(tr("Open file"));
+    for (QAbstractButton* b : m_buttonBox->buttons()) {
+        const auto which = QMessageBox::StandardButton(int(m_buttonBox->standardButton(b)));
+        const QString text = buttonText(which);
+        if (!text.isEmpty())
+            b->setText(text);
+    }
+}
+
+void CCommonMessageBox::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QDialog::changeEvent(event);
 }
 
 void CCommonMessageBox::setFilePath(const QString& path)

@@ -29,6 +29,9 @@ public:
     // The button for a standard button, or null when it is not shown.
     QPushButton* button(QMessageBox::StandardButton which) const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 public slots:
     // Escape / window close: Cancel, else No, else the only button there is.
     void reject() override;
@@ -38,6 +41,9 @@ private slots:
     void onOpenFileClicked();
 
 private:
+    void retranslate();
+    QString buttonText(QMessageBox::StandardButton which) const;
+
     QLabel* m_iconLabel;
     QLabel* m_messageLabel;
     QWidget* m_fileRow;
