@@ -59,6 +59,9 @@ public:
     // Announce that the save-throttle keys changed / that the settings were restored.
     void notifySaveConfigChanged() { emit signalSaveConfigChanged(); }
     void notifyRestoreCfg() { emit signalRestoreCfg(); }
+    // Announce that the display options (strDisplayValue, BayerDemosaicing,
+    // displayChunkDataEnable) changed; the stream threads copy them.
+    void notifyDisplayConfigChanged() { emit signalDisplayConfigChanged(); }
 
     // Keys, in the order of the file.
     int deviceCtrlVisibility = 0;
@@ -125,6 +128,7 @@ signals:
     void signalRestoreCfg();
     void signalVisibilityChanged(int level);
     void signalSaveConfigChanged();
+    void signalDisplayConfigChanged();
     void signalAnswerTimeoutChanged(uint16_t ms);
     void signalHeartbeatIntervalChanged(uint16_t ms);
     void signalInterPacketTimeoutChanged(uint32_t ms);
