@@ -8128,14 +8128,6 @@
         <translation>禁用</translation>
     </message>
     <message>
-        <source>Yes</source>
-        <translation>是的</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>不</translation>
-    </message>
-    <message>
         <source>Transmitter</source>
         <translation>发送端</translation>
     </message>

@@ -296,6 +296,16 @@ void TestPropertyTables::chineseTranslatorTranslatesEveryText()
                 english << t.key() + "/" + it.key() + ": " + it.value();
     QVERIFY2(english.isEmpty(), qPrintable("left in English: " + english.mid(0, 20).join("; ")));
 
+    // The form maps a chosen text back to its symbol, so within one table no two symbols
+    // may share a translation.
+    for (auto t = g_mapNameToValueTransMap.cbegin(); t != g_mapNameToValueTransMap.cend(); ++t) {
+        QSet<QString> texts;
+        for (const QString& v : t.value()) {
+            QVERIFY2(!texts.contains(v), qPrintable(t.key() + " translates two symbols as " + v));
+            texts.insert(v);
+        }
+    }
+
     // Once the translator is gone, refilling brings the English texts back.
     fillParamTransTables();
     QCOMPARE(g_mapNameToDispTrans.value("DeviceType"), QString("Device Type"));
