@@ -17,7 +17,10 @@ if [ -z "$(timeout 5 arv-tool-0.8 2>/dev/null | grep -v '^No device found' || tr
   echo "No camera found: starting two simulated cameras"
   bash "$here/scripts/loopback.sh" 2
   addr2=127.0.0.2
-  ip -4 addr show dev lo 2>/dev/null | grep -q "inet 127.0.0.2/" || addr2=""
+  # Read the list first: with pipefail, grep -q closing the pipe early
+  # would make the whole test fail now and then.
+  lo_addresses="$(ip -4 addr show dev lo 2>/dev/null || true)"
+  grep -q "inet 127.0.0.2/" <<<"$lo_addresses" || addr2=""
   "$bin/lumidor-simcam" --address 127.0.0.1 --serial LUM-SIM-01 & pids+=($!)
   if [ -n "$addr2" ]; then
     "$bin/lumidor-simcam" --address "$addr2" --serial LUM-SIM-02 & pids+=($!)

@@ -25,22 +25,33 @@ FakeCameraRig::~FakeCameraRig()
 int FakeCameraRig::start(const std::string& address, const std::string& serial, const std::string& xmlPath, int width,
                          int height, const std::string& pixelFormat)
 {
-    if (!hasAddress(address))
+    m_lastError.clear();
+    if (!hasAddress(address)) {
+        m_lastError = address + " is not on any local interface (scripts/test.sh runs the tests in a network "
+                                "namespace with 127.0.0.1 to 127.0.0.5 on loopback)";
         return -1;
+    }
     // Another process (a test running beside this one) may hold the address
     // for a while: wait for it rather than fight over the port.
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(kPortWaitSeconds);
     while (!SimCam::controlPortFree(address)) {
-        if (std::chrono::steady_clock::now() > deadline)
+        if (std::chrono::steady_clock::now() > deadline) {
+            m_lastError = "the GigE Vision control port of " + address + " stayed taken by another process for "
+                          + std::to_string(kPortWaitSeconds) + " s";
             return -1;
+        }
         std::this_thread::sleep_for(std::chrono::milliseconds(200));
     }
     const std::string xml = xmlPath.empty() ? defaultXmlPath() : xmlPath;
-    ArvGvFakeCamera* camera = arv_gv_fake_camera_new_full(address.c_str(), serial.c_str(), xml.c_str());
-    if (!camera)
+    if (access(xml.c_str(), R_OK) != 0) {
+        m_lastError = "the camera description " + xml + " cannot be read";
         return -1;
-    if (!arv_gv_fake_camera_is_running(camera)) {
-        g_object_unref(camera);
+    }
+    ArvGvFakeCamera* camera = arv_gv_fake_camera_new_full(address.c_str(), serial.c_str(), xml.c_str());
+    if (!camera || !arv_gv_fake_camera_is_running(camera)) {
+        if (camera)
+            g_object_unref(camera);
+        m_lastError = "Aravis' simulated camera did not start on " + address;
         return -1;
     }
     ArvFakeCamera* fake = arv_gv_fake_camera_get_fake_camera(camera);

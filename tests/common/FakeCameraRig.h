@@ -37,6 +37,9 @@ public:
     static constexpr int kPortWaitSeconds = 60;
     int start(const std::string& address, const std::string& serial, const std::string& xmlPath = std::string(),
               int width = 0, int height = 0, const std::string& pixelFormat = std::string());
+    // Why the last start() returned -1, naming what the rig lacks; empty
+    // after a successful start. Tests put it in their failure message.
+    const std::string& lastError() const { return m_lastError; }
     // Stops (destroys) camera i; the index stays reserved, fake(i) is then null.
     void stop(int i);
     void stopAll();
@@ -67,4 +70,5 @@ private:
         std::string address, serial;
     };
     std::vector<SEntry> m_cameras;
+    std::string m_lastError;
 };

@@ -58,7 +58,7 @@ private slots:
     {
         received << Received{msg->type, msg->device.isNull(), msg->paramUpdateArg.key.str(),
                              msg->paramUpdateArg.timestamp, msg->paramUpdateArg.paramNames.size(),
-                             QThread::currentThread() == qApp->thread()};
+                             QThread::currentThread() == QCoreApplication::instance()->thread()};
     }
 
 private:

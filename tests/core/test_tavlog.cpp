@@ -1,5 +1,6 @@
 // Logging facade: source names, configuration from a properties file (and its
-// refusal of broken files), the built-in default, long and concurrent lines.
+// refusal of broken files), loading again, the built-in default, long and
+// concurrent lines.
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -12,6 +13,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <iostream>
+#include <log4cpp/Appender.hh>
 #include <log4cpp/Category.hh>
 #include <unistd.h>
 
@@ -102,6 +104,47 @@ private slots:
                                            + ") configurationFromFile] still here\n"));
         }
         QVERIFY(!QFile::exists(logB) || readAll(logB).isEmpty());
+    }
+
+    // Loading again replaces the appenders: every line is written once, by
+    // the appenders of the last configuration, and a file that log4cpp
+    // refuses half-way leaves the built-in standard-error sink in force.
+    void reloadingReplacesAppenders()
+    {
+        const QString first = m_dir.filePath("reload1.log");
+        const QString second = m_dir.filePath("reload2.log");
+        const QString props = m_dir.filePath("reload.properties");
+        QVERIFY(writeAll(props, fileConfig(first)));
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(CTavLog::LoadConfig(qPrintable(props)));
+        LOG_ERROR("once");
+        QCOMPARE(readAll(first).count("once\n"), 1);
+        QCOMPARE(log4cpp::Category::getInstance("vintrel").getAllAppenders().size(), size_t(1));
+        QCOMPARE(*log4cpp::Category::getInstance("vintrel").getAllAppenders().begin(),
+                 log4cpp::Appender::getAppender("f"));
+
+        QVERIFY(writeAll(props, fileConfig(second)));
+        QVERIFY(CTavLog::LoadConfig(qPrintable(props)));
+        LOG_ERROR("moved");
+        QVERIFY(!readAll(first).contains("moved"));
+        QCOMPARE(readAll(second).count("moved\n"), 1);
+
+        QVERIFY(writeAll(props, fileConfig(second).replace("appender.f=FileAppender", "appender.f=NoSuchAppender")));
+        const QString errPath = m_dir.filePath("reload-stderr.txt");
+        std::cerr.flush();
+        const int saved = dup(STDERR_FILENO);
+        const int fd = ::open(qPrintable(errPath), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        QVERIFY(saved >= 0 && fd >= 0);
+        dup2(fd, STDERR_FILENO);
+        ::close(fd);
+        const bool loaded = CTavLog::LoadConfig(qPrintable(props));
+        LOG_ERROR("after a refused file");
+        std::cerr.flush();
+        dup2(saved, STDERR_FILENO);
+        ::close(saved);
+        QVERIFY(!loaded);
+        QVERIFY(readAll(errPath).contains("after a refused file"));
+        QVERIFY(!readAll(second).contains("after a refused file"));
     }
 
     void concurrentLines()

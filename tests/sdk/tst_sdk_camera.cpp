@@ -168,11 +168,11 @@ private:
 void TestSdkCamera::initTestCase()
 {
     m_fake1 = m_rig.start("127.0.0.1", "SIM001");
-    QVERIFY2(m_fake1 >= 0, "cannot start the simulated camera on 127.0.0.1");
+    QVERIFY2(m_fake1 >= 0, m_rig.lastError().c_str());
     m_second = FakeCameraRig::hasAddress("127.0.0.2");
     if (m_second) {
         m_fake2 = m_rig.start("127.0.0.2", "SIM002");
-        QVERIFY2(m_fake2 >= 0, "cannot start the simulated camera on 127.0.0.2");
+        QVERIFY2(m_fake2 >= 0, m_rig.lastError().c_str());
     }
     TVector<ICameraPtr> cameras;
     QVERIFY(CSystem::getInstance().discovery(cameras, typeGigEVision));
@@ -242,7 +242,7 @@ void TestSdkCamera::discovery()
     QCOMPARE(findBySerial(all, "SIM001").get(), m_cam1.get());
 
     if (!m_second)
-        QSKIP("127.0.0.2 is not on the loopback interface (scripts/loopback.sh adds it)");
+        QFAIL("rig incomplete: 127.0.0.2 is not on the loopback interface (scripts/test.sh runs the tests with it)");
     QCOMPARE(findBySerial(again, "SIM002").get(), m_cam2.get());
     QCOMPARE(QString(CInternalGigECameraInfo(m_cam2).getIpAddress().c_str()), QString("127.0.0.2"));
     QVERIFY(m_cam1->getKey() != m_cam2->getKey());
@@ -273,7 +273,7 @@ void TestSdkCamera::unicastDiscovery()
 void TestSdkCamera::controlPrivilege()
 {
     if (!m_second)
-        QSKIP("needs the camera on 127.0.0.2");
+        QFAIL("rig incomplete: no simulated camera on 127.0.0.2 (scripts/test.sh adds the address)");
     auto* cam = dynamic_cast<CInternalCamera*>(m_cam2.get());
     CInternalGigECameraInfo info(m_cam2);
     ECameraAccessPermission permission = accessPermissionUnknown;
@@ -864,7 +864,7 @@ void TestSdkCamera::forceIp()
 
     // A camera of our own making answers discovery and FORCEIP.
     if (!FakeCameraRig::hasAddress("127.0.0.3"))
-        QSKIP("127.0.0.3 is not on the loopback interface (scripts/loopback.sh adds it)");
+        QFAIL("rig incomplete: 127.0.0.3 is not on the loopback interface (scripts/test.sh runs the tests with it)");
     SUdp responder("127.0.0.3", 3956);
     QVERIFY(responder.fd >= 0);
     const uint64_t mac = 0x0A1B2C3D4E5Full;
@@ -956,7 +956,7 @@ void TestSdkCamera::forceIp()
 void TestSdkCamera::cameraLost()
 {
     if (!m_second)
-        QSKIP("needs the camera on 127.0.0.2");
+        QFAIL("rig incomplete: no simulated camera on 127.0.0.2 (scripts/test.sh adds the address)");
     auto* cam = dynamic_cast<CInternalCamera*>(m_cam2.get());
     QVERIFY(cam->connect(accessPermissionControl));
     SRecorder<SConnectArg> connection;

@@ -1,6 +1,7 @@
 #include "Tavlog4cpp/CTavLog.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
+#include <log4cpp/Appender.hh>
 #include <log4cpp/Category.hh>
 #include <log4cpp/OstreamAppender.hh>
 #include <log4cpp/PatternLayout.hh>
@@ -12,6 +13,7 @@
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <set>
 #include <sstream>
@@ -119,6 +121,78 @@ bool categoriesAreValid(const std::map<std::string, std::string>& props)
     return true;
 }
 
+// Names of the appenders a properties file defines ("appender.<name>").
+std::set<std::string> appenderNames(const std::map<std::string, std::string>& props)
+{
+    std::set<std::string> names;
+    const std::string prefix = "appender.";
+    for (const auto& kv : props) {
+        if (kv.first.compare(0, prefix.size(), prefix) != 0)
+            continue;
+        const std::string name = kv.first.substr(prefix.size());
+        if (!name.empty() && name.find('.') == std::string::npos)
+            names.insert(name);
+    }
+    return names;
+}
+
+// Appenders of the configuration in force, by name, so that loading another
+// one can delete them: log4cpp keeps appenders in a registry by name, and a
+// new appender of the same name silently takes the old one's place there,
+// leaving the old one owned by nobody.
+std::set<std::string>& configuredAppenderNames()
+{
+    static std::set<std::string> names;
+    return names;
+}
+
+// Detaches every appender from every category and deletes it, together with
+// the appenders of the previous configuration and any appender already
+// registered under a name the next configuration uses. Called under
+// logMutex(), so no line is being written meanwhile.
+void dropAllAppenders(const std::set<std::string>& nextNames)
+{
+    std::set<log4cpp::Appender*> all;
+    std::set<log4cpp::Appender*> owned;
+    std::unique_ptr<std::vector<log4cpp::Category*>> categories(log4cpp::Category::getCurrentCategories());
+    for (log4cpp::Category* category : *categories) {
+        for (log4cpp::Appender* appender : category->getAllAppenders()) {
+            all.insert(appender);
+            if (category->ownsAppender(appender))
+                owned.insert(appender);
+        }
+    }
+    std::set<std::string> names = configuredAppenderNames();
+    names.insert(nextNames.begin(), nextNames.end());
+    for (const std::string& name : names) {
+        if (log4cpp::Appender* appender = log4cpp::Appender::getAppender(name))
+            all.insert(appender);
+    }
+    // Owned appenders are deleted by their category; the rest here.
+    for (log4cpp::Category* category : *categories)
+        category->removeAllAppenders();
+    for (log4cpp::Appender* appender : all) {
+        if (owned.count(appender) == 0)
+            delete appender;
+    }
+    configuredAppenderNames().clear();
+}
+
+// The built-in configuration: the application's category writes to
+// standard error. Called under logMutex().
+void installDefault()
+{
+    auto* layout = new log4cpp::PatternLayout();
+    layout->setConversionPattern("%d{%Y-%m-%d %H:%M:%S,%l} [%p] %m%n");
+    auto* appender = new log4cpp::OstreamAppender("vintrelDefault", &std::cerr);
+    appender->setLayout(layout);
+
+    log4cpp::Category& category = log4cpp::Category::getInstance(kCategoryName);
+    category.setAdditivity(false);
+    category.setPriority(log4cpp::Priority::DEBUG);
+    category.addAppender(appender);
+}
+
 } // namespace
 
 const char* sourceName(const char* file)
@@ -152,13 +226,25 @@ bool CTavLog::LoadConfig(const char* path)
     if (in.bad())
         return false;
     std::istringstream props(text.str());
-    if (!categoriesAreValid(parseProperties(props)))
+    const std::map<std::string, std::string> properties = parseProperties(props);
+    if (!categoriesAreValid(properties))
         return false;
 
     std::lock_guard<std::mutex> lock(logMutex());
+    const std::set<std::string> names = appenderNames(properties);
     try {
+        dropAllAppenders(names);
+        configuredAppenderNames() = names;
         log4cpp::PropertyConfigurator::configure(path);
     } catch (...) {
+        // A file log4cpp refuses half-way (an unknown appender class, say)
+        // must not leave the application without a log: fall back to the
+        // built-in configuration.
+        try {
+            dropAllAppenders(std::set<std::string>());
+            installDefault();
+        } catch (...) {
+        }
         return false;
     }
     return true;
@@ -168,16 +254,8 @@ void CTavLog::LoadDefault()
 {
     std::lock_guard<std::mutex> lock(logMutex());
     try {
-        auto* layout = new log4cpp::PatternLayout();
-        layout->setConversionPattern("%d{%Y-%m-%d %H:%M:%S,%l} [%p] %m%n");
-        auto* appender = new log4cpp::OstreamAppender("vintrelDefault", &std::cerr);
-        appender->setLayout(layout);
-
-        log4cpp::Category& category = log4cpp::Category::getInstance(kCategoryName);
-        category.removeAllAppenders();
-        category.setAdditivity(false);
-        category.setPriority(log4cpp::Priority::DEBUG);
-        category.addAppender(appender);
+        dropAllAppenders(std::set<std::string>());
+        installDefault();
     } catch (...) {
         // A broken default leaves the category as it was; logging goes on.
     }

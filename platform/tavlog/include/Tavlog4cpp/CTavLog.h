@@ -8,10 +8,14 @@ namespace Tavlog4cpp {
 class CTavLog
 {
 public:
-    // Configures log4cpp from a properties file; false when the file is
-    // missing or unreadable (nothing is changed then).
+    // Configures log4cpp from a properties file, replacing (and freeing) the
+    // appenders of the configuration in force. False when the file is
+    // missing, unreadable or names an unknown category level or appender
+    // (nothing is changed then), or when log4cpp refuses it half-way (the
+    // built-in configuration is in force then).
     static bool LoadConfig(const char* path);
-    // Built-in configuration: the category writes to standard error.
+    // Built-in configuration, replacing any other: the category writes to
+    // standard error.
     static void LoadDefault();
     // The category all of the application logs to.
     static log4cpp::Category* Logger_vintrel();
