@@ -26,6 +26,7 @@
 #include <thread>
 #include <vector>
 
+#include "../common/BenchSimCams.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CTavDevice.h"
@@ -76,13 +77,7 @@ QString serial(int i)
     return QString("BENCH%1").arg(i + 1, 2, 10, QChar('0'));
 }
 
-bool hasAddress(const QString& ip)
-{
-    QProcess p;
-    p.start("ip", {"-4", "addr", "show", "dev", "lo"});
-    p.waitForFinished(3000);
-    return QString::fromLocal8Bit(p.readAllStandardOutput()).contains("inet " + ip + "/");
-}
+using BenchSimCams::hasAddress;
 
 void percentiles(std::vector<qint64> ns, double& median, double& p99)
 {
@@ -94,13 +89,7 @@ void percentiles(std::vector<qint64> ns, double& median, double& p99)
     p99 = ns[std::min(ns.size() - 1, size_t(double(ns.size()) * 0.99))] / 1e6;
 }
 
-// Runs the event loop (blocking, not polling) for ms milliseconds.
-void pump(int ms)
-{
-    QEventLoop loop;
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-    loop.exec();
-}
+using BenchSimCams::pump;
 
 // Receives the frames of one device on the GUI thread, as a video view does.
 class FrameReceiver : public QObject

@@ -303,7 +303,13 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
         GInetAddress* interfaceAddress = hostIp ? g_inet_address_new_from_string(Gvcp::ipToString(hostIp).c_str())
                                                 : g_inet_address_new_any(G_SOCKET_FAMILY_IPV4);
         GInetAddress* deviceAddress = g_inet_address_new_from_string(info.ipAddress.c_str());
+        // Aravis parses the camera's description while it builds the device,
+        // and its parser is not safe on two threads at once: cameras that
+        // connect side by side take turns here.
+        static std::mutex parseMutex;
+        std::unique_lock<std::mutex> parseLock(parseMutex);
         ArvDevice* device = arv_gv_device_new(interfaceAddress, deviceAddress, &error);
+        parseLock.unlock();
         g_object_unref(interfaceAddress);
         g_object_unref(deviceAddress);
         if (!device) {
