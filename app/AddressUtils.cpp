@@ -1,6 +1,8 @@
 #include "AddressUtils.h"
 
+#include <QGuiApplication>
 #include <QHostAddress>
+#include <QScreen>
 #include <QRegularExpression>
 #include <QStringList>
 #include <cstdio>
@@ -155,4 +157,39 @@ int checkIp(std::string interfaceIp, std::string interfaceMask, std::string inte
     if (!isSubnetMskValid(QString::fromLocal8Bit(deviceMask.c_str())))
         return CHECK_IP_OTHER_SUBNET;
     return CHECK_IP_OK;
+}
+
+QPoint getMenuPos(QPoint pos, QSize size, const QRect& screen)
+{
+    QPoint result = pos;
+    if (pos.y() + size.height() > screen.height())
+        result.setY(qMax(0, pos.y() - size.height()));
+    if (pos.x() + size.width() > screen.width())
+        result.setX(qMax(0, screen.x() + screen.width() - size.width()));
+    return result;
+}
+
+namespace {
+QRect screenGeometryAt(const QPoint& pos)
+{
+    QScreen* screen = QGuiApplication::screenAt(pos);
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    return screen ? screen->geometry() : QRect(0, 0, 1920, 1080);
+}
+} // namespace
+
+QPoint getMenuPos(QPoint pos, QSize size)
+{
+    return getMenuPos(pos, size, screenGeometryAt(pos));
+}
+
+QPoint getMenuPos(QRect rect, QSize size)
+{
+    const QRect screen = screenGeometryAt(rect.bottomLeft());
+    QPoint result = getMenuPos(rect.bottomLeft(), size, screen);
+    // Flipped: sit above the rectangle rather than above its bottom edge.
+    if (result.y() != rect.bottom())
+        result.setY(qMax(0, rect.top() - size.height()));
+    return result;
 }

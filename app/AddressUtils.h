@@ -2,6 +2,9 @@
 // IPv4 address helpers shared by the IP configuration, the unicast dialog and
 // the feature conversions. Addresses as integers are in host order with the
 // first octet in the most significant byte (192.168.1.10 == 0xC0A8010A).
+#include <QPoint>
+#include <QRect>
+#include <QSize>
 #include <QString>
 #include <string>
 #include <vector>
@@ -38,3 +41,12 @@ int checkIp(std::string interfaceIp, std::string interfaceMask, std::string inte
             std::string deviceMask, std::string deviceGateway);
 // Splits text at every occurrence of the separator; parts is replaced.
 void splitStr(const char* text, const char* separator, std::vector<std::string>& parts);
+
+// Top-left corner for a pop-up of the size opened at pos so that it stays on
+// the screen: flipped above pos when it would run off the bottom, pulled in
+// from the right edge when it would run off the right (never below 0).
+QPoint getMenuPos(QPoint pos, QSize size);
+// Same, opened below the rectangle (flipped above it when there is no room).
+QPoint getMenuPos(QRect rect, QSize size);
+// The rule itself, against the given screen geometry.
+QPoint getMenuPos(QPoint pos, QSize size, const QRect& screen);

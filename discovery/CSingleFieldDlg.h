@@ -1,0 +1,46 @@
+#pragma once
+// Frame shared by the small one-field dialogs: the application's title bar
+// (close button only), a label with one line edit, and OK / Cancel. OK runs
+// the subclass' check (validate) and accepts only when it passes.
+#include <QDialog>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class CDialogTitleBar;
+
+class CSingleFieldDlg : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit CSingleFieldDlg(QWidget* parent = nullptr);
+
+    QString getEditValue() const;
+    QLineEdit* lineEdit() const { return m_lineEdit; }
+    QPushButton* okButton() const { return m_btnOk; }
+    QPushButton* cancelButton() const { return m_btnCancel; }
+    QString titleText() const;
+    QString labelText() const;
+
+public slots:
+    void on_btnOk_clicked();
+    void on_btnCancel_clicked();
+
+protected:
+    // Window flags, the highlighted OK button and the texts.
+    void initFrame();
+    void setTexts(const QString& title, const QString& label);
+    // Shows its own message and returns false to keep the dialog open.
+    virtual bool validate() = 0;
+    virtual void retranslateUi() = 0;
+    // The text is longer in the local 8-bit encoding than the edit allows.
+    bool exceedsMaxLength() const;
+    void changeEvent(QEvent* event) override;
+
+private:
+    CDialogTitleBar* m_titleBar;
+    QLabel* m_label;
+    QLineEdit* m_lineEdit;
+    QPushButton* m_btnOk;
+    QPushButton* m_btnCancel;
+};
