@@ -4,42 +4,68 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDockWidget>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTimer>
 
+#include "CAboutDlg.h"
+#include "CCollapsiblePanel.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDisconnectAllThread.h"
 #include "CDiscoveryDevicesThread.h"
-#include "StyleSheet.h"
+#include "CHelpDlg.h"
+#include "CMenu.h"
+#include "CWaitDlg.h"
+#include "LumidorResources.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 #include "Utils.h"
 
 namespace {
-const char* const kEnglishFontSheet = "Skins/Default/Vintrel/style_eng_font.qss";
-const char* const kChineseFontSheet = "Skins/Default/Vintrel/style_chn_font.qss";
+// The main sheet as loaded at start, kept on the application so that every
+// window appends its font sheet to the same base.
+QString baseStyleSheet()
+{
+    const char* key = "lumidorBaseStyleSheet";
+    if (!qApp->property(key).isValid())
+        qApp->setProperty(key, qApp->styleSheet());
+    return qApp->property(key).toString();
+}
+
+QWidget* placeholder(QWidget* parent, const QString& name)
+{
+    auto* w = new QWidget(parent);
+    w->setObjectName(name);
+    w->setAttribute(Qt::WA_StyledBackground, true);
+    return w;
+}
 } // namespace
 
 MainWindow::MainWindow(const QString& commandLine, QWidget* parent)
     : QMainWindow(parent)
     , m_commandLine(commandLine)
 {
+    initLumidorResources();
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(QStringLiteral("Lumidor"));
-    m_baseStyleSheet = qApp->styleSheet();
+    setWindowIcon(QIcon(QStringLiteral(":/Pic/Lumidor.png")));
+
+    m_language = new CLanguageManager(baseStyleSheet(), QStringLiteral("Skins/Default/Vintrel"), this);
+    connect(m_language, &CLanguageManager::languageChanged, this, &MainWindow::signalLanChanged);
+    connect(m_language, &CLanguageManager::featureLanguageChanged, this, &MainWindow::signalFeatureLanChanged);
 
     createAreas();
     createMenus();
-
-    const int language = CConfiguration::getInstance()->readLanguageSetting();
-    (language == LanguageChinese ? m_actionChinese : m_actionEnglish)->setChecked(true);
-    applyFontSheet(language);
+    m_language->applyStoredLanguage();
+    syncLanguageActions();
+    retranslate();
 
     resize(1400, 860);
     startDeviceManager();
@@ -60,7 +86,6 @@ void MainWindow::startDeviceManager()
     // The manager starts the discovery worker and asks for the first pass.
     connect(CDeviceManager::getInstance(), &CDeviceManager::discoveryDevicesFinished, this,
             &MainWindow::onDevicesChanged);
-    statusBar()->showMessage(tr("Searching for cameras..."));
 }
 
 void MainWindow::onSignalDiscoveryFinished(bool ok)
@@ -71,64 +96,103 @@ void MainWindow::onSignalDiscoveryFinished(bool ok)
 
 void MainWindow::onDevicesChanged()
 {
-    const int count = CDeviceManager::getInstance()->getAllDevices().size();
-    statusBar()->showMessage(tr("Cameras found: %1").arg(count));
+    m_cameraCount = CDeviceManager::getInstance()->getAllDevices().size();
+    retranslate();
 }
 
 void MainWindow::createAreas()
 {
-    m_videoArea = new QWidget(this);
-    m_videoArea->setObjectName(QStringLiteral("videoArea"));
-    setCentralWidget(m_videoArea);
+    m_splitter = new QSplitter(Qt::Horizontal, this);
+    m_splitter->setObjectName(QStringLiteral("mainSplitter"));
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->setHandleWidth(2);
 
-    m_deviceDock = new QDockWidget(tr("Devices"), this);
-    m_deviceDock->setObjectName(QStringLiteral("deviceListDock"));
-    m_deviceDock->setFeatures(QDockWidget::DockWidgetMovable);
-    m_deviceListArea = new QWidget(m_deviceDock);
-    m_deviceListArea->setObjectName(QStringLiteral("deviceListArea"));
+    m_leftPanel = new CCollapsiblePanel(CCollapsiblePanel::LeftSide, m_splitter);
+    m_videoArea = placeholder(m_splitter, QStringLiteral("videoArea"));
+    m_rightPanel = new CCollapsiblePanel(CCollapsiblePanel::RightSide, m_splitter);
+    m_splitter->addWidget(m_leftPanel);
+    m_splitter->addWidget(m_videoArea);
+    m_splitter->addWidget(m_rightPanel);
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setStretchFactor(2, 0);
+
+    m_deviceListArea = placeholder(m_leftPanel, QStringLiteral("deviceListArea"));
     m_deviceListArea->setMinimumWidth(260);
-    m_deviceDock->setWidget(m_deviceListArea);
-    addDockWidget(Qt::LeftDockWidgetArea, m_deviceDock);
-
-    m_propertyDock = new QDockWidget(tr("Properties"), this);
-    m_propertyDock->setObjectName(QStringLiteral("propertyDock"));
-    m_propertyDock->setFeatures(QDockWidget::DockWidgetMovable);
-    m_propertyArea = new QWidget(m_propertyDock);
-    m_propertyArea->setObjectName(QStringLiteral("propertyArea"));
+    m_leftPanel->setContent(m_deviceListArea);
+    m_leftPanel->setExpandedWidth(300);
+    m_propertyArea = placeholder(m_rightPanel, QStringLiteral("propertyArea"));
     m_propertyArea->setMinimumWidth(320);
-    m_propertyDock->setWidget(m_propertyArea);
-    addDockWidget(Qt::RightDockWidgetArea, m_propertyDock);
+    m_rightPanel->setContent(m_propertyArea);
+    m_rightPanel->setExpandedWidth(360);
+    m_splitter->setSizes({300, 740, 360});
+    setCentralWidget(m_splitter);
+}
+
+QWidget* MainWindow::placePanel(QWidget* panel, QWidget*& slot, const QString& name)
+{
+    if (!panel)
+        panel = placeholder(nullptr, name);
+    slot = panel;
+    return panel;
+}
+
+void MainWindow::setDeviceListPanel(QWidget* panel)
+{
+    m_leftPanel->setContent(placePanel(panel, m_deviceListArea, QStringLiteral("deviceListArea")));
+}
+
+void MainWindow::setPropertyPanel(QWidget* panel)
+{
+    m_rightPanel->setContent(placePanel(panel, m_propertyArea, QStringLiteral("propertyArea")));
+}
+
+void MainWindow::setVideoPanel(QWidget* panel)
+{
+    QWidget* old = m_videoArea;
+    placePanel(panel, m_videoArea, QStringLiteral("videoArea"));
+    if (old == m_videoArea)
+        return;
+    const QList<int> sizes = m_splitter->sizes();
+    m_splitter->replaceWidget(m_splitter->indexOf(old), m_videoArea);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setSizes(sizes);
+    delete old;
 }
 
 void MainWindow::createMenus()
 {
-    QMenu* fileMenu = menuBar()->addMenu(tr("&File"));
-    fileMenu->setObjectName(QStringLiteral("menuFile"));
-    QAction* open = fileMenu->addAction(tr("Open configuration..."));
-    open->setObjectName(QStringLiteral("actionOpenConfig"));
-    QAction* save = fileMenu->addAction(tr("Save configuration..."));
-    save->setObjectName(QStringLiteral("actionSaveConfig"));
-    fileMenu->addSeparator();
-    QAction* exit = fileMenu->addAction(tr("Exit"));
-    exit->setObjectName(QStringLiteral("actionExit"));
-    connect(exit, &QAction::triggered, this, &QWidget::close);
+    m_fileMenu = new CMenu(this);
+    m_fileMenu->setObjectName(QStringLiteral("menuFile"));
+    menuBar()->addMenu(m_fileMenu);
+    m_actionOpen = m_fileMenu->addAction(QString());
+    m_actionOpen->setObjectName(QStringLiteral("actionOpenConfig"));
+    m_actionOpen->setShortcut(QKeySequence::Open);
+    m_actionSave = m_fileMenu->addAction(QString());
+    m_actionSave->setObjectName(QStringLiteral("actionSaveConfig"));
+    m_actionSave->setShortcut(QKeySequence::Save);
+    m_fileMenu->addSeparator();
+    m_actionExit = m_fileMenu->addAction(QString());
+    m_actionExit->setObjectName(QStringLiteral("actionExit"));
+    m_actionExit->setShortcut(QKeySequence::Quit);
+    connect(m_actionExit, &QAction::triggered, this, &QWidget::close);
 
-    QMenu* toolsMenu = menuBar()->addMenu(tr("&Tools"));
-    toolsMenu->setObjectName(QStringLiteral("menuTools"));
-    QAction* monitor = toolsMenu->addAction(tr("Event Monitor"));
-    monitor->setObjectName(QStringLiteral("actionEventMonitor"));
-    monitor->setEnabled(false);
-    QAction* statistics = toolsMenu->addAction(tr("Statistics"));
-    statistics->setObjectName(QStringLiteral("actionStatistics"));
-    statistics->setEnabled(false);
+    m_toolsMenu = new CMenu(this);
+    m_toolsMenu->setObjectName(QStringLiteral("menuTools"));
+    menuBar()->addMenu(m_toolsMenu);
+    // Stands in while no tool has registered, so the menu never opens empty.
+    m_actionNoTools = m_toolsMenu->addAction(QString());
+    m_actionNoTools->setObjectName(QStringLiteral("actionNoTools"));
+    m_actionNoTools->setEnabled(false);
 
-    QMenu* languageMenu = menuBar()->addMenu(tr("&Language"));
-    languageMenu->setObjectName(QStringLiteral("menuLanguage"));
+    m_languageMenu = new CMenu(this);
+    m_languageMenu->setObjectName(QStringLiteral("menuLanguage"));
+    menuBar()->addMenu(m_languageMenu);
     auto* group = new QActionGroup(this);
-    group->setExclusive(true);
-    m_actionEnglish = languageMenu->addAction(QStringLiteral("English"));
+    // Each language is named in its own language, so it can be found in either.
+    m_actionEnglish = m_languageMenu->addAction(QStringLiteral("English"));
     m_actionEnglish->setObjectName(QStringLiteral("actionEnglish"));
-    m_actionChinese = languageMenu->addAction(QString::fromUtf8("\xe4\xb8\xad\xe6\x96\x87 (Chinese)"));
+    m_actionChinese = m_languageMenu->addAction(QString::fromUtf8("\xe7\xae\x80\xe4\xbd\x93\xe4\xb8\xad\xe6\x96\x87"));
     m_actionChinese->setObjectName(QStringLiteral("actionChinese"));
     for (QAction* a : {m_actionEnglish, m_actionChinese}) {
         a->setCheckable(true);
@@ -137,28 +201,93 @@ void MainWindow::createMenus()
     connect(m_actionEnglish, &QAction::triggered, this, [this] { setLanguage(LanguageEnglish); });
     connect(m_actionChinese, &QAction::triggered, this, [this] { setLanguage(LanguageChinese); });
 
-    QMenu* helpMenu = menuBar()->addMenu(tr("&Help"));
-    helpMenu->setObjectName(QStringLiteral("menuHelp"));
-    QAction* about = helpMenu->addAction(tr("About"));
-    about->setObjectName(QStringLiteral("actionAbout"));
+    m_languageMenu->addSeparator();
+    m_featureLanguageMenu = new CMenu(m_languageMenu);
+    m_featureLanguageMenu->setObjectName(QStringLiteral("menuFeatureLanguage"));
+    m_languageMenu->addMenu(m_featureLanguageMenu);
+    auto* featureGroup = new QActionGroup(this);
+    m_actionFeatureOriginal = m_featureLanguageMenu->addAction(QString());
+    m_actionFeatureOriginal->setObjectName(QStringLiteral("actionFeatureOriginal"));
+    m_actionFeatureTranslated = m_featureLanguageMenu->addAction(QString());
+    m_actionFeatureTranslated->setObjectName(QStringLiteral("actionFeatureTranslated"));
+    for (QAction* a : {m_actionFeatureOriginal, m_actionFeatureTranslated}) {
+        a->setCheckable(true);
+        featureGroup->addAction(a);
+    }
+    connect(m_actionFeatureOriginal, &QAction::triggered, this, [this] { setFeatureLanguage(0); });
+    connect(m_actionFeatureTranslated, &QAction::triggered, this, [this] { setFeatureLanguage(1); });
+
+    m_helpMenu = new CMenu(this);
+    m_helpMenu->setObjectName(QStringLiteral("menuHelp"));
+    menuBar()->addMenu(m_helpMenu);
+    m_actionHelp = m_helpMenu->addAction(QString());
+    m_actionHelp->setObjectName(QStringLiteral("actionHelp"));
+    m_actionHelp->setShortcut(QKeySequence::HelpContents);
+    m_actionAbout = m_helpMenu->addAction(QString());
+    m_actionAbout->setObjectName(QStringLiteral("actionAbout"));
 
     // The on_<object>_<signal> slots are connected by name.
     QMetaObject::connectSlotsByName(this);
 }
 
-void MainWindow::applyFontSheet(int language)
+void MainWindow::addToolsAction(QAction* action)
 {
-    CStyleSheetText fontSheet;
-    ::setStyleSheet<CStyleSheetText>(fontSheet, QLatin1String(language == LanguageChinese ? kChineseFontSheet
-                                                                                        : kEnglishFontSheet));
-    qApp->setStyleSheet(m_baseStyleSheet + QLatin1Char('\n') + fontSheet.text);
+    if (!action)
+        return;
+    m_actionNoTools->setVisible(false);
+    m_toolsMenu->addAction(action);
+}
+
+void MainWindow::retranslate()
+{
+    m_fileMenu->setTitle(tr("&File"));
+    m_actionOpen->setText(tr("Open configuration..."));
+    m_actionSave->setText(tr("Save configuration..."));
+    m_actionExit->setText(tr("Exit"));
+    m_toolsMenu->setTitle(tr("&Tools"));
+    m_actionNoTools->setText(tr("No tools available"));
+    m_languageMenu->setTitle(tr("&Language"));
+    m_featureLanguageMenu->setTitle(tr("Feature names"));
+    m_actionFeatureOriginal->setText(tr("Original names"));
+    m_actionFeatureTranslated->setText(tr("Translated names"));
+    m_helpMenu->setTitle(tr("&Help"));
+    m_actionHelp->setText(tr("Mouse and keyboard..."));
+    m_actionAbout->setText(tr("About Lumidor..."));
+    if (m_closingDevices)
+        statusBar()->showMessage(tr("Closing cameras..."));
+    else if (m_cameraCount < 0)
+        statusBar()->showMessage(tr("Searching for cameras..."));
+    else
+        statusBar()->showMessage(tr("Cameras found: %1").arg(m_cameraCount));
+    if (m_closeWait) {
+        m_closeWait->setTitle(tr("Exit"));
+        m_closeWait->setText(tr("Closing cameras, please wait..."));
+    }
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::syncLanguageActions()
+{
+    (m_language->language() == LanguageChinese ? m_actionChinese : m_actionEnglish)->setChecked(true);
+    (m_language->featureLanguage() == 0 ? m_actionFeatureOriginal : m_actionFeatureTranslated)->setChecked(true);
 }
 
 void MainWindow::setLanguage(int language)
 {
-    CConfiguration::getInstance()->writeLanguageSetting(language);
-    (language == LanguageChinese ? m_actionChinese : m_actionEnglish)->setChecked(true);
-    applyFontSheet(language);
+    m_language->setLanguage(language);
+    syncLanguageActions();
+}
+
+void MainWindow::setFeatureLanguage(int language)
+{
+    m_language->setFeatureLanguage(language);
+    syncLanguageActions();
 }
 
 bool MainWindow::openConfiguration(const QString& path)
@@ -183,10 +312,26 @@ void MainWindow::on_actionOpenConfig_triggered()
     const QString dir = QFileInfo(CConfiguration::getInstance()->userConfigPath()).absolutePath();
     const QString path = QFileDialog::getOpenFileName(this, tr("Open configuration"), dir,
                                                       tr("Configuration files (*.tavcfg);;All files (*)"));
-    if (path.isEmpty())
-        return;
-    if (!openConfiguration(path))
-        messageBox(tr("Load configuration failed."), this, QMessageBox::Ok, QMessageBox::Critical);
+    if (!path.isEmpty())
+        openConfigurationReporting(path);
+}
+
+bool MainWindow::openConfigurationReporting(const QString& path)
+{
+    if (openConfiguration(path))
+        return true;
+    messageBox(tr("Load configuration failed: %1").arg(QDir::toNativeSeparators(path)), this, QMessageBox::Ok,
+               QMessageBox::Critical);
+    return false;
+}
+
+bool MainWindow::saveConfigurationReporting(const QString& path)
+{
+    if (saveConfiguration(path))
+        return true;
+    messageBox(tr("Save configuration failed: %1").arg(QDir::toNativeSeparators(path)), this, QMessageBox::Ok,
+               QMessageBox::Critical);
+    return false;
 }
 
 void MainWindow::on_actionSaveConfig_triggered()
@@ -198,33 +343,57 @@ void MainWindow::on_actionSaveConfig_triggered()
         return;
     if (QFileInfo(path).suffix().isEmpty())
         path += QStringLiteral(".tavcfg");
-    if (!saveConfiguration(path))
-        messageBox(tr("Save Config failed."), this, QMessageBox::Ok, QMessageBox::Critical);
+    saveConfigurationReporting(path);
+}
+
+void MainWindow::on_actionHelp_triggered()
+{
+    auto* dlg = new CHelpDlg(this);
+    dlg->setAttribute(Qt::WA_DeleteOnClose);
+    dlg->show();
 }
 
 void MainWindow::on_actionAbout_triggered()
 {
-    messageBox(tr("Lumidor %1\nViewer for GigE Vision and USB3 Vision cameras.")
-                   .arg(QCoreApplication::applicationVersion().isEmpty() ? QStringLiteral("0.1.0")
-                                                                          : QCoreApplication::applicationVersion()),
-               this, QMessageBox::Ok, QMessageBox::Information);
+    auto* dlg = new CAboutDlg(this);
+    dlg->setAttribute(Qt::WA_DeleteOnClose);
+    dlg->open();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    // Open cameras are closed first, off the GUI thread; the window closes
-    // again when that is done (the worker gives up after 5 s).
-    if (!m_closingDevices && CDeviceManager::getInstance()->getOpenedDeviceCount() > 0) {
-        m_closingDevices = true;
+    // Every open camera is closed first, on the disconnect-all worker; a wait
+    // dialog covers the window meanwhile and the window closes again when
+    // the worker reports (it gives up after 5 s).
+    if (!m_devicesClosed) {
         event->ignore();
-        statusBar()->showMessage(tr("Closing cameras..."));
+        if (m_closingDevices)
+            return;
+        m_closingDevices = true;
+        m_closeWait = new CWaitDlg(this);
+        m_closeWait->setObjectName(QStringLiteral("closeWaitDlg"));
+        retranslate();
+        m_closeWait->open();
         CDisconnectAllThread* worker = CDisconnectAllThread::getInstance();
-        connect(worker, &CDisconnectAllThread::closeAllFinished, this, &QWidget::close, Qt::QueuedConnection);
-        worker->start();
+        connect(worker, &CDisconnectAllThread::closeAllFinished, this, &MainWindow::onCloseAllFinished,
+                Qt::QueuedConnection);
+        if (!worker->isRunning())
+            worker->start();
         return;
     }
     QMainWindow::closeEvent(event);
     // Closing the last window does not end the program by itself.
     if (event->isAccepted())
         QCoreApplication::quit();
+}
+
+void MainWindow::onCloseAllFinished()
+{
+    disconnect(CDisconnectAllThread::getInstance(), &CDisconnectAllThread::closeAllFinished, this,
+               &MainWindow::onCloseAllFinished);
+    m_devicesClosed = true;
+    m_closingDevices = false;
+    if (m_closeWait)
+        m_closeWait->accept();
+    close();
 }

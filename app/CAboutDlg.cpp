@@ -1,0 +1,84 @@
+#include "CAboutDlg.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "CDialogTitleBar.h"
+#include "Vorlen/GenICam/CSystem.h"
+
+#ifndef LUMIDOR_VERSION
+#define LUMIDOR_VERSION "0.0.0"
+#endif
+
+CAboutDlg::CAboutDlg(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+{
+    setObjectName(QStringLiteral("CAboutDlg"));
+    setAttribute(Qt::WA_StyledBackground, true);
+
+    m_titleBar = new CDialogTitleBar(this);
+    m_iconLabel = new QLabel(this);
+    m_iconLabel->setPixmap(QIcon(QStringLiteral(":/Pic/Lumidor.png")).pixmap(72, 72));
+    m_iconLabel->setAlignment(Qt::AlignTop);
+    m_textLabel = new QLabel(this);
+    m_textLabel->setObjectName(QStringLiteral("aboutText"));
+    m_textLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_textLabel->setMinimumWidth(300);
+    m_okButton = new QPushButton(this);
+    m_okButton->setDefault(true);
+    connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* top = new QHBoxLayout;
+    top->setSpacing(16);
+    top->addWidget(m_iconLabel);
+    top->addWidget(m_textLabel, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(m_okButton);
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(18, 14, 18, 14);
+    body->setSpacing(14);
+    body->addLayout(top);
+    body->addLayout(buttons);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(0);
+    layout->addWidget(m_titleBar);
+    layout->addLayout(body);
+    retranslate();
+}
+
+QString CAboutDlg::programVersion()
+{
+    return QStringLiteral(LUMIDOR_VERSION);
+}
+
+QString CAboutDlg::cameraLayerVersion()
+{
+    return QString::fromLocal8Bit(Vorlen::GenICam::CInternalSystem::getInstance().getVersion().c_str());
+}
+
+QString CAboutDlg::text() const
+{
+    return m_textLabel->text();
+}
+
+void CAboutDlg::retranslate()
+{
+    m_titleBar->setTitle(tr("About Lumidor"));
+    m_okButton->setText(tr("OK"));
+    m_textLabel->setText(QStringLiteral("<p><b>Lumidor</b> %1</p><p>%2</p><p>%3</p>")
+                             .arg(programVersion().toHtmlEscaped(),
+                                  tr("Viewer for GigE Vision and USB3 Vision cameras.").toHtmlEscaped(),
+                                  tr("Camera layer version: %1").arg(cameraLayerVersion()).toHtmlEscaped()));
+}
+
+void CAboutDlg::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QDialog::changeEvent(event);
+}

@@ -1,0 +1,37 @@
+#pragma once
+// Help: the mouse and keyboard actions of the video views, the device list
+// and the feature panel, one table per area.
+#include <QDialog>
+
+class CDialogTitleBar;
+class QTabWidget;
+class QTableWidget;
+class QPushButton;
+
+class CHelpDlg : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit CHelpDlg(QWidget* parent = nullptr);
+
+    QTabWidget* tabs() const { return m_tabs; }
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    struct SAction
+    {
+        const char* input;
+        const char* effect;
+    };
+    void retranslate();
+    void fillTable(QTableWidget* table, const QList<SAction>& rows);
+
+    CDialogTitleBar* m_titleBar;
+    QTabWidget* m_tabs;
+    QTableWidget* m_videoTable;
+    QTableWidget* m_deviceTable;
+    QTableWidget* m_featureTable;
+    QPushButton* m_closeButton;
+};
