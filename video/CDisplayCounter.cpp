@@ -1,7 +1,7 @@
 #include "CDisplayCounter.h"
 
-#include "CConfiguration.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "WorkerSettings.h"
 
 CDisplayCounter::CDisplayCounter(QObject* parent) : QObject(parent)
 {
@@ -11,11 +11,7 @@ CDisplayCounter::CDisplayCounter(QObject* parent) : QObject(parent)
 
 int CDisplayCounter::displayRateFromSetting(const QString& value)
 {
-    if (value == QLatin1String("Disabled"))
-        return 0;
-    if (value == QLatin1String("60 FPS"))
-        return 60;
-    return 30;
+    return SStreamSettings::displayRateFromSetting(value);
 }
 
 bool CDisplayCounter::isTimeToDisplay(unsigned long long timestamp)
@@ -31,7 +27,7 @@ bool CDisplayCounter::isTimeToDisplay(unsigned long long timestamp, qint64 nowNs
     Q_UNUSED(timestamp);
     QMutexLocker locker(&m_mutex);
 
-    if (displayRateFromSetting(CConfiguration::getInstance()->strDisplayValue) == 0)
+    if (getDisplayRate() == 0)
         return false;
 
     if (m_nFirstFrameTime == 0 || m_nLastFrameTime == 0)

@@ -5,6 +5,7 @@
 #include <QMutex>
 #include <QObject>
 #include <QString>
+#include <atomic>
 
 class CDisplayCounter : public QObject
 {
@@ -24,6 +25,11 @@ public:
 
     void setDisplayFPS(int fps);
     double getDisplayInterval();
+    // Display-rate choice (0 = "Disabled": nothing is displayed), copied
+    // from the owner's settings snapshot; the decision never reads the
+    // configuration itself.
+    void setDisplayRate(int rate) { m_nDisplayRate.store(rate, std::memory_order_relaxed); }
+    int getDisplayRate() const { return m_nDisplayRate.load(std::memory_order_relaxed); }
     // Forgets the first and last displayed frame: the next frame is shown.
     void reset();
 
@@ -36,4 +42,5 @@ private:
     qint64 m_nFirstFrameTime = 0;
     qint64 m_nLastFrameTime = 0;
     double m_dDisplayInterval = 0.0;   // ms; kept for the views, not used by the decision
+    std::atomic<int> m_nDisplayRate{30};
 };

@@ -26,8 +26,16 @@ StreamRetrieveThread::StreamRetrieveThread(QObject* parent) : QThread(parent)
 {
     registerFrameMetaTypes();
     m_clock.start();
-    connect(CConfiguration::getInstance(), &CConfiguration::signalSaveConfigChanged, this,
-            &StreamRetrieveThread::onSaveConfigChanged);
+    // Direct: the configuration emits on the GUI thread, so the snapshot is
+    // always rebuilt there, whatever thread this object is moved to.
+    CConfiguration* cfg = CConfiguration::getInstance();
+    connect(cfg, &CConfiguration::signalSaveConfigChanged, this, &StreamRetrieveThread::onSaveConfigChanged,
+            Qt::DirectConnection);
+    connect(cfg, &CConfiguration::signalDisplayConfigChanged, this, &StreamRetrieveThread::onDisplayConfigChanged,
+            Qt::DirectConnection);
+    connect(cfg, &CConfiguration::signalRestoreCfg, this, &StreamRetrieveThread::onRestoreCfg,
+            Qt::DirectConnection);
+    refreshSettings(true);
 }
 
 StreamRetrieveThread::~StreamRetrieveThread()
@@ -56,7 +64,10 @@ Vorlen::Memory::TSharedPtr<CInternalStreamSource> StreamRetrieveThread::streamSo
 
 void StreamRetrieveThread::Init()
 {
-    onSaveConfigChanged();
+    {
+        QMutexLocker locker(&m_saveMutex);
+        m_bForceRearm = true;
+    }
     resetRecordStatistics();
 }
 
@@ -122,7 +133,8 @@ void StreamRetrieveThread::addFrame(CFrame& frame)
     Vorlen::Infra::TVector<CFrame::EPayloadType> types;
     frame.getPayLoadTypes(types);
 
-    const CConfiguration* cfg = CConfiguration::getInstance();
+    // One snapshot for the whole frame: a change applies from the next frame.
+    const std::shared_ptr<const SStreamSettings> settings = m_settings.get();
     bool isImage = false;
     int payloadType = CFrame::payloadImage;
     QByteArray chunkText;
@@ -134,7 +146,7 @@ void StreamRetrieveThread::addFrame(CFrame& frame)
             payloadType = type;
             m_statistic.rcvNewFrame(frame);
         }
-        else if (type == CFrame::payloadChunkData && cfg->displayChunkDataEnable)
+        else if (type == CFrame::payloadChunkData && settings->showChunkData)
         {
             const uint32_t count = frame.getChunkCount();
             for (uint32_t i = 0; i < count; ++i)
@@ -156,7 +168,7 @@ void StreamRetrieveThread::addFrame(CFrame& frame)
         return;
 
     m_bDisplay = m_displayCounter.isTimeToDisplay(frame.getImageTimeStamp());
-    m_bSave = isTimeToSaveImage(frame.getImageSize());
+    m_bSave = isTimeToSaveImage(*settings, frame.getImageSize(), m_clock.elapsed());
     emit signalGetRecordEnable();
     m_bRecord = m_bRecordEnable;
 
@@ -193,18 +205,21 @@ void StreamRetrieveThread::addFrame(CFrame& frame)
     info.pixelFormat = frame.getImagePixelFormat();
     info.rawData = frame.getImage();
     info.driverInstalled = m_bDriverInstalled;
-    const int demosaic = cfg->BayerDemosaicing;
-    info.demosaic = (demosaic >= Gliv::bayerBilinear && demosaic <= Gliv::bayerVariableNumberOfGradients)
-                        ? static_cast<Gliv::EBayerDemosaic>(demosaic)
-                        : Gliv::bayerBilinear;
+    // Fixed for the life of the frame: a later demosaicing change applies
+    // to the frames built after it.
+    info.demosaic = settings->demosaic;
 
-    // The hybrid frame copies the raw data and converts it here, on this
-    // thread; the camera buffer then goes straight back to the stream.
+    // The hybrid frame copies the raw data here; the camera buffer then goes
+    // straight back to the stream. Saving and recording need the full
+    // resolution image, so convert those frames now, on this thread; a frame
+    // that is only displayed is drawn from its raw data at the size shown.
     QElapsedTimer convertTimer;
     convertTimer.start();
     CQtHybridFramePtr hybrid(new Gliv::CQtHybridFrame(info));
-    const qint64 convertNs = convertTimer.nsecsElapsed();
     frame.reset();
+    if (m_bSave || m_bRecord)
+        hybrid->getConvertedData();
+    const qint64 convertNs = convertTimer.nsecsElapsed();
     if (m_conversionObserver)
         m_conversionObserver(convertNs);
 
@@ -229,63 +244,84 @@ void StreamRetrieveThread::addFrame(CFrame& frame)
 
 void StreamRetrieveThread::onSaveConfigChanged()
 {
-    const CConfiguration* cfg = CConfiguration::getInstance();
-    const int type = cfg->imageSaveThrottleOption;
-    int value = 0;
-    switch (type)
-    {
-    case saveOneOutOf:
-        value = cfg->imageOneOutOf.toInt();
-        break;
-    case saveMaxRate:
-        value = cfg->imageMaxRate.toInt();
-        break;
-    case saveAverageThroughput:
-        value = cfg->imageAverageThroughPut.toInt();
-        break;
-    default:
-        break;
-    }
-    setSaveType(type, value);
+    refreshSettings(true);
+}
+
+void StreamRetrieveThread::onDisplayConfigChanged()
+{
+    refreshSettings(false);
+}
+
+void StreamRetrieveThread::onRestoreCfg()
+{
+    refreshSettings(true);
+}
+
+void StreamRetrieveThread::refreshSettings(bool rearmSave)
+{
+    publishSettings(SStreamSettings::fromConfiguration(*CConfiguration::getInstance()), rearmSave);
+}
+
+void StreamRetrieveThread::publishSettings(SStreamSettings settings, bool rearmSave)
+{
+    QMutexLocker locker(&m_publishMutex);
+    const unsigned long long generation = m_settings.get()->saveGeneration;
+    settings.saveGeneration = rearmSave ? generation + 1 : generation;
+    m_displayCounter.setDisplayRate(settings.displayRate);
+    m_settings.set(settings);
 }
 
 void StreamRetrieveThread::setSaveType(int type, int value)
 {
-    QMutexLocker locker(&m_saveMutex);
-    m_nSaveType = type;
-    m_nSaveValue = value;
-    m_nSaveCounter = 0;
-    m_bSaveArmed = true;
-    m_nLastSaveMs = 0;
-    m_nSaveWaitMs = 0;
+    SStreamSettings settings = *m_settings.get();
+    settings.saveType = type;
+    settings.saveValue = value;
+    publishSettings(settings, true);
 }
 
 bool StreamRetrieveThread::isTimeToSaveImage(unsigned long long imageSize)
 {
-    return isTimeToSaveImage(imageSize, m_clock.elapsed());
+    return isTimeToSaveImage(*m_settings.get(), imageSize, m_clock.elapsed());
 }
 
 bool StreamRetrieveThread::isTimeToSaveImage(unsigned long long imageSize, qint64 nowMs)
+{
+    return isTimeToSaveImage(*m_settings.get(), imageSize, nowMs);
+}
+
+bool StreamRetrieveThread::isTimeToSaveImage(const SStreamSettings& settings, unsigned long long imageSize,
+                                             qint64 nowMs)
 {
     if (!m_bSaveImageEnable)
         return false;
 
     QMutexLocker locker(&m_saveMutex);
-    switch (m_nSaveType)
+    if (m_bForceRearm || settings.saveGeneration != m_nArmedGeneration)
+    {
+        // New rule or value, or a new stream: start over.
+        m_bForceRearm = false;
+        m_nArmedGeneration = settings.saveGeneration;
+        m_nSaveCounter = 0;
+        m_bSaveArmed = true;
+        m_nLastSaveMs = 0;
+        m_nSaveWaitMs = 0;
+    }
+    const int value = settings.saveValue;
+    switch (settings.saveType)
     {
     case saveOneOutOf:
     {
-        if (m_nSaveValue < 1)
+        if (value < 1)
             return false;
-        const bool save = (m_nSaveCounter % static_cast<unsigned long long>(m_nSaveValue)) == 0;
+        const bool save = (m_nSaveCounter % static_cast<unsigned long long>(value)) == 0;
         ++m_nSaveCounter;
         return save;
     }
     case saveMaxRate:
     {
-        if (m_nSaveValue < 0)
+        if (value < 0)
             return false;
-        if (m_bSaveArmed || nowMs - m_nLastSaveMs >= m_nSaveValue)
+        if (m_bSaveArmed || nowMs - m_nLastSaveMs >= value)
         {
             m_bSaveArmed = false;
             m_nLastSaveMs = nowMs;
@@ -300,8 +336,8 @@ bool StreamRetrieveThread::isTimeToSaveImage(unsigned long long imageSize, qint6
             m_bSaveArmed = false;
             // Time this frame takes at the allowed rate: bytes * 8 bits, in
             // ms at rate * 2^20 bits per second.
-            if (m_nSaveValue != 0)
-                m_nSaveWaitMs = (static_cast<qint64>(imageSize) * 8000 / m_nSaveValue) >> 20;
+            if (value != 0)
+                m_nSaveWaitMs = (static_cast<qint64>(imageSize) * 8000 / value) >> 20;
             m_nLastSaveMs = nowMs;
             return true;
         }

@@ -14,6 +14,7 @@
 #include "CDisplayCounter.h"
 #include "Gliv/CQtHybridFrame.h"
 #include "StreamStatistic.h"
+#include "WorkerSettings.h"
 #include "Vorlen/GenICam/CFrame.h"
 #include "Vorlen/GenICam/CInternalStreamSource.h"
 #include "Vorlen/GenICam/ICamera.h"
@@ -30,18 +31,22 @@ public:
     // Save throttle rules (configuration key imageSaveThrottleOption).
     enum ESaveType
     {
-        saveOneOutOf = 0,
-        saveMaxRate = 1,
-        saveAverageThroughput = 2,
-        saveAll = 3
+        saveOneOutOf = SStreamSettings::saveOneOutOf,
+        saveMaxRate = SStreamSettings::saveMaxRate,
+        saveAverageThroughput = SStreamSettings::saveAverageThroughput,
+        saveAll = SStreamSettings::saveAll
     };
 
+    // Construct on the configuration's (GUI) thread: the first settings
+    // snapshot is read here. The loop never reads the configuration; see
+    // WorkerSettings.h.
     explicit StreamRetrieveThread(QObject* parent = nullptr);
     ~StreamRetrieveThread() override;
 
     void setStream(const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource>& stream);
     void setDevice(const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalCamera>& camera);
-    // Arms the save throttle from the configuration and zeroes the record statistics.
+    // Re-arms the save throttle (the next frame starts a new sequence) and
+    // zeroes the record statistics. Reads no configuration: any thread.
     void Init();
     // Asks the loop to end; the caller waits for the thread.
     void stop();
@@ -63,6 +68,8 @@ public:
     // Save throttle: type as ESaveType, value N / milliseconds / Mbit/s.
     // Re-arms the rule (the next frame starts a new sequence).
     void setSaveType(int type, int value);
+    // The settings the loop uses now (a copy that no one changes).
+    std::shared_ptr<const SStreamSettings> settings() const { return m_settings.get(); }
     // Decision for one frame of imageSize bytes; advances the throttle state.
     bool isTimeToSaveImage(unsigned long long imageSize);
     // Same at a given time in ms of a monotonic clock; lets tests drive the clock.
@@ -89,8 +96,15 @@ public:
     void setConversionTimeObserver(std::function<void(qint64)> observer) { m_conversionObserver = std::move(observer); }
 
 public slots:
-    // Re-reads the save throttle settings of the configuration.
+    // Connected directly to the configuration's change signals (emitted on
+    // the GUI thread): each copies the configuration into a new snapshot.
+    // The save settings changed: the throttle starts over.
     void onSaveConfigChanged();
+    // Display rate, demosaicing or chunk display changed; applies to the
+    // frames built after it.
+    void onDisplayConfigChanged();
+    // Settings restored or a configuration file opened: everything is re-read.
+    void onRestoreCfg();
 
 signals:
     void newFrame(CQtHybridFramePtr frame, bool display, bool save, bool record);
@@ -105,6 +119,10 @@ protected:
 
 private:
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> streamSource();
+    // GUI thread: copies the configuration into a new snapshot.
+    void refreshSettings(bool rearmSave);
+    void publishSettings(SStreamSettings settings, bool rearmSave);
+    bool isTimeToSaveImage(const SStreamSettings& settings, unsigned long long imageSize, qint64 nowMs);
 
     QMutex m_streamMutex;   // guards m_pStream/m_pCamera against setStream during run
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> m_pStream;
@@ -128,11 +146,15 @@ private:
     std::atomic<qint64> m_nWidthReg{0};
     std::atomic<qint64> m_nHeightReg{0};
 
-    // Save throttle.
+    // Settings copied from the configuration; the loop's only source.
+    CSettingsSnapshot<SStreamSettings> m_settings;
+    QMutex m_publishMutex;          // one publisher at a time (generation count)
+
+    // Save throttle state; the rule and its value come from the snapshot.
     QMutex m_saveMutex;
     QElapsedTimer m_clock;          // monotonic clock of the throttle
-    int m_nSaveType = saveMaxRate;
-    int m_nSaveValue = 100;
+    unsigned long long m_nArmedGeneration = 0;   // snapshot generation the state belongs to
+    bool m_bForceRearm = true;      // Init(): start over at the next frame
     unsigned long long m_nSaveCounter = 0;
     bool m_bSaveArmed = true;       // the next frame is the first after arming
     qint64 m_nLastSaveMs = 0;

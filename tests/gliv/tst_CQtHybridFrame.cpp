@@ -8,9 +8,11 @@
 
 #include <QtTest>
 
+#include <atomic>
 #include <cmath>
 #include <cstring>
 #include <memory>
+#include <thread>
 #include <vector>
 
 using namespace Gliv;
@@ -140,7 +142,8 @@ private slots:
     void monoWideScaledAndClamped();
     void monoPacked();
     void bayerAllPatternsAndPackings();
-    void bayerDemosaicSwitch();
+    void demosaicFixedAtConstruction();
+    void lazyConversionOnceFromThreads();
     void colourFormats();
     void yuv422BothOrders();
     void jpegPayload();
@@ -267,29 +270,90 @@ void TestHybridFrame::bayerAllPatternsAndPackings()
     }
 }
 
-void TestHybridFrame::bayerDemosaicSwitch()
+namespace {
+
+// A busy 16x12 mosaic on which the three demosaicing methods differ.
+Bytes busyMosaic(int w, int h)
 {
-    // On a busy mosaic the three methods differ; switching afterwards gives
-    // what building the frame with that method gives.
-    const int w = 16, h = 12;
     Bytes raw;
     uint32_t seed = 12345;
     for (int i = 0; i < w * h; ++i) {
         seed = seed * 1103515245u + 12345u;
         raw.push_back(uint8_t(seed >> 16));
     }
-    auto converted = [](const CQtHybridFrame& f) {
-        return QByteArray(reinterpret_cast<const char*>(f.getConvertedData()), int(f.getConvertedDataSize()));
-    };
-    QByteArray byMethod[3];
-    for (int d = 0; d < 3; ++d)
-        byMethod[d] = converted(*makeFrame(PF::BayerGB8, w, h, raw, 0, EBayerDemosaic(d)));
-    QVERIFY(byMethod[0] != byMethod[1] && byMethod[0] != byMethod[2] && byMethod[1] != byMethod[2]);
+    return raw;
+}
 
-    FramePtr f = makeFrame(PF::BayerGB8, w, h, raw);
-    for (int d : { 2, 1, 0 }) {
-        f->setBayerDemosaic(EBayerDemosaic(d));
-        QCOMPARE(converted(*f), byMethod[d]);
+QByteArray converted(const CQtHybridFrame& f)
+{
+    return QByteArray(reinterpret_cast<const char*>(f.getConvertedData()), int(f.getConvertedDataSize()));
+}
+
+} // namespace
+
+void TestHybridFrame::demosaicFixedAtConstruction()
+{
+    // Each frame keeps the method it was built with, and says which; what
+    // it describes of its raw data comes back unchanged.
+    const int w = 16, h = 12;
+    const Bytes raw = busyMosaic(w, h);
+    FramePtr frames[3];
+    for (int d = 0; d < 3; ++d) {
+        frames[d] = makeFrame(PF::BayerGB8, w, h, raw, 0, EBayerDemosaic(d));
+        QCOMPARE(frames[d]->getDemosaic(), EBayerDemosaic(d));
+        QCOMPARE(frames[d]->getPaddingX(), 0u);
+        QCOMPARE(frames[d]->getPayloadType(), 1);
+        QCOMPARE(frames[d]->getPixelFormat(), PF::BayerGB8);
+        QVERIFY(!frames[d]->isConverted());
+    }
+    const QByteArray byMethod[3] = { converted(*frames[0]), converted(*frames[1]), converted(*frames[2]) };
+    QVERIFY(byMethod[0] != byMethod[1] && byMethod[0] != byMethod[2] && byMethod[1] != byMethod[2]);
+    for (int d = 0; d < 3; ++d) {
+        QVERIFY(frames[d]->isConverted());
+        QCOMPARE(converted(*frames[d]), byMethod[d]);   // asked again: the same image
+    }
+    // Padding and payload type are reported as given.
+    FramePtr padded = makeFrame(PF::Mono8, 4, 2, Bytes(2 * 6, 9), 2);
+    QCOMPARE(padded->getPaddingX(), 2u);
+    QVERIFY(padded->isHybridFrameValid());
+    QVERIFY(!padded->isConverted());   // validity of a raw format needs no conversion
+}
+
+void TestHybridFrame::lazyConversionOnceFromThreads()
+{
+    // Eight threads ask a fresh frame for its image at the same moment: one
+    // conversion, one buffer, the same pixels for all.
+    const int w = 640, h = 480;
+    Bytes raw(size_t(w) * h);
+    for (size_t i = 0; i < raw.size(); ++i)
+        raw[i] = uint8_t((i * 7) ^ (i >> 9));
+    const QByteArray expected = converted(*makeFrame(PF::BayerRG8, w, h, raw, 0, bayerVariableNumberOfGradients));
+
+    for (int round = 0; round < 5; ++round) {
+        FramePtr f = makeFrame(PF::BayerRG8, w, h, raw, 0, bayerVariableNumberOfGradients);
+        QVERIFY(!f->isConverted());
+        const int n = 8;
+        std::vector<const unsigned char*> seen(n, nullptr);
+        std::vector<uint64_t> sizes(n, 0);
+        std::atomic<int> ready{0};
+        std::vector<std::thread> threads;
+        for (int i = 0; i < n; ++i)
+            threads.emplace_back([&, i] {
+                ready.fetch_add(1);
+                while (ready.load() < n) {
+                }
+                seen[i] = f->getConvertedData();
+                sizes[i] = f->getConvertedDataSize();
+            });
+        for (std::thread& t : threads)
+            t.join();
+        QVERIFY(f->isConverted());
+        for (int i = 0; i < n; ++i) {
+            QVERIFY(seen[i] != nullptr);
+            QCOMPARE(seen[i], seen[0]);
+            QCOMPARE(sizes[i], uint64_t(expected.size()));
+        }
+        QCOMPARE(converted(*f), expected);
     }
 }
 
@@ -389,9 +453,8 @@ void TestHybridFrame::invalidInputAndChunk()
     expectInvalid(*makeFrame(PF::BayerRG8, 4, 4, Bytes()));             // no data at all
     // Bayer frames too small to demosaic must not bring the process down.
     for (EBayerDemosaic d : { bayerBilinear, bayerEdgeAware, bayerVariableNumberOfGradients })
-        makeFrame(PF::BayerRG8, 1, 1, Bytes(1, 9), 0, d);
-    FramePtr bad = makeFrame(PF::BayerRG8, 4, 4, Bytes(3, 1));
-    bad->setBayerDemosaic(bayerVariableNumberOfGradients);
+        makeFrame(PF::BayerRG8, 1, 1, Bytes(1, 9), 0, d)->getConvertedData();
+    FramePtr bad = makeFrame(PF::BayerRG8, 4, 4, Bytes(3, 1), 0, bayerVariableNumberOfGradients);
     expectInvalid(*bad);
 
     // Chunk text is copied.

@@ -4,7 +4,9 @@
 #include <arv.h>
 
 #include <QtTest>
+#include <algorithm>
 #include <cstring>
+#include <vector>
 
 #include "FrameData.h"
 #include "StreamStatisticsCounter.h"
@@ -114,7 +116,7 @@ private slots:
         QCOMPARE(info.tooManyLostPacketBlock, c[ctrStatusTimeout]);
         QCOMPARE(info.tooManyConsecutiveResendsBlock, c[ctrResendRatioReached]);
         QCOMPARE(info.missingBlockId, c[ctrMissingFrames]);
-        QCOMPARE(info.lostPacket, c[ctrMissingPackets]);
+        QCOMPARE(info.lostPacket, c[ctrLostPackets]);   // ours, not Aravis' n_missing_packets
         QCOMPARE(info.resendRequest, c[ctrResendRequests]);
         QCOMPARE(info.resendPacket, c[ctrResentPackets]);
         QCOMPARE(info.redundantPacket, c[ctrDuplicatedPackets]);
@@ -239,6 +241,70 @@ private slots:
         QVERIFY(!found.contains("NotAChunk"));
         g_object_unref(gc);
         QVERIFY(findChunkFeatures(nullptr).empty());
+    }
+
+    void lostPacketsCountedExactly()
+    {
+        // A block of 10 full packets and a short last one (37 bytes). The
+        // receiver copies each packet that arrives to its place; the places
+        // of the lost ones keep their markers.
+        PacketMarks marks;
+        marks.blockSize = 100;
+        marks.payload = 10 * 100 + 37;
+        QCOMPARE(marks.packetCount(), uint64_t(11));
+        ArvBuffer* buffer = arv_buffer_new_allocate(marks.payload);
+        auto* data = static_cast<uint8_t*>(const_cast<void*>(arv_buffer_get_data(buffer, nullptr)));
+        auto deliver = [&](const std::vector<int>& lost, uint8_t fill) {
+            marks.mark(buffer);
+            for (uint64_t k = 0; k < marks.packetCount(); ++k) {
+                if (std::find(lost.begin(), lost.end(), int(k)) != lost.end())
+                    continue;
+                const size_t offset = size_t(k) * marks.blockSize;
+                std::memset(data + offset, fill, std::min(marks.blockSize, marks.payload - offset));
+            }
+        };
+
+        deliver({}, 0x00);
+        QCOMPARE(marks.countMissing(buffer), uint64_t(0));
+        // A gap early in the block counts its own packets only, not every
+        // packet after it.
+        deliver({1}, 0x55);
+        QCOMPARE(marks.countMissing(buffer), uint64_t(1));
+        deliver({2, 5, 6, 10}, 0xFF);
+        QCOMPARE(marks.countMissing(buffer), uint64_t(4));
+        // The buffer goes round again: old markers never count twice.
+        deliver({0}, 0x12);
+        QCOMPARE(marks.countMissing(buffer), uint64_t(1));
+        deliver(std::vector<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, 0x12);
+        QCOMPARE(marks.countMissing(buffer), uint64_t(11));
+        // Data that happens to equal another place's marker is not a loss.
+        marks.mark(buffer);
+        std::memcpy(data + 300, data + 200, 8);
+        std::memset(data + 200, 1, 8);
+        QCOMPARE(marks.countMissing(buffer), uint64_t(9));
+        g_object_unref(buffer);
+
+        // Without a packet size nothing is marked or counted.
+        PacketMarks none;
+        none.payload = 64;
+        std::vector<uint8_t> plain(64, 0);
+        none.mark(plain.data(), plain.size());
+        QVERIFY(std::all_of(plain.begin(), plain.end(), [](uint8_t b) { return b == 0; }));
+        QCOMPARE(none.countMissing(plain.data(), plain.size()), uint64_t(0));
+
+        // The statistics add up what the blocks lacked.
+        StreamStatisticsCounter stats;
+        stats.onBufferDone(ARV_BUFFER_STATUS_MISSING_PACKETS, 0, 0, 4);
+        stats.onBufferDone(ARV_BUFFER_STATUS_TIMEOUT, 0, 0, 11);
+        stats.onBufferDone(ARV_BUFFER_STATUS_SUCCESS, 1037, 0, 0);
+        StreamStatisticsInfo info;
+        stats.fill(nullptr, info, 0);
+        QCOMPARE(info.lostPacket, uint64_t(15));
+        QCOMPARE(info.lostPacketBlock, uint64_t(1));
+        QCOMPARE(info.tooManyLostPacketBlock, uint64_t(1));
+        stats.reset(nullptr);
+        stats.fill(nullptr, info, 0);
+        QCOMPARE(info.lostPacket, uint64_t(0));
     }
 
     void frameOwnsBuffer()

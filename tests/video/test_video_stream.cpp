@@ -79,6 +79,8 @@ void TestVideoStream::init()
     cfg()->strDisplayValue = "30 FPS";
     cfg()->displayChunkDataEnable = false;
     cfg()->imageSaveThrottleOption = 3;
+    cfg()->notifyDisplayConfigChanged();
+    cfg()->notifySaveConfigChanged();
 }
 
 void TestVideoStream::displayCounterLimitsRate()
@@ -116,21 +118,27 @@ void TestVideoStream::displayCounterLimitsRate()
 
 void TestVideoStream::displayCounterSettings()
 {
-    auto countShown = []() {
-        CDisplayCounter counter;
+    // The setting reaches the thread's display counter through the
+    // configuration's change signal, not by the counter reading it.
+    StreamRetrieveThread thread;
+    CDisplayCounter* counter = thread.getDisplayCounter();
+    auto countShown = [&](const char* setting) {
+        cfg()->strDisplayValue = setting;
+        cfg()->notifyDisplayConfigChanged();
+        counter->reset();
         int shown = 0;
         for (int i = 0; i < 600; ++i)
-            shown += counter.isTimeToDisplay(0, 1000 * kMs + qint64(i) * 8333333) ? 1 : 0;   // 120 fps for 5 s
+            shown += counter->isTimeToDisplay(0, 1000 * kMs + qint64(i) * 8333333) ? 1 : 0;   // 120 fps for 5 s
         return shown;
     };
-    cfg()->strDisplayValue = "30 FPS";
-    const int at30 = countShown();
-    cfg()->strDisplayValue = "60 FPS";
-    const int at60 = countShown();
+    const int at30 = countShown("30 FPS");
+    const int at60 = countShown("60 FPS");
+    const int disabled = countShown("Disabled");
+    const int other = countShown("whatever");
+    // Assigned but not announced: the thread keeps what it had.
     cfg()->strDisplayValue = "Disabled";
-    const int disabled = countShown();
-    cfg()->strDisplayValue = "whatever";
-    const int other = countShown();
+    counter->reset();
+    QVERIFY(counter->isTimeToDisplay(0, 1000 * kMs));
 
     QVERIFY(at30 > 100);
     QCOMPARE(at60, at30);   // the period is fixed, "60 FPS" does not shorten it
@@ -335,9 +343,14 @@ void TestVideoStream::saveThrottleFromConfiguration()
     QVERIFY(!thread.isTimeToSaveImage(10, 1249));
     QVERIFY(thread.isTimeToSaveImage(10, 1250));
 
+    // Init() starts the rule over without reading the configuration.
+    thread.Init();
+    QVERIFY(thread.isTimeToSaveImage(10, 5000));
+    QVERIFY(!thread.isTimeToSaveImage(10, 5001));
+
     cfg()->imageSaveThrottleOption = 2;
     cfg()->imageAverageThroughPut = "1";
-    thread.Init();   // Init reads the configuration too
+    cfg()->notifyRestoreCfg();   // a restore re-reads everything
     QVERIFY(thread.isTimeToSaveImage(131072, 0));
     QVERIFY(!thread.isTimeToSaveImage(131072, 1000));
     QVERIFY(thread.isTimeToSaveImage(131072, 1001));
@@ -374,6 +387,8 @@ void TestVideoStream::frameDecisions()
 
     QVERIFY(frames.size() >= 1);
     QVERIFY(frames[0].display && !frames[0].save && !frames[0].record);
+    // Only displayed: the full-resolution image is made on first use only.
+    QVERIFY(!frames[0].frame->isConverted());
     QVERIFY(frames[0].frame->isHybridFrameValid());
     QCOMPARE(frames[0].frame->getConvertedWidth(), 32u);
     QCOMPARE(frames[0].frame->getConvertedHeight(), 16u);
@@ -393,6 +408,7 @@ void TestVideoStream::frameDecisions()
 
     // The record question is answered by a direct receiver before the decision.
     cfg()->strDisplayValue = "Disabled";
+    cfg()->notifyDisplayConfigChanged();
     int asked = 0;
     connect(&thread, &StreamRetrieveThread::signalGetRecordEnable, this,
             [&]() {
@@ -406,6 +422,7 @@ void TestVideoStream::frameDecisions()
     QCOMPARE(asked, 1);
     QCOMPARE(frames.size(), 1);
     QVERIFY(!frames[0].display && !frames[0].save && frames[0].record);
+    QVERIFY(frames[0].frame->isConverted());   // converted on the stream thread for the recorder
     thread.getRecordStatistics(processed, recorded);
     QCOMPARE(processed, 3ULL);
     QCOMPARE(recorded, 1ULL);

@@ -174,6 +174,43 @@ void unpackRun(const SFormat& f, const uint8_t* src, size_t n, uint8_t* dst)
     }
 }
 
+// Where the pixels of a non-JPEG frame lie in its raw data.
+struct SLayout
+{
+    SFormat format;
+    size_t width = 0, height = 0;
+    size_t lineBytes = 0;   // bytes of one line's pixels
+    size_t stride = 0;      // line bytes plus padding
+    bool continuous = true; // no padding: lines follow directly (packed: even within a byte)
+};
+
+// True when the format is known and the raw data holds the whole image.
+bool checkLayout(const SFrameInfo& info, size_t rawSize, SLayout& l)
+{
+    if (rawSize == 0 || !lookupFormat(info.pixelFormat, l.format))
+        return false;
+    const size_t w = info.width, h = info.height;
+    if (w == 0 || h == 0 || w > size_t(INT_MAX / 4) || h > size_t(INT_MAX))
+        return false;
+    const size_t outBytes = w * h * 3;
+    if (outBytes / 3 / w != h || outBytes > size_t(INT_MAX))
+        return false;
+    if ((l.format.layout == ELayout::yuyv || l.format.layout == ELayout::uyvy) && (w & 1))
+        return false;   // 4:2:2 shares chroma between pixel pairs
+
+    // Without line padding the lines follow each other directly (for the
+    // packed formats even within a byte); with padding each line starts
+    // on its own byte after the padding of the previous one.
+    const size_t pad = info.paddingX;
+    l.width = w;
+    l.height = h;
+    l.lineBytes = bytesFor(l.format, w);
+    l.continuous = pad == 0;
+    l.stride = l.lineBytes + pad;
+    const size_t needed = l.continuous ? bytesFor(l.format, w * h) : (h - 1) * l.stride + l.lineBytes;
+    return rawSize >= needed;
+}
+
 } // namespace
 
 CQtHybridFrame::CQtHybridFrame(const SFrameInfo& info)
@@ -191,7 +228,8 @@ CQtHybridFrame::CQtHybridFrame(const SFrameInfo& info)
     } else {
         m_info.imageSize = 0;
     }
-    convert();
+    SLayout layout;
+    m_layoutValid = m_info.payloadType != payloadTypeJpeg && checkLayout(m_info, size_t(m_raw.size()), layout);
 }
 
 CQtHybridFrame::~CQtHybridFrame() = default;
@@ -204,7 +242,22 @@ bool CQtHybridFrame::isSupportedPixelFormat(uint32_t pixelFormat, int payloadTyp
     return lookupFormat(pixelFormat, f);
 }
 
-void CQtHybridFrame::convert()
+void CQtHybridFrame::ensureConverted() const
+{
+    if (m_convertDone.load(std::memory_order_acquire))
+        return;
+    std::call_once(m_convertOnce, [this] {
+        convert();
+        m_convertDone.store(true, std::memory_order_release);
+    });
+}
+
+bool CQtHybridFrame::isConverted() const
+{
+    return m_convertDone.load(std::memory_order_acquire);
+}
+
+void CQtHybridFrame::convert() const
 {
     m_valid = false;
     m_convertedWidth = 0;
@@ -236,28 +289,14 @@ void CQtHybridFrame::convert()
             return;
         }
 
-        SFormat f;
-        if (!lookupFormat(m_info.pixelFormat, f))
+        SLayout layout;
+        if (!m_layoutValid || !checkLayout(m_info, rawSize, layout))
             return;
-        const size_t w = m_info.width, h = m_info.height;
-        if (w == 0 || h == 0 || w > size_t(INT_MAX / 4) || h > size_t(INT_MAX))
-            return;
+        const SFormat& f = layout.format;
+        const size_t w = layout.width, h = layout.height;
         const size_t outBytes = w * h * 3;
-        if (outBytes / 3 / w != h || outBytes > size_t(INT_MAX))
-            return;
-        if ((f.layout == ELayout::yuyv || f.layout == ELayout::uyvy) && (w & 1))
-            return;   // 4:2:2 shares chroma between pixel pairs
-
-        // Without line padding the lines follow each other directly (for the
-        // packed formats even within a byte); with padding each line starts
-        // on its own byte after the padding of the previous one.
-        const size_t pad = m_info.paddingX;
-        const size_t lineBytes = bytesFor(f, w);
-        const bool continuous = pad == 0;
-        const size_t stride = lineBytes + pad;
-        const size_t needed = continuous ? bytesFor(f, w * h) : (h - 1) * stride + lineBytes;
-        if (rawSize < needed)
-            return;
+        const bool continuous = layout.continuous;
+        const size_t stride = layout.stride;
 
         m_converted = QByteArray(int(outBytes), Qt::Uninitialized);
         uint8_t* out = reinterpret_cast<uint8_t*>(m_converted.data());
@@ -322,41 +361,39 @@ void CQtHybridFrame::convert()
 
 bool CQtHybridFrame::isHybridFrameValid() const
 {
+    if (m_info.payloadType != payloadTypeJpeg)
+        return m_layoutValid;
+    ensureConverted();
     return m_valid;
-}
-
-void CQtHybridFrame::setBayerDemosaic(EBayerDemosaic demosaic)
-{
-    const EBayerDemosaic before = m_info.demosaic;
-    m_info.demosaic = demosaic;
-    SFormat f;
-    if (demosaic != before && m_info.payloadType != payloadTypeJpeg
-        && lookupFormat(m_info.pixelFormat, f) && isBayer(f.layout))
-        convert();
 }
 
 const unsigned char* CQtHybridFrame::getConvertedData() const
 {
+    ensureConverted();
     return m_valid ? reinterpret_cast<const unsigned char*>(m_converted.constData()) : nullptr;
 }
 
 uint64_t CQtHybridFrame::getConvertedDataSize() const
 {
+    ensureConverted();
     return m_valid ? uint64_t(m_converted.size()) : 0;
 }
 
 uint32_t CQtHybridFrame::getConvertedWidth() const
 {
+    ensureConverted();
     return m_convertedWidth;
 }
 
 uint32_t CQtHybridFrame::getConvertedHeight() const
 {
+    ensureConverted();
     return m_convertedHeight;
 }
 
 EConvertedPixelType CQtHybridFrame::getConvertedPixelType() const
 {
+    ensureConverted();
     return m_valid ? convertedBGR24 : convertedNone;
 }
 
@@ -388,6 +425,26 @@ uint32_t CQtHybridFrame::getWidth() const
 uint32_t CQtHybridFrame::getHeight() const
 {
     return m_info.height;
+}
+
+uint32_t CQtHybridFrame::getPaddingX() const
+{
+    return m_info.paddingX;
+}
+
+uint32_t CQtHybridFrame::getPaddingY() const
+{
+    return m_info.paddingY;
+}
+
+int CQtHybridFrame::getPayloadType() const
+{
+    return m_info.payloadType;
+}
+
+EBayerDemosaic CQtHybridFrame::getDemosaic() const
+{
+    return m_info.demosaic;
 }
 
 void CQtHybridFrame::setChunkData(const char* text)

@@ -70,17 +70,34 @@ bool isLoopback(const std::string& ip)
     return ip.compare(0, 4, "127.") == 0;
 }
 
-// Stream thread: counts every finished buffer. userData is the session's
-// statistics counter, which the session keeps until the stream is gone.
+bool isIncomplete(ArvBufferStatus status)
+{
+    return status == ARV_BUFFER_STATUS_MISSING_PACKETS || status == ARV_BUFFER_STATUS_TIMEOUT;
+}
+
+// Packets an incomplete block lacks: the data packets whose place stayed
+// empty, and at least one (a lost leader or trailer leaves no hole).
+uint64_t missingPacketsOf(const GrabSession& s, ArvBuffer* buffer)
+{
+    if (!s.marks.enabled() || !isIncomplete(arv_buffer_get_status(buffer)))
+        return 0;
+    return std::max<uint64_t>(1, s.marks.countMissing(buffer));
+}
+
+// Stream thread: counts every finished buffer. userData is the grab
+// session, which lives until its stream (and this thread) is gone.
 void streamCallback(void* userData, ArvStreamCallbackType type, ArvBuffer* buffer)
 {
     if (type != ARV_STREAM_CALLBACK_TYPE_BUFFER_DONE || !buffer || !userData)
+        return;
+    const GrabSession& s = *static_cast<const GrabSession*>(userData);
+    if (!s.callbackStats)
         return;
     size_t size = 0;
     const ArvBufferStatus status = arv_buffer_get_status(buffer);
     if (status == ARV_BUFFER_STATUS_SUCCESS)
         arv_buffer_get_data(buffer, &size);
-    static_cast<StreamStatisticsCounter*>(userData)->onBufferDone(status, size, monotonicNs());
+    s.callbackStats->onBufferDone(status, size, monotonicNs(), missingPacketsOf(s, buffer));
 }
 
 // Control-lost handler data: the session by weak pointer, freed with the handler.
@@ -102,6 +119,29 @@ void destroyLostBox(gpointer userData, GClosure*)
 }
 
 } // namespace
+
+// Data lost during one getFrame call, reported as its last error.
+struct SLoss
+{
+    bool failedBlock = false;      // a block closed incomplete or in error
+    uint64_t missingBlocks = 0;    // block ids skipped
+    char text[160] = {};
+
+    void blockFailed(const char* description)
+    {
+        failedBlock = true;
+        std::snprintf(text, sizeof(text), "%s", description);
+    }
+    void blocksMissing(uint64_t n, const char* description)
+    {
+        missingBlocks += n;
+        if (!failedBlock)
+            std::snprintf(text, sizeof(text), "%s", description);
+    }
+    // Blocks dropped for want of a free buffer also leave gaps in the block
+    // ids; those are overrides (the application held its buffers), not loss.
+    bool shown(uint64_t newUnderruns) const { return failedBlock || missingBlocks > newUnderruns; }
+};
 
 struct CInternalStreamSource::SImpl
 {
@@ -129,8 +169,10 @@ struct CInternalStreamSource::SImpl
 
     bool channelFailed(const GrabSession& s) const;
     void publish(const SStreamArg& arg) const;
-    void reportFailed(GrabSession& s, ArvBuffer* buffer, uint64_t blockId, uint64_t generation);
-    void noteBlockId(GrabSession& s, uint64_t blockId, uint64_t timestamp);
+    // Both describe the loss they found in `loss` (left alone when none), for
+    // the last error of getFrame.
+    void reportFailed(GrabSession& s, ArvBuffer* buffer, uint64_t blockId, uint64_t generation, SLoss& loss);
+    void noteBlockId(GrabSession& s, uint64_t blockId, uint64_t timestamp, SLoss& loss);
     void applyStreamOptions(ArvStream* stream, unsigned int payload, unsigned int packetBytes);
     void giveBack(ArvBuffer* buffer, uint64_t generation) { core->recycle(buffer, generation); }
 };
@@ -157,7 +199,7 @@ void CInternalStreamSource::SImpl::publish(const SStreamArg& arg) const
         EventHub::publishStream(camera.get(), arg);
 }
 
-void CInternalStreamSource::SImpl::noteBlockId(GrabSession& s, uint64_t blockId, uint64_t timestamp)
+void CInternalStreamSource::SImpl::noteBlockId(GrabSession& s, uint64_t blockId, uint64_t timestamp, SLoss& loss)
 {
     if (blockId == 0)
         return;
@@ -177,10 +219,12 @@ void CInternalStreamSource::SImpl::noteBlockId(GrabSession& s, uint64_t blockId,
     char text[96];
     std::snprintf(text, sizeof(text), "%" PRIu64 " block(s) missing before block %" PRIu64, missing, blockId);
     arg.description = text;
+    loss.blocksMissing(missing, text);
     publish(arg);
 }
 
-void CInternalStreamSource::SImpl::reportFailed(GrabSession& s, ArvBuffer* buffer, uint64_t blockId, uint64_t generation)
+void CInternalStreamSource::SImpl::reportFailed(GrabSession& s, ArvBuffer* buffer, uint64_t blockId, uint64_t generation,
+                                               SLoss& loss)
 {
     const ArvBufferStatus status = arv_buffer_get_status(buffer);
     SStreamArg arg;
@@ -199,6 +243,13 @@ void CInternalStreamSource::SImpl::reportFailed(GrabSession& s, ArvBuffer* buffe
         }
         s.lastResendRatioReached = reached;
     }
+    char text[160];
+    if (isIncomplete(status) && s.marks.enabled())
+        std::snprintf(text, sizeof(text), "block %" PRIu64 " incomplete, %" PRIu64 " packet(s) missing", blockId,
+                      missingPacketsOf(s, buffer));
+    else
+        std::snprintf(text, sizeof(text), "block %" PRIu64 ": %s", blockId, statusText(status));
+    loss.blockFailed(text);
     publish(arg);
     giveBack(buffer, generation);
 }
@@ -314,7 +365,11 @@ bool CInternalStreamSource::SImpl::start(unsigned long maxImagesArg, EGrabStrate
         }
 
         session->callbackStats = stats;
-        ArvStream* stream = arv_camera_create_stream(cam, streamCallback, stats.get(), &error);
+        if (gige && packetBytes > kPacketOverhead) {
+            session->marks.payload = payload;
+            session->marks.blockSize = packetBytes - kPacketOverhead;
+        }
+        ArvStream* stream = arv_camera_create_stream(cam, streamCallback, session.get(), &error);
         if (!stream) {
             setLastError(Infra::ERR_IO, error ? error->message : "cannot create the stream");
             g_clear_error(&error);
@@ -324,8 +379,11 @@ bool CInternalStreamSource::SImpl::start(unsigned long maxImagesArg, EGrabStrate
         session->stream = stream;
         applyStreamOptions(stream, payload, packetBytes);
 
-        for (unsigned int i = 0; i < bufferCount; ++i)
-            arv_stream_push_buffer(stream, arv_buffer_new_allocate(payload));
+        for (unsigned int i = 0; i < bufferCount; ++i) {
+            ArvBuffer* buffer = arv_buffer_new_allocate(payload);
+            session->marks.mark(buffer);
+            arv_stream_push_buffer(stream, buffer);
+        }
         {
             std::lock_guard<std::mutex> lock(core->mutex);
             stats->attach(stream);
@@ -451,6 +509,9 @@ bool CInternalStreamSource::SImpl::getFrame(CFrame& frame, unsigned int timeoutM
 
     const int64_t deadline = monotonicNs() + int64_t(timeoutMs) * 1000000LL;
     bool overridden = false;
+    // An incomplete or missing block met on the way is this call's last
+    // error, even when a complete frame follows it: the loss must show.
+    SLoss loss;
     for (;;) {
         const int64_t remainingNs = deadline - monotonicNs();
         ArvBuffer* buffer = nullptr;
@@ -462,9 +523,9 @@ bool CInternalStreamSource::SImpl::getFrame(CFrame& frame, unsigned int timeoutM
             break;
 
         uint64_t blockId = s.unwrapBlockId(arv_buffer_get_frame_id(buffer));
-        noteBlockId(s, blockId, arv_buffer_get_timestamp(buffer));
+        noteBlockId(s, blockId, arv_buffer_get_timestamp(buffer), loss);
         if (arv_buffer_get_status(buffer) != ARV_BUFFER_STATUS_SUCCESS) {
-            reportFailed(s, buffer, blockId, generation);
+            reportFailed(s, buffer, blockId, generation, loss);
             continue;
         }
 
@@ -472,9 +533,9 @@ bool CInternalStreamSource::SImpl::getFrame(CFrame& frame, unsigned int timeoutM
             // Only the newest complete frame is wanted: older ones go back.
             while (ArvBuffer* newer = arv_stream_try_pop_buffer(s.stream)) {
                 const uint64_t newerId = s.unwrapBlockId(arv_buffer_get_frame_id(newer));
-                noteBlockId(s, newerId, arv_buffer_get_timestamp(newer));
+                noteBlockId(s, newerId, arv_buffer_get_timestamp(newer), loss);
                 if (arv_buffer_get_status(newer) != ARV_BUFFER_STATUS_SUCCESS) {
-                    reportFailed(s, newer, newerId, generation);
+                    reportFailed(s, newer, newerId, generation, loss);
                     continue;
                 }
                 giveBack(buffer, generation);
@@ -511,12 +572,16 @@ bool CInternalStreamSource::SImpl::getFrame(CFrame& frame, unsigned int timeoutM
         // Frames dropped for want of a free buffer since the last call.
         guint64 underruns = 0;
         arv_stream_get_statistics(s.stream, nullptr, nullptr, &underruns);
+        uint64_t newUnderruns = 0;
         if (underruns > s.lastUnderruns) {
+            newUnderruns = underruns - s.lastUnderruns;
             s.lastUnderruns = underruns;
             overridden = true;
         }
         s.channelErrorReported = false;
-        if (overridden)
+        if (loss.shown(newUnderruns))
+            setLastError(Infra::ERR_NO_FRAME, loss.text);
+        else if (overridden)
             setLastError(Infra::WARN_BUFFER_OVERRIDE);
         else
             clearLastError();
@@ -546,6 +611,14 @@ bool CInternalStreamSource::SImpl::getFrame(CFrame& frame, unsigned int timeoutM
             publish(arg);
             LOG_ERROR("stream channel %u: the camera does not answer any more", unsigned(channel));
         }
+    } else if (loss.failedBlock || loss.missingBlocks > 0) {
+        // Underruns are taken into account with the next frame; peek only.
+        guint64 underruns = 0;
+        arv_stream_get_statistics(s.stream, nullptr, nullptr, &underruns);
+        if (loss.shown(underruns > s.lastUnderruns ? underruns - s.lastUnderruns : 0))
+            setLastError(Infra::ERR_NO_FRAME, loss.text);
+        else
+            clearLastError();
     } else {
         clearLastError();
     }

@@ -33,14 +33,75 @@ uint64_t GrabSession::unwrapBlockId(uint64_t raw)
     return blockIdEpoch + raw;
 }
 
+namespace {
+
+constexpr uint64_t kPacketMarker = 0x4C756D69446F7221ULL;
+
+uint64_t markerAt(uint64_t packet)
+{
+    return kPacketMarker ^ (packet * 0x9E3779B97F4A7C15ULL);
+}
+
+} // namespace
+
+void PacketMarks::mark(uint8_t* data, size_t size) const
+{
+    if (!enabled() || !data)
+        return;
+    const uint64_t n = packetCount();
+    for (uint64_t k = 0; k < n; ++k) {
+        const size_t offset = size_t(k) * blockSize;
+        if (offset >= size)
+            break;
+        const uint64_t m = markerAt(k);
+        std::memcpy(data + offset, &m, std::min<size_t>(sizeof(m), size - offset));
+    }
+}
+
+void PacketMarks::mark(ArvBuffer* buffer) const
+{
+    if (!enabled() || !buffer)
+        return;
+    // Every buffer of a grab is allocated with the payload size; the size
+    // Aravis reports is what the last block filled, not the allocation.
+    auto* data = static_cast<uint8_t*>(const_cast<void*>(arv_buffer_get_data(buffer, nullptr)));
+    mark(data, payload);
+}
+
+uint64_t PacketMarks::countMissing(const uint8_t* data, size_t size) const
+{
+    if (!enabled() || !data)
+        return 0;
+    uint64_t missing = 0;
+    const uint64_t n = packetCount();
+    for (uint64_t k = 0; k < n; ++k) {
+        const size_t offset = size_t(k) * blockSize;
+        if (offset >= size)
+            break;
+        const uint64_t m = markerAt(k);
+        if (std::memcmp(data + offset, &m, std::min<size_t>(sizeof(m), size - offset)) == 0)
+            ++missing;
+    }
+    return missing;
+}
+
+uint64_t PacketMarks::countMissing(ArvBuffer* buffer) const
+{
+    if (!enabled() || !buffer)
+        return 0;
+    const auto* data = static_cast<const uint8_t*>(arv_buffer_get_data(buffer, nullptr));
+    return countMissing(data, payload);
+}
+
 void StreamCore::recycle(ArvBuffer* buffer, uint64_t gen)
 {
     if (!buffer)
         return;
     std::lock_guard<std::mutex> lock(mutex);
-    if (grabbing && session && session->stream && gen == generation)
+    if (grabbing && session && session->stream && gen == generation) {
+        session->marks.mark(buffer);
         arv_stream_push_buffer(session->stream, buffer);
-    else
+    } else
         g_object_unref(buffer);
 }
 

@@ -81,6 +81,27 @@ struct SFallbackGeometry
     uint64_t offsetX = 0, offsetY = 0;
 };
 
+// Counts the data packets of a block that never arrived. Aravis copies each
+// data packet to its place in the buffer (packet k at k * blockSize) and
+// leaves the places of missing packets untouched, so a marker written at the
+// start of every place before the buffer goes to the stream is still there
+// after the block closed exactly where a packet is missing. The marker
+// depends on the place, so image data matching it by chance is out of reach.
+struct PacketMarks
+{
+    size_t payload = 0;     // bytes of a block
+    size_t blockSize = 0;   // data bytes per packet; 0: nothing is marked or counted
+
+    bool enabled() const { return payload > 0 && blockSize > 0; }
+    uint64_t packetCount() const { return enabled() ? (payload + blockSize - 1) / blockSize : 0; }
+    // Before the buffer is queued to the stream.
+    void mark(uint8_t* data, size_t size) const;
+    void mark(ArvBuffer* buffer) const;
+    // After the block closed: data packets whose place still holds its marker.
+    uint64_t countMissing(const uint8_t* data, size_t size) const;
+    uint64_t countMissing(ArvBuffer* buffer) const;
+};
+
 // One stream object from startGrabbing to stopGrabbing.
 struct GrabSession
 {
@@ -91,7 +112,10 @@ struct GrabSession
 
     ArvStream* stream = nullptr;          // owned reference
     // The stream callback's counter; kept until the stream is released.
+    // The callback gets the session itself (it outlives the stream).
     std::shared_ptr<StreamStatisticsCounter> callbackStats;
+    // Packet places of this grab's buffers; set before the first buffer is queued.
+    PacketMarks marks;
     ArvDevice* device = nullptr;          // owned reference, for the control-lost handler
     unsigned long controlLostHandler = 0;
     std::atomic<bool> controlLost{false};

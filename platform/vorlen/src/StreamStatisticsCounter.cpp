@@ -40,7 +40,9 @@ void countersToInfo(const StreamCounters& c, StreamStatisticsInfo& info)
     // up: too many packets lost to wait for.
     info.tooManyLostPacketBlock = c[ctrStatusTimeout];
     info.missingBlockId = c[ctrMissingFrames];
-    info.lostPacket = c[ctrMissingPackets];
+    // Packets really missing. Aravis' own n_missing_packets counts every
+    // packet of a block after its first gap, received or not.
+    info.lostPacket = c[ctrLostPackets];
     info.resendRequest = c[ctrResendRequests];
     // Aravis counts the resent packets that arrived; each one filled a hole,
     // so it is both a resent and a recovered packet.
@@ -160,8 +162,11 @@ void StreamStatisticsCounter::detach(ArvStream* stream)
     m_infoIndex.fill(-1);
 }
 
-void StreamStatisticsCounter::onBufferDone(ArvBufferStatus status, uint64_t bytes, int64_t nowNs)
+void StreamStatisticsCounter::onBufferDone(ArvBufferStatus status, uint64_t bytes, int64_t nowNs,
+                                           uint64_t missingPackets)
 {
+    if (missingPackets > 0)
+        m_own[ctrLostPackets - ctrArvCount].fetch_add(missingPackets, std::memory_order_relaxed);
     int own = -1;
     switch (status) {
     case ARV_BUFFER_STATUS_SUCCESS:

@@ -44,6 +44,7 @@ enum EStreamCounter
     ctrStatusTimeout,                        // blocks given up waiting for packets
     ctrStatusImageError,                     // wrong packet id, size mismatch, ...
     ctrLatestImageDrops,                     // older frames dropped by grabStrategyLatestImage
+    ctrLostPackets,                          // data packets that never arrived in closed blocks
     ctrCount
 };
 
@@ -87,8 +88,9 @@ public:
     // The stream object is going away: its final counters are kept.
     void detach(ArvStream* stream);
 
-    // Stream thread: a buffer was finished with this status.
-    void onBufferDone(ArvBufferStatus status, uint64_t bytes, int64_t nowNs);
+    // Stream thread: a buffer was finished with this status; missingPackets
+    // is the number of its packets that never arrived (PacketMarks).
+    void onBufferDone(ArvBufferStatus status, uint64_t bytes, int64_t nowNs, uint64_t missingPackets = 0);
     void onLatestImageDrop() { m_own[ctrLatestImageDrops - ctrArvCount].fetch_add(1, std::memory_order_relaxed); }
 
     // Totals since the last reset; stream may be null (not grabbing).

@@ -1,11 +1,20 @@
 #pragma once
 // A frame prepared for display, saving and recording: the camera's raw pixels
-// (copied once, so the camera buffer goes straight back to the stream) and the
-// same image converted to 24-bit BGR. The conversion runs in the constructor,
-// on the thread that builds the frame, never on the GUI thread.
+// (copied once, so the camera buffer goes straight back to the stream) and,
+// on demand, the same image converted to 24-bit BGR at full resolution.
+//
+// Immutable once built: display, saving and recording share one frame from
+// several threads, so nothing about it changes after construction. Its
+// demosaicing is fixed by SFrameInfo. The full-resolution conversion runs at
+// most once, on the first call of a getConverted...() accessor (from any
+// thread; concurrent callers wait for the one conversion). A view that draws
+// at a smaller size reads the raw data and needs no conversion at all.
+// setChunkData is for the frame's builder, before the frame is handed on.
 #include <QByteArray>
 #include <QSharedPointer>
+#include <atomic>
 #include <cstdint>
+#include <mutex>
 
 namespace Gliv {
 
@@ -47,11 +56,11 @@ public:
     ~CQtHybridFrame();
 
     // False when the format is not supported or the data is short; the
-    // converted image is then empty.
+    // converted image is then empty. Checked without converting, except for
+    // a JPEG payload, which must be decoded to be known good.
     bool isHybridFrameValid() const;
-    // Converts the raw data again with another demosaicing (Bayer only).
-    void setBayerDemosaic(EBayerDemosaic demosaic);
 
+    // Full-resolution BGR image; the first call converts (see above).
     const unsigned char* getConvertedData() const;
     uint64_t getConvertedDataSize() const;
     uint32_t getConvertedWidth() const;
@@ -64,6 +73,12 @@ public:
     uint32_t getPixelFormat() const;
     uint32_t getWidth() const;
     uint32_t getHeight() const;
+    uint32_t getPaddingX() const;   // bytes at the end of each raw line
+    uint32_t getPaddingY() const;   // bytes at the end of the raw image
+    int getPayloadType() const;     // 1 image, 6 JPEG
+    EBayerDemosaic getDemosaic() const;
+    // Whether the full-resolution conversion has run (for tests and benchmarks).
+    bool isConverted() const;
 
     void setChunkData(const char* text);
     const char* getChunkData() const;
@@ -72,15 +87,21 @@ public:
     static bool isSupportedPixelFormat(uint32_t pixelFormat, int payloadType = 1);
 
 private:
-    void convert();
+    void ensureConverted() const;
+    void convert() const;
 
     SFrameInfo m_info;
     QByteArray m_raw;
-    QByteArray m_converted;
-    uint32_t m_convertedWidth = 0;
-    uint32_t m_convertedHeight = 0;
-    bool m_valid = false;
+    bool m_layoutValid = false;     // raw data complete for its format (non-JPEG)
     QByteArray m_chunk;
+
+    // Written once, by the conversion, under m_convertOnce.
+    mutable std::once_flag m_convertOnce;
+    mutable std::atomic<bool> m_convertDone{false};
+    mutable QByteArray m_converted;
+    mutable uint32_t m_convertedWidth = 0;
+    mutable uint32_t m_convertedHeight = 0;
+    mutable bool m_valid = false;
 };
 
 } // namespace Gliv
