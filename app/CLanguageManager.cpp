@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -74,6 +75,12 @@ void CLanguageManager::apply(int language)
         if (language == LanguageChinese)
             installTranslators();
         m_language = language;
+        // Qt announces a new translator only while the event loop runs, and
+        // then by posted events; telling every window here makes the switch
+        // complete before languageChanged() is emitted, in every case.
+        QEvent change(QEvent::LanguageChange);
+        for (QWidget* w : QApplication::topLevelWidgets())
+            QCoreApplication::sendEvent(w, &change);
     }
 
     CStyleSheetText fontSheet;

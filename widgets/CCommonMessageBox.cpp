@@ -159,11 +159,14 @@ void CCommonMessageBox::retranslate()
     }
 }
 
-void CCommonMessageBox::changeEvent(QEvent* event)
+bool CCommonMessageBox::event(QEvent* event)
 {
+    // The button box resets its standard texts when it gets the event, which
+    // happens after ours; so ours are set once the children are done.
+    const bool handled = QDialog::event(event);
     if (event->type() == QEvent::LanguageChange)
         retranslate();
-    QDialog::changeEvent(event);
+    return handled;
 }
 
 void CCommonMessageBox::setFilePath(const QString& path)

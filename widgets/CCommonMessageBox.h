@@ -30,7 +30,7 @@ public:
     QPushButton* button(QMessageBox::StandardButton which) const;
 
 protected:
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
 public slots:
     // Escape / window close: Cancel, else No, else the only button there is.

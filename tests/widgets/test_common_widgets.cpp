@@ -1,0 +1,268 @@
+// Common widgets: message box, wait dialog, dialog title bar, and the value
+// editors' wheel, click and escape behaviour.
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QToolButton>
+#include <QTranslator>
+#include <QWheelEvent>
+#include <QtTest>
+
+#include "CBusyIndicator.h"
+#include "CCommonMessageBox.h"
+#include "CDialogTitleBar.h"
+#include "CDoubleSpinBox.h"
+#include "CLineEdit.h"
+#include "CMenu.h"
+#include "CSlider.h"
+#include "CSpinBox.h"
+#include "CWaitDlg.h"
+
+namespace {
+// Sends one wheel notch up; returns whether the widget took the event.
+bool wheelUp(QWidget* w)
+{
+    const QPoint pos = w->rect().center();
+    QWheelEvent event(pos, w->mapToGlobal(pos), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(w, &event);
+    return event.isAccepted();
+}
+
+void giveFocus(QWidget* w)
+{
+    QApplication::setActiveWindow(w->window());
+    w->setFocus(Qt::OtherFocusReason);
+    QApplication::processEvents();
+}
+} // namespace
+
+class TestCommonWidgets : public QObject
+{
+    Q_OBJECT
+private slots:
+    void messageBoxButtonsIconsAndFile()
+    {
+        CCommonMessageBox box;
+        box.setMessage(QStringLiteral("Connect failed."));
+        box.setButtons(QMessageBox::Ok);
+        box.setIcon(QMessageBox::Critical);
+        QCOMPARE(box.message(), QStringLiteral("Connect failed."));
+        QVERIFY(box.button(QMessageBox::Ok));
+        QVERIFY(!box.button(QMessageBox::Cancel));
+        QCOMPARE(box.button(QMessageBox::Ok)->text(), QStringLiteral("OK"));
+        QCOMPARE(box.windowTitle(), QStringLiteral("Error"));
+        QVERIFY(!box.findChild<QLabel*>(QStringLiteral("messageIcon"))->pixmap(Qt::ReturnByValue).isNull());
+        QVERIFY(box.findChild<QWidget*>(QStringLiteral("messageFileRow"))->isHidden());
+        // Escape on a lone OK answers OK.
+        box.reject();
+        QCOMPARE(box.result(), int(QMessageBox::Ok));
+
+        box.setButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        box.setIcon(QMessageBox::Question);
+        QCOMPARE(box.windowTitle(), QStringLiteral("Question"));
+        QVERIFY(box.button(QMessageBox::Ok)->isDefault());
+        box.reject();
+        QCOMPARE(box.result(), int(QMessageBox::Cancel));
+        box.button(QMessageBox::Ok)->click();
+        QCOMPARE(box.result(), int(QMessageBox::Ok));
+
+        // The file row names the file; an empty path hides it again.
+        box.setFilePath(QStringLiteral("/var/log/TavSDK/Lumidor/Lumidor_loadConfigReport.log"));
+        QWidget* row = box.findChild<QWidget*>(QStringLiteral("messageFileRow"));
+        QVERIFY(!row->isHidden());
+        QCOMPARE(box.findChild<QLabel*>(QStringLiteral("messageFile"))->text(),
+                 QStringLiteral("Lumidor_loadConfigReport.log"));
+        QVERIFY(box.findChild<QPushButton*>(QStringLiteral("btnOpenFile")));
+        box.setFilePath(QString());
+        QVERIFY(row->isHidden());
+
+        // Texts follow a language switch while the box is open.
+        QTranslator zh;
+        QVERIFY2(zh.load(QStringLiteral(":/i18n/widgets_zh_CN.qm")), "widgets translation not embedded");
+        QCoreApplication::installTranslator(&zh);
+        QEvent change(QEvent::LanguageChange); // as the language manager sends it
+        QApplication::sendEvent(&box, &change);
+        QCOMPARE(box.button(QMessageBox::Cancel)->text(), QString::fromUtf8("取消"));
+        QCOMPARE(box.windowTitle(), QString::fromUtf8("询问"));
+        QCoreApplication::removeTranslator(&zh);
+        QApplication::sendEvent(&box, &change);
+        QCOMPARE(box.button(QMessageBox::Cancel)->text(), QStringLiteral("Cancel"));
+    }
+
+    void waitDialogStaysUntilDone()
+    {
+        QWidget owner;
+        owner.show();
+        CWaitDlg dlg(&owner);
+        dlg.setTitle(QStringLiteral("Connecting"));
+        dlg.setText(QStringLiteral("Opening the camera..."));
+        QCOMPARE(dlg.title(), QStringLiteral("Connecting"));
+        QCOMPARE(dlg.windowTitle(), QStringLiteral("Connecting"));
+        QCOMPARE(dlg.text(), QStringLiteral("Opening the camera..."));
+        QVERIFY(dlg.windowFlags() & Qt::FramelessWindowHint);
+
+        CBusyIndicator* busy = dlg.busyIndicator();
+        QVERIFY(!busy->isAnimating());
+        dlg.open(); // returns at once: the caller goes on working
+        QVERIFY(dlg.isVisible());
+        QVERIFY(dlg.isModal());
+        QVERIFY(busy->isAnimating());
+        const int angle = busy->angle();
+        busy->advance();
+        QCOMPARE(busy->angle(), (angle + 30) % 360);
+        for (int i = 0; i < 12; ++i)
+            busy->advance();
+        QCOMPARE(busy->angle(), (angle + 30) % 360);
+
+        // The operator cannot make it go away while the work runs.
+        QTest::keyClick(&dlg, Qt::Key_Escape);
+        dlg.reject();
+        QVERIFY(dlg.isVisible());
+        QVERIFY(!dlg.findChild<QToolButton*>(QStringLiteral("btnDialogClose"))->isVisible());
+
+        dlg.accept();
+        QVERIFY(!dlg.isVisible());
+        QCOMPARE(dlg.result(), int(QDialog::Accepted));
+        QVERIFY(!busy->isAnimating());
+
+        // A cancellable wait offers the close button and rejects with it.
+        dlg.setCancellable(true);
+        dlg.open();
+        QSignalSpy rejected(&dlg, &QDialog::rejected);
+        dlg.findChild<QToolButton*>(QStringLiteral("btnDialogClose"))->click();
+        QCOMPARE(rejected.count(), 1);
+        QVERIFY(!dlg.isVisible());
+    }
+
+    void titleBarNamesAndClosesItsDialog()
+    {
+        QDialog dlg(nullptr, Qt::FramelessWindowHint);
+        auto* bar = new CDialogTitleBar(&dlg);
+        bar->setTitle(QStringLiteral("Force IP"));
+        QCOMPARE(bar->title(), QStringLiteral("Force IP"));
+        QCOMPARE(dlg.windowTitle(), QStringLiteral("Force IP"));
+        dlg.show();
+        QSignalSpy requested(bar, &CDialogTitleBar::closeRequested);
+        QSignalSpy rejected(&dlg, &QDialog::rejected);
+        bar->closeButton()->click();
+        QCOMPARE(requested.count(), 1);
+        QCOMPARE(rejected.count(), 1);
+        QVERIFY(!dlg.isVisible());
+        bar->setCloseButtonVisible(false);
+        dlg.show();
+        QVERIFY(!bar->closeButton()->isVisible());
+    }
+
+    // Scrolling over an editor without focus must not change a value; the
+    // event goes on to the scroll area instead.
+    void editorsTakeTheWheelOnlyWithFocus()
+    {
+        QWidget window;
+        auto* spin = new CSpinBox(&window);
+        auto* dspin = new CDoubleSpinBox(&window);
+        auto* slider = new CSlider(Qt::Horizontal, &window);
+        spin->setRange(0, 100);
+        spin->setValue(50);
+        dspin->setRange(0, 10);
+        dspin->setValue(5);
+        slider->setRange(0, 100);
+        slider->setValue(50);
+        spin->move(0, 0);
+        dspin->move(0, 40);
+        slider->setGeometry(0, 80, 200, 20);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        const QList<QWidget*> editors = {spin, dspin, slider};
+        for (QWidget* e : editors) {
+            QCOMPARE(e->focusPolicy(), Qt::StrongFocus);
+            e->clearFocus();
+        }
+        QApplication::processEvents();
+        for (QWidget* e : editors)
+            QVERIFY2(!wheelUp(e), e->metaObject()->className());
+        QCOMPARE(spin->value(), 50);
+        QCOMPARE(dspin->value(), 5.0);
+        QCOMPARE(slider->value(), 50);
+
+        giveFocus(spin);
+        QVERIFY(wheelUp(spin));
+        QCOMPARE(spin->value(), 51);
+        giveFocus(dspin);
+        QVERIFY(wheelUp(dspin));
+        QCOMPARE(dspin->value(), 6.0);
+        giveFocus(slider);
+        wheelUp(slider);
+        QVERIFY(slider->value() != 50);
+
+        // Typing does not emit a value before the number is complete.
+        QSignalSpy changed(spin, QOverload<int>::of(&QSpinBox::valueChanged));
+        giveFocus(spin);
+        spin->selectAll();
+        QTest::keyClicks(spin, QStringLiteral("75"));
+        QCOMPARE(changed.count(), 0);
+        QTest::keyClick(spin, Qt::Key_Return);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(spin->value(), 75);
+    }
+
+    void sliderJumpsToTheClick()
+    {
+        CSlider slider(Qt::Horizontal);
+        slider.setRange(0, 100);
+        slider.setValue(0);
+        slider.resize(400, 24);
+        slider.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&slider));
+        QTest::mouseClick(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(300, 12));
+        QVERIFY2(qAbs(slider.value() - 75) <= 3, qPrintable(QString::number(slider.value())));
+        QTest::mouseClick(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(2, 12));
+        QCOMPARE(slider.value(), 0);
+        QCOMPARE(slider.valueAt(QPoint(399, 12)), 100);
+    }
+
+    void lineEditEscapeRestoresTheText()
+    {
+        QWidget window;
+        auto* edit = new CLineEdit(&window);
+        edit->setText(QStringLiteral("192.168.1.10"));
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        giveFocus(edit);
+        QCOMPARE(edit->textAtFocus(), QStringLiteral("192.168.1.10"));
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("10.0.0.1"));
+        QCOMPARE(edit->text(), QStringLiteral("10.0.0.1"));
+        QSignalSpy reverted(edit, &CLineEdit::editReverted);
+        QTest::keyClick(edit, Qt::Key_Escape);
+        QCOMPARE(edit->text(), QStringLiteral("192.168.1.10"));
+        QCOMPARE(reverted.count(), 1);
+    }
+
+    void menuOpensInsideTheScreen()
+    {
+        QScreen* screen = QGuiApplication::primaryScreen();
+        if (!screen)
+            QFAIL("no screen: the offscreen platform should provide one");
+        const QRect area = screen->availableGeometry();
+        CMenu menu(QStringLiteral("View"));
+        for (int i = 0; i < 8; ++i)
+            menu.addAction(QStringLiteral("A rather long entry of the menu %1").arg(i));
+        QWidget anchor(nullptr, Qt::FramelessWindowHint);
+        anchor.resize(40, 20);
+        anchor.move(area.right() - 45, area.bottom() - 25);
+        anchor.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&anchor));
+        const QPoint pos = menu.positionBelow(&anchor);
+        const QRect shown(pos, menu.sizeHint());
+        QVERIFY2(area.contains(shown), qPrintable(QStringLiteral("%1,%2 %3x%4").arg(pos.x()).arg(pos.y())
+                                                       .arg(shown.width()).arg(shown.height())));
+        QVERIFY(menu.toolTipsVisible());
+    }
+};
+
+QTEST_MAIN(TestCommonWidgets)
+#include "test_common_widgets.moc"
