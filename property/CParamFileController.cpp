@@ -1,0 +1,246 @@
+#include "CParamFileController.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "CConfiguration.h"
+#include "CDeviceManager.h"
+#include "CParamFileSaveThread.h"
+#include "CTavDevice.h"
+#include "CWaitDlg.h"
+#include "Tavlog4cpp/TavLogMacros.h"
+#include "Utils.h"
+
+CParamFileController::CParamFileController(QWidget* dialogParent, QObject* parent)
+    : QObject(parent), m_dialogParent(dialogParent), m_env(SParamFileEnv::standard())
+{
+    connect(this, &CParamFileController::update_receive, this, &CParamFileController::OnUpdateReceive,
+            Qt::QueuedConnection);
+    CDeviceManager::getInstance()->attach(this);
+}
+
+CParamFileController::~CParamFileController()
+{
+    CDeviceManager::getInstance()->detach(this);
+    for (CParamFileThread* t : {static_cast<CParamFileThread*>(m_load), static_cast<CParamFileThread*>(m_save)})
+        if (t)
+        {
+            t->stop();
+            t->wait();
+        }
+    delete m_wait;
+}
+
+void CParamFileController::Update(CTavMessagePtr msg)
+{
+    emit update_receive(msg);
+}
+
+void CParamFileController::showMessage(const QString& text, QMessageBox::Icon icon, const QString& path)
+{
+    if (m_messageHandler)
+        m_messageHandler(text, icon, path);
+    else
+        messageBox(text, m_dialogParent, QMessageBox::Ok, icon, path);
+}
+
+bool CParamFileController::refuseWhileBusy()
+{
+    if (!isBusy())
+        return false;
+    showMessage(tr("Another parameter file is being processed. Please wait until it is done."),
+                QMessageBox::Information);
+    return true;
+}
+
+QString CParamFileController::chooseFile(bool save, const QString& key)
+{
+    QString suggestion = CConfiguration::getInstance()->appHomeDir();
+    if (const CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key))
+    {
+        if (!device->getCurFile().isEmpty())
+            suggestion = device->getCurFile();
+        else if (save)
+            suggestion = QDir(suggestion).filePath(device->getDeviceSaveName() + QStringLiteral(".txt"));
+    }
+    if (m_chooser)
+        return m_chooser(save, suggestion);
+    const QString filter = tr("Parameter files (*.txt);;All files (*)");
+    if (save)
+    {
+        QString path = QFileDialog::getSaveFileName(m_dialogParent, tr("Save Config"), suggestion, filter);
+        if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
+            path += QStringLiteral(".txt");
+        return path;
+    }
+    return QFileDialog::getOpenFileName(m_dialogParent, tr("Open Config"), suggestion, filter);
+}
+
+void CParamFileController::onOpenConfig(CTavDevicePtr device)
+{
+    if (device)
+        openConfig(device->getDeviceKey());
+}
+
+void CParamFileController::onSaveConfig(CTavDevicePtr device)
+{
+    if (device)
+        saveConfig(device->getDeviceKey());
+}
+
+void CParamFileController::openConfig(const QString& key)
+{
+    if (refuseWhileBusy())
+        return;
+    const QString path = chooseFile(false, key);
+    if (!path.isEmpty())
+        loadFile(key, path);
+}
+
+void CParamFileController::saveConfig(const QString& key)
+{
+    if (refuseWhileBusy())
+        return;
+    const QString path = chooseFile(true, key);
+    if (!path.isEmpty())
+        saveFile(key, path);
+}
+
+bool CParamFileController::loadFile(const QString& key, const QString& path)
+{
+    if (refuseWhileBusy())
+        return false;
+    LOG_DEBUG("load parameter file [%s] into [%s]", path.toLocal8Bit().constData(), key.toLocal8Bit().constData());
+    m_busyKey = key;
+    m_load = new CParamFileLoadThread(key, path, m_env, m_reportPath, this);
+    connect(m_load, &CParamFileLoadThread::needConnect, this, &CParamFileController::onNeedConnect,
+            Qt::QueuedConnection);
+    connect(m_load, &CParamFileThread::progress, this, &CParamFileController::onProgress, Qt::QueuedConnection);
+    connect(m_load, &CParamFileLoadThread::loadFinished, this, &CParamFileController::onLoadFinished,
+            Qt::QueuedConnection);
+    showWait(tr("Open Config"), tr("Loading parameters..."));
+    m_load->start(QThread::InheritPriority);
+    return true;
+}
+
+bool CParamFileController::saveFile(const QString& key, const QString& path)
+{
+    if (refuseWhileBusy())
+        return false;
+    const CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key);
+    if (!device || !device->isConnected())
+    {
+        showMessage(tr("Connect the camera before saving its parameters."), QMessageBox::Critical);
+        return false;
+    }
+    LOG_DEBUG("save parameter file [%s] from [%s]", path.toLocal8Bit().constData(), key.toLocal8Bit().constData());
+    m_busyKey = key;
+    m_save = new CParamFileSaveThread(device, path, this);
+    connect(m_save, &CParamFileThread::progress, this, &CParamFileController::onProgress, Qt::QueuedConnection);
+    connect(m_save, &CParamFileSaveThread::saveFinished, this, &CParamFileController::onSaveFinished,
+            Qt::QueuedConnection);
+    showWait(tr("Save Config"), tr("Saving parameters..."));
+    m_save->start(QThread::InheritPriority);
+    return true;
+}
+
+void CParamFileController::showWait(const QString& title, const QString& text)
+{
+    if (!m_wait)
+        m_wait = new CWaitDlg(m_dialogParent);
+    m_waitText = text;
+    m_wait->setTitle(title);
+    m_wait->setText(text);
+    m_wait->open();
+}
+
+void CParamFileController::closeWait()
+{
+    if (m_wait)
+        m_wait->accept();
+}
+
+void CParamFileController::onProgress(int done, int total)
+{
+    if (m_wait && total > 0)
+        m_wait->setText(tr("%1\n%2 of %3 features").arg(m_waitText).arg(done).arg(total));
+}
+
+void CParamFileController::onNeedConnect(QString key)
+{
+    if (const CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key))
+        if (!device->isConnected() && !device->isConnecting())
+            device->openDevice(false);
+}
+
+void CParamFileController::onLoadFinished(int result, int loaded, int total, QString message)
+{
+    const QString path = m_load ? m_load->path() : QString();
+    const QString report = m_load ? m_load->reportPath() : QString();
+    if (m_load)
+    {
+        m_load->wait();
+        m_load->deleteLater();
+        m_load = nullptr;
+    }
+    closeWait();
+    if (const CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(m_busyKey))
+        if (result == CParamFileLoadThread::resultLoaded || result == CParamFileLoadThread::resultPartial)
+            device->setCurFile(path);
+    switch (result)
+    {
+    case CParamFileLoadThread::resultLoaded:
+        showMessage(tr("Load Config success! %1 features loaded.").arg(loaded), QMessageBox::Information, report);
+        break;
+    case CParamFileLoadThread::resultPartial:
+        showMessage(tr("%1 of %2 features were loaded. The report lists the others and why.").arg(loaded).arg(total),
+                    QMessageBox::Warning, report);
+        break;
+    default:
+        showMessage(tr("Load Config failed. %1").arg(message), QMessageBox::Critical, report);
+        break;
+    }
+    emit loadDone(result, loaded, total);
+}
+
+void CParamFileController::onSaveFinished(bool ok, QString message, int count)
+{
+    const QString path = m_save ? m_save->path() : QString();
+    if (m_save)
+    {
+        m_save->wait();
+        m_save->deleteLater();
+        m_save = nullptr;
+    }
+    closeWait();
+    if (ok)
+    {
+        if (const CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(m_busyKey))
+            device->setCurFile(path);
+        showMessage(tr("Save Config success! %1 values written to %2.").arg(count).arg(QDir::toNativeSeparators(path)),
+                    QMessageBox::Information);
+    }
+    else
+    {
+        showMessage(tr("Save Config failed. %1").arg(message), QMessageBox::Critical);
+    }
+    emit saveDone(ok, count);
+}
+
+void CParamFileController::OnUpdateReceive(CTavMessagePtr msg)
+{
+    if (!msg || !msg->device || msg->device->getDeviceKey() != m_busyKey)
+        return;
+    // The worker also sees the device's flags; stopping here saves it a write.
+    if (msg->type == MSG_DEVICE_DISCONNECTING || msg->type == MSG_DEVICE_OFFLINE ||
+        msg->type == MSG_DEVICE_DISCONNECTED)
+    {
+        if (m_save)
+            m_save->stop();
+        // A load waiting for its connection must not see the disconnect of a
+        // previous session as its own; a load under way stops.
+        if (m_load && msg->device->isConnected() == false && !msg->device->isConnecting())
+            m_load->stop();
+    }
+}

@@ -1,0 +1,81 @@
+#pragma once
+// "Open Config" and "Save Config" of the device list: asks for the file,
+// runs the parameter-file worker behind a wait dialog with its progress,
+// and tells the user how it went (a load offers its report). One file at a
+// time. The main window connects the device list's signals to
+// onOpenConfig/onSaveConfig; openConfig/saveConfig take the device key.
+#include <QMessageBox>
+#include <QObject>
+#include <QPointer>
+#include <functional>
+
+#include "CObserver.h"
+#include "CTavMessage.h"
+#include "CParamFileLoadThread.h"
+
+class QWidget;
+class CParamFileSaveThread;
+class CWaitDlg;
+
+class CParamFileController : public QObject, public CObserver
+{
+    Q_OBJECT
+public:
+    // save: true for a file to write. Returns the chosen path, empty when cancelled.
+    using FileChooser = std::function<QString(bool save, const QString& suggestion)>;
+    // path: a file the message offers to open (the load report), or empty.
+    using MessageHandler = std::function<void(const QString& text, QMessageBox::Icon icon, const QString& path)>;
+
+    explicit CParamFileController(QWidget* dialogParent, QObject* parent = nullptr);
+    ~CParamFileController() override;
+
+    void Update(CTavMessagePtr msg) override;
+
+    void setFileChooser(const FileChooser& chooser) { m_chooser = chooser; }
+    void setMessageHandler(const MessageHandler& handler) { m_messageHandler = handler; }
+    void setEnvironment(const SParamFileEnv& env) { m_env = env; }
+    void setReportPath(const QString& path) { m_reportPath = path; }
+
+    bool isBusy() const { return m_load || m_save; }
+    CWaitDlg* waitDialog() const { return m_wait; }
+
+    // Without the chooser: the file given.
+    bool loadFile(const QString& key, const QString& path);
+    bool saveFile(const QString& key, const QString& path);
+
+public slots:
+    void openConfig(const QString& key);
+    void saveConfig(const QString& key);
+    void onOpenConfig(CTavDevicePtr device);
+    void onSaveConfig(CTavDevicePtr device);
+
+signals:
+    void update_receive(CTavMessagePtr msg);
+    void loadDone(int result, int loaded, int total);
+    void saveDone(bool ok, int count);
+
+private slots:
+    void OnUpdateReceive(CTavMessagePtr msg);
+    void onNeedConnect(QString key);
+    void onProgress(int done, int total);
+    void onLoadFinished(int result, int loaded, int total, QString message);
+    void onSaveFinished(bool ok, QString message, int count);
+
+private:
+    bool refuseWhileBusy();
+    void showWait(const QString& title, const QString& text);
+    void closeWait();
+    void showMessage(const QString& text, QMessageBox::Icon icon, const QString& path = QString());
+    QString chooseFile(bool save, const QString& key);
+
+    QPointer<QWidget> m_dialogParent;
+    FileChooser m_chooser;
+    MessageHandler m_messageHandler;
+    SParamFileEnv m_env;
+    QString m_reportPath;
+    CParamFileLoadThread* m_load = nullptr;
+    CParamFileSaveThread* m_save = nullptr;
+    QString m_busyKey;
+    QString m_waitText;
+    CWaitDlg* m_wait = nullptr;
+};

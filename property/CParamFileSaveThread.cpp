@@ -1,0 +1,153 @@
+#include "CParamFileSaveThread.h"
+
+#include <QDateTime>
+#include <QMap>
+
+#include "CDeviceParamFile.h"
+#include "CParamFileNodeMap.h"
+#include "CTavDevice.h"
+#include "Tavlog4cpp/TavLogMacros.h"
+
+using namespace Vorlen::GenICam;
+
+namespace {
+// Saving stops expanding selector combinations beyond this many per group.
+const int kMaxCombinations = 256;
+
+QList<QList<QPair<QString, QString>>> combinations(const QStringList& selectors, const CParamFileNodeMap& map)
+{
+    QList<QList<QPair<QString, QString>>> out = {{}};
+    for (const QString& s : selectors)
+    {
+        QList<QList<QPair<QString, QString>>> next;
+        for (const QString& v : map.selectorValues(s))
+            for (const auto& partial : out)
+            {
+                if (next.size() >= kMaxCombinations)
+                    break;
+                auto c = partial;
+                c.append({s, v});
+                next.append(c);
+            }
+        out = next;
+    }
+    return out;
+}
+}
+
+CParamFileSaveThread::CParamFileSaveThread(CTavDevicePtr device, const QString& path, QObject* parent)
+    : CParamFileThread(path, parent), m_device(device)
+{
+}
+
+void CParamFileSaveThread::run()
+{
+    LOG_DEBUG("CParamFileSaveThread run begin");
+    const auto finish = [this](bool ok, const QString& message, int count) {
+        emit saveFinished(ok, message, count);
+        LOG_DEBUG("CParamFileSaveThread run end");
+    };
+    if (!keepGoing(m_device))
+        return finish(false, tr("The camera is not connected."), 0);
+    const auto camera = m_device->getDevice();
+    CParamFileNodeMap map(camera);
+    if (!map.build([this]() { return keepGoing(m_device); }))
+        return finish(false, keepGoing(m_device) ? tr("The camera's features could not be read.")
+                                                 : tr("The camera was disconnected."), 0);
+
+    CDeviceParamFile file;
+    file.vendor = QString::fromUtf8(camera->getVendorName().c_str());
+    if (!map.readValue(QStringLiteral("DeviceModelName"), file.model))
+        file.model = QString::fromUtf8(camera->getName().c_str());
+    file.serial = QString::fromUtf8(camera->getSerialNumber().c_str());
+    file.saved = QDateTime::currentDateTime().toString(Qt::ISODate);
+
+    // Features of the same selectors are read together under each combination.
+    QList<const CParamFileNodeMap::SNode*> plain;
+    QMap<QString, QList<const CParamFileNodeMap::SNode*>> groups;
+    QStringList groupOrder;
+    for (const auto& n : map.nodes())
+    {
+        if (!CParamFileNodeMap::isValueType(n.type) || CParamFileNodeMap::isExcluded(n.name))
+            continue;
+        QStringList selectors;
+        for (const QString& s : n.selectors)
+            if (map.find(s))
+                selectors.append(s);
+        if (selectors.isEmpty())
+        {
+            plain.append(&n);
+            continue;
+        }
+        const QString key = selectors.join(QLatin1Char(','));
+        if (!groups.contains(key))
+            groupOrder.append(key);
+        groups[key].append(&n);
+    }
+    const int total = plain.size() + [&]() {
+        int n = 0;
+        for (const auto& g : groups)
+            n += g.size();
+        return n;
+    }();
+    int done = 0;
+
+    for (const auto* n : plain)
+    {
+        if (!keepGoing(m_device))
+            return finish(false, tr("The camera was disconnected."), 0);
+        QString value;
+        if (map.isReadWrite(n->name) && map.readValue(n->name, value))
+            file.entries.append({n->name, {}, value, 0});
+        emit progress(++done, total);
+    }
+    for (const QString& key : groupOrder)
+    {
+        const QStringList selectors = key.split(QLatin1Char(','));
+        const auto& members = groups.value(key);
+        QList<QPair<QString, QString>> original;
+        for (const QString& s : selectors)
+        {
+            QString v;
+            if (map.readValue(s, v))
+                original.append({s, v});
+        }
+        for (const auto& combo : combinations(selectors, map))
+        {
+            if (!keepGoing(m_device))
+                return finish(false, tr("The camera was disconnected."), 0);
+            bool selected = true;
+            for (const auto& sv : combo)
+            {
+                QString error;
+                QString current;
+                selected = selected && ((map.readValue(sv.first, current) && current == sv.second) ||
+                                        map.writeValue(sv.first, sv.second, error));
+            }
+            if (!selected)
+                continue;
+            for (const auto* n : members)
+            {
+                QString value;
+                if (map.isReadWrite(n->name) && map.readValue(n->name, value))
+                    file.entries.append({n->name, combo, value, 0});
+            }
+        }
+        for (const auto& sv : original)
+        {
+            QString error;
+            map.writeValue(sv.first, sv.second, error);
+        }
+        done += members.size();
+        emit progress(done, total);
+    }
+
+    QString error;
+    if (!file.save(m_path, error))
+    {
+        LOG_ERROR("write parameter file failed. [%s] %s", m_path.toLocal8Bit().constData(),
+                  error.toLocal8Bit().constData());
+        return finish(false, tr("The file could not be written: %1").arg(error), 0);
+    }
+    finish(true, QString(), file.entries.size());
+}

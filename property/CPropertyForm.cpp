@@ -1,0 +1,373 @@
+#include "CPropertyForm.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "CBusyIndicator.h"
+#include "CDeviceManager.h"
+#include "CParamFileController.h"
+#include "CPropertyFeaturesForm.h"
+#include "CPropertyGPIOForm.h"
+#include "CPropertyImageFormatForm.h"
+#include "CPropertySettingsForm.h"
+#include "CSaveFeaturesDlg.h"
+#include "CTavDevice.h"
+#include "FeatureTransTables.h"
+#include "Tavlog4cpp/TavLogMacros.h"
+
+namespace {
+QToolButton* makeButton(QWidget* parent, const char* name, const char* icon, bool checkable)
+{
+    auto* b = new QToolButton(parent);
+    b->setObjectName(QLatin1String(name));
+    b->setIcon(QIcon(QLatin1String(icon)));
+    b->setIconSize(QSize(20, 20));
+    b->setCheckable(checkable);
+    b->setAutoRaise(true);
+    b->setToolButtonStyle(checkable ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    return b;
+}
+}
+
+CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("CPropertyForm"));
+    m_btnFeatures = makeButton(this, "btnfeatures", ":/Pic/Icon_Property_Tab_Features.png", true);
+    m_btnSettings = makeButton(this, "btnSettings", ":/Pic/Icon_Property_Tab_Settings.png", true);
+    m_btnImageFormat = makeButton(this, "btnImageFormat", ":/Pic/Icon_Property_Tab_ImageFormat.png", true);
+    m_btnGPIO = makeButton(this, "btnGPIO", ":/Pic/Icon_Property_Tab_UserSet.png", true);
+    m_btnExpand = makeButton(this, "btnExpandProperty", ":/Pic/Icon_Property_Expand.png", false);
+    m_btnCollapse = makeButton(this, "btnCollpaseProperty", ":/Pic/Icon_Property_Collapse.png", false);
+
+    auto* tabs = new QHBoxLayout();
+    tabs->setContentsMargins(4, 4, 4, 0);
+    tabs->setSpacing(2);
+    for (QToolButton* b : {m_btnFeatures, m_btnSettings, m_btnImageFormat, m_btnGPIO})
+        tabs->addWidget(b);
+    tabs->addStretch(1);
+    tabs->addWidget(m_btnExpand);
+    tabs->addWidget(m_btnCollapse);
+
+    m_stack = new QStackedWidget(this);
+    m_stack->setObjectName(QStringLiteral("stackedWidget"));
+    m_emptyPage = new QWidget(m_stack);
+    m_emptyPage->setObjectName(QStringLiteral("emptyPage"));
+    m_emptyLabel = new QLabel(m_emptyPage);
+    m_emptyLabel->setAlignment(Qt::AlignCenter);
+    m_emptyLabel->setWordWrap(true);
+    auto* emptyLayout = new QVBoxLayout(m_emptyPage);
+    emptyLayout->addWidget(m_emptyLabel);
+    m_stack->addWidget(m_emptyPage);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addLayout(tabs);
+    layout->addWidget(m_stack, 1);
+
+    // Laid over the stack, outside the layout.
+    m_waiting = new CBusyIndicator(this);
+    m_waiting->setObjectName(QStringLiteral("waitingGif"));
+    m_waiting->hide();
+
+    connect(m_btnFeatures, &QToolButton::clicked, this, &CPropertyForm::on_btnfeatures_clicked);
+    connect(m_btnSettings, &QToolButton::clicked, this, &CPropertyForm::on_btnSettings_clicked);
+    connect(m_btnImageFormat, &QToolButton::clicked, this, &CPropertyForm::on_btnImageFormat_clicked);
+    connect(m_btnGPIO, &QToolButton::clicked, this, &CPropertyForm::on_btnGPIO_clicked);
+    connect(m_btnExpand, &QToolButton::clicked, this, &CPropertyForm::on_btnExpandProperty_clicked);
+    connect(m_btnCollapse, &QToolButton::clicked, this, &CPropertyForm::onBtnCollpasePropertyClicked);
+
+    m_paramFiles = new CParamFileController(this, this);
+
+    connect(this, &CPropertyForm::update_receive, this, &CPropertyForm::OnUpdateReceive, Qt::QueuedConnection);
+    CDeviceManager::getInstance()->attach(this);
+    initParamTransMap();
+    retranslateUi();
+    setTab(tabFeatures);
+}
+
+CPropertyForm::~CPropertyForm()
+{
+    CDeviceManager::getInstance()->detach(this);
+    delete m_saveDlg;
+    const QList<CTavDevicePtr> devices = m_features.keys();
+    for (const CTavDevicePtr& d : devices)
+        removeDevicePages(d);
+}
+
+void CPropertyForm::initParamTransMap()
+{
+    fillParamTransTables();
+}
+
+void CPropertyForm::clearParamTransMap()
+{
+    clearParamTransTables();
+}
+
+void CPropertyForm::Update(CTavMessagePtr msg)
+{
+    emit update_receive(msg);
+}
+
+void CPropertyForm::retranslateUi()
+{
+    m_btnFeatures->setText(tr("Features"));
+    m_btnSettings->setText(tr("Settings"));
+    m_btnImageFormat->setText(tr("Image Format"));
+    m_btnGPIO->setText(tr("GPIO"));
+    m_btnExpand->setToolTip(tr("Expand all"));
+    m_btnCollapse->setToolTip(tr("Collapse all"));
+    m_emptyLabel->setText(tr("Connect a camera to see its features."));
+}
+
+void CPropertyForm::changeEvent(QEvent* event)
+{
+    // The pages below receive the event after this panel, so the tables are
+    // refilled before they re-label their rows.
+    if (event->type() == QEvent::LanguageChange)
+    {
+        clearParamTransMap();
+        initParamTransMap();
+        retranslateUi();
+    }
+    QWidget::changeEvent(event);
+}
+
+void CPropertyForm::onLanChanged(int language)
+{
+    clearParamTransMap();
+    initParamTransMap();
+    retranslateUi();
+    for (CPropertyFeaturesForm* page : qAsConst(m_features))
+        page->retranslateUi();
+    emit signalLanChanged(language);
+}
+
+void CPropertyForm::addDevicePages(const CTavDevicePtr& device)
+{
+    if (!device || m_features.contains(device))
+        return;
+    auto* features = new CPropertyFeaturesForm(device, m_stack);
+    auto* settings = new CPropertySettingsForm(device, m_stack);
+    auto* imageFormat = new CPropertyImageFormatForm(device, m_stack);
+    auto* gpio = new CPropertyGPIOForm(m_stack);
+    for (QWidget* page : {static_cast<QWidget*>(features), static_cast<QWidget*>(settings),
+                          static_cast<QWidget*>(imageFormat), static_cast<QWidget*>(gpio)})
+        m_stack->addWidget(page);
+    m_features.insert(device, features);
+    m_settings.insert(device, settings);
+    m_imageFormat.insert(device, imageFormat);
+    m_gpio.insert(device, gpio);
+    connect(features, &CPropertyFeaturesForm::showGenParamFinish, this, &CPropertyForm::onShowGenParamFinish);
+    connect(features, &CPropertyFeaturesForm::propertyLoadAborted, this, &CPropertyForm::refreshShow);
+    connect(features, &CPropertyFeaturesForm::signalSaveFeatures, this, &CPropertyForm::onSaveFeatures);
+    connect(this, &CPropertyForm::signalLanChanged, gpio, [gpio](int) { gpio->retranslateUi(); });
+    connect(this, &CPropertyForm::signalLanChanged, settings, [settings](int) { settings->retranslateUi(); });
+    connect(this, &CPropertyForm::signalLanChanged, imageFormat,
+            [imageFormat](int) { imageFormat->retranslateUi(); });
+}
+
+void CPropertyForm::removeDevicePages(const CTavDevicePtr& device)
+{
+    if (!m_features.contains(device))
+        return;
+    CPropertyImageFormatForm* imageFormat = m_imageFormat.take(device);
+    if (imageFormat)
+        imageFormat->cancelROI();
+    const QList<QWidget*> pages = {m_features.take(device), m_settings.take(device), imageFormat, m_gpio.take(device)};
+    for (QWidget* page : pages)
+    {
+        if (!page)
+            continue;
+        m_stack->removeWidget(page);
+        page->hide();
+        page->deleteLater();
+    }
+}
+
+void CPropertyForm::OnUpdateReceive(CTavMessagePtr msg)
+{
+    if (!msg || !msg->device)
+        return;
+    const CTavDevicePtr device = msg->device;
+    switch (msg->type)
+    {
+    case MSG_DEVICE_CONNECTED:
+        addDevicePages(device);
+        refreshShow();
+        break;
+    case MSG_DEVICE_CONNECT_FAILED:
+    case MSG_DEVICE_DISCONNECTED:
+    case MSG_DEVICE_OFFLINE:
+        removeDevicePages(device);
+        refreshShow();
+        break;
+    case MSG_DEVICE_DISCONNECTING:
+        if (CPropertyImageFormatForm* page = m_imageFormat.value(device))
+            page->cancelROI();
+        refreshShow();
+        break;
+    case MSG_STREAM_OPENED:
+    case MSG_STREAM_CLOSED:
+        if (CPropertyFeaturesForm* page = m_features.value(device))
+            page->updateGrabStatus();
+        refreshShow();
+        break;
+    case MSG_DEVICE_CONNECTING:
+        refreshShow();
+        break;
+    default:
+        break;
+    }
+}
+
+void CPropertyForm::setCurDevice(CTavDevicePtr device)
+{
+    if (m_curDevice && m_curDevice != device)
+        cancelROI();
+    m_curDevice = device;
+    refreshShow();
+}
+
+void CPropertyForm::refreshShow()
+{
+    QWidget* page = nullptr;
+    if (m_curDevice)
+    {
+        switch (m_tab)
+        {
+        case tabFeatures:
+            page = m_features.value(m_curDevice);
+            break;
+        case tabSettings:
+            page = m_settings.value(m_curDevice);
+            break;
+        case tabImageFormat:
+            page = m_imageFormat.value(m_curDevice);
+            break;
+        default:
+            page = m_gpio.value(m_curDevice);
+            break;
+        }
+    }
+    m_stack->setCurrentWidget(page ? page : m_emptyPage);
+    const CPropertyFeaturesForm* features = m_curDevice ? m_features.value(m_curDevice) : nullptr;
+    const bool waiting = m_curDevice && (m_curDevice->isConnecting() || (features && features->isLoadingGenParams()));
+    showWaitingGif(waiting);
+    const bool treeShown = m_tab == tabFeatures && features;
+    m_btnExpand->setEnabled(treeShown);
+    m_btnCollapse->setEnabled(treeShown);
+}
+
+void CPropertyForm::showWaitingGif(bool show)
+{
+    if (!show)
+    {
+        m_waiting->hide();
+        return;
+    }
+    const QSize size = m_waiting->sizeHint();
+    const QRect area = m_stack->geometry();
+    m_waiting->setGeometry(QRect(area.center() - QPoint(size.width() / 2, size.height() / 2), size));
+    m_waiting->raise();
+    m_waiting->show();
+}
+
+bool CPropertyForm::isWaitingShown() const
+{
+    return !m_waiting->isHidden();
+}
+
+void CPropertyForm::cancelROI()
+{
+    if (m_curDevice)
+        if (CPropertyImageFormatForm* page = m_imageFormat.value(m_curDevice))
+            page->cancelROI();
+}
+
+void CPropertyForm::setTab(int tab)
+{
+    if (m_tab == tabImageFormat && tab != tabImageFormat)
+        cancelROI();
+    m_tab = tab;
+    m_btnFeatures->setChecked(tab == tabFeatures);
+    m_btnSettings->setChecked(tab == tabSettings);
+    m_btnImageFormat->setChecked(tab == tabImageFormat);
+    m_btnGPIO->setChecked(tab == tabGPIO);
+    refreshShow();
+}
+
+void CPropertyForm::on_btnfeatures_clicked()
+{
+    setTab(tabFeatures);
+}
+void CPropertyForm::on_btnSettings_clicked()
+{
+    setTab(tabSettings);
+}
+void CPropertyForm::on_btnImageFormat_clicked()
+{
+    setTab(tabImageFormat);
+}
+void CPropertyForm::on_btnGPIO_clicked()
+{
+    setTab(tabGPIO);
+}
+
+void CPropertyForm::on_btnExpandProperty_clicked()
+{
+    if (CPropertyFeaturesForm* page = m_curDevice ? m_features.value(m_curDevice) : nullptr)
+        page->expandAll();
+}
+
+void CPropertyForm::onBtnCollpasePropertyClicked()
+{
+    if (CPropertyFeaturesForm* page = m_curDevice ? m_features.value(m_curDevice) : nullptr)
+        page->collapseAll();
+}
+
+void CPropertyForm::onShowGenParamFinish(CTavDevicePtr device)
+{
+    if (device == m_curDevice)
+        showWaitingGif(false);
+}
+
+void CPropertyForm::onSaveFeatures(CTavDevicePtr device)
+{
+    if (!device)
+        return;
+    delete m_saveDlg;
+    QWidget* parent = QApplication::activeWindow() ? QApplication::activeWindow() : window();
+    m_saveDlg = new CSaveFeaturesDlg(device, parent);
+    m_saveDlg->setAttribute(Qt::WA_DeleteOnClose);
+    m_saveDlg->open();
+}
+
+void CPropertyForm::onOpenConfig(CTavDevicePtr device)
+{
+    m_paramFiles->onOpenConfig(device);
+}
+
+void CPropertyForm::onSaveConfig(CTavDevicePtr device)
+{
+    m_paramFiles->onSaveConfig(device);
+}
+
+void CPropertyForm::enterEvent(QEvent* event)
+{
+    QWidget::enterEvent(event);
+    refreshShow();
+}
+
+void CPropertyForm::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (isWaitingShown())
+        showWaitingGif(true);
+}

@@ -1,0 +1,300 @@
+#include "CSaveFeaturesDlg.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "CConfiguration.h"
+#include "CDeviceManager.h"
+#include "CDialogTitleBar.h"
+#include "CTavDevice.h"
+#include "Tavlog4cpp/TavLogMacros.h"
+#include "Utils.h"
+
+namespace {
+const QString kSelector = QStringLiteral("UserSetSelector");
+const QString kDefault = QStringLiteral("UserSetDefault");
+const QString kLoad = QStringLiteral("UserSetLoad");
+const QString kSave = QStringLiteral("UserSetSave");
+}
+
+CSaveFeaturesDlg::CSaveFeaturesDlg(CTavDevicePtr device, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_device(device)
+{
+    setObjectName(QStringLiteral("CSaveFeaturesDlg"));
+    setAttribute(Qt::WA_StyledBackground, true);
+    m_worker = new CFeatureControlWorker(device ? device->getDevice()
+                                                : Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera>(),
+                                         this);
+    connect(m_worker, &CFeatureControlWorker::stateRead, this, &CSaveFeaturesDlg::onStateRead, Qt::QueuedConnection);
+    connect(m_worker, &CFeatureControlWorker::writeDone, this, &CSaveFeaturesDlg::onWriteDone, Qt::QueuedConnection);
+    connect(m_worker, &CFeatureControlWorker::executeDone, this, &CSaveFeaturesDlg::onExecuteDone,
+            Qt::QueuedConnection);
+    m_worker->start(QThread::InheritPriority);
+    initUI();
+    connect(this, &CSaveFeaturesDlg::update_receive, this, &CSaveFeaturesDlg::OnUpdateReceive, Qt::QueuedConnection);
+    CDeviceManager::getInstance()->attach(this);
+    readAll();
+}
+
+CSaveFeaturesDlg::~CSaveFeaturesDlg()
+{
+    CDeviceManager::getInstance()->detach(this);
+    m_worker->stop();
+    m_worker->wait();
+}
+
+void CSaveFeaturesDlg::initUI()
+{
+    m_titleBar = new CDialogTitleBar(this);
+    m_lblSelector = new QLabel(this);
+    m_lblLoad = new QLabel(this);
+    m_lblSave = new QLabel(this);
+    m_lblDefault = new QLabel(this);
+    m_cbUserSetSelector = new QComboBox(this);
+    m_cbUserSetSelector->setObjectName(QStringLiteral("cbUserSetSelector"));
+    m_cbUserSetDefault = new QComboBox(this);
+    m_cbUserSetDefault->setObjectName(QStringLiteral("cbUserSetDefault"));
+    m_btnUserSetLoad = new QPushButton(this);
+    m_btnUserSetLoad->setObjectName(QStringLiteral("btnUserSetLoad"));
+    m_btnUserSetSave = new QPushButton(this);
+    m_btnUserSetSave->setObjectName(QStringLiteral("btnUserSetSave"));
+    m_btnClose = new QPushButton(this);
+    m_btnClose->setObjectName(QStringLiteral("btnClose"));
+    for (QComboBox* c : {m_cbUserSetSelector, m_cbUserSetDefault})
+    {
+        c->setMinimumWidth(140);
+        c->setEnabled(false);
+    }
+    for (QPushButton* b : {m_btnUserSetLoad, m_btnUserSetSave})
+        b->setEnabled(false);
+
+    auto* grid = new QGridLayout();
+    grid->setContentsMargins(18, 14, 18, 8);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(8);
+    grid->addWidget(m_lblSelector, 0, 0);
+    grid->addWidget(m_cbUserSetSelector, 0, 1);
+    grid->addWidget(m_lblLoad, 1, 0);
+    grid->addWidget(m_btnUserSetLoad, 1, 1);
+    grid->addWidget(m_lblSave, 2, 0);
+    grid->addWidget(m_btnUserSetSave, 2, 1);
+    grid->addWidget(m_lblDefault, 3, 0);
+    grid->addWidget(m_cbUserSetDefault, 3, 1);
+    auto* bottom = new QHBoxLayout();
+    bottom->setContentsMargins(18, 4, 18, 14);
+    bottom->addStretch(1);
+    bottom->addWidget(m_btnClose);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(0);
+    layout->addWidget(m_titleBar);
+    layout->addLayout(grid);
+    layout->addLayout(bottom);
+
+    // User choices only (activated); the controls are filled with signals blocked.
+    connect(m_cbUserSetSelector, QOverload<int>::of(&QComboBox::activated), this,
+            &CSaveFeaturesDlg::on_cbUserSetSelector_currentIndexChanged);
+    connect(m_cbUserSetDefault, QOverload<int>::of(&QComboBox::activated), this,
+            &CSaveFeaturesDlg::on_cbUserSetDefault_currentIndexChanged);
+    connect(m_btnUserSetLoad, &QPushButton::clicked, this, &CSaveFeaturesDlg::on_btnUserSetLoad_clicked);
+    connect(m_btnUserSetSave, &QPushButton::clicked, this, &CSaveFeaturesDlg::on_btnUserSetSave_clicked);
+    connect(m_btnClose, &QPushButton::clicked, this, &QDialog::accept);
+    retranslateUi();
+}
+
+void CSaveFeaturesDlg::retranslateUi()
+{
+    setWindowTitle(tr("Save Features"));
+    m_titleBar->setTitle(tr("Save Features"));
+    m_lblSelector->setText(tr("User Set Selector"));
+    m_lblLoad->setText(tr("User Set Load"));
+    m_lblSave->setText(tr("User Set Save"));
+    m_lblDefault->setText(tr("User Set Default"));
+    m_btnUserSetLoad->setText(tr("Execute"));
+    m_btnUserSetSave->setText(tr("Execute"));
+    m_btnClose->setText(tr("Close"));
+    if (m_selectorState.valid)
+        showCombo(m_cbUserSetSelector, m_lblSelector, m_selectorState);
+    if (m_defaultState.valid)
+        showCombo(m_cbUserSetDefault, m_lblDefault, m_defaultState);
+}
+
+void CSaveFeaturesDlg::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+    QDialog::changeEvent(event);
+}
+
+QString CSaveFeaturesDlg::transParam(const QString& entry)
+{
+    if (entry == QLatin1String("Default"))
+        return tr("Default");
+    if (entry == QLatin1String("UserSet1"))
+        return tr("UserSet1");
+    if (entry == QLatin1String("UserSet2"))
+        return tr("UserSet2");
+    return entry;
+}
+
+QString CSaveFeaturesDlg::retransParam(const QString& text)
+{
+    for (const char* entry : {"Default", "UserSet1", "UserSet2"})
+        if (text == transParam(QLatin1String(entry)))
+            return QLatin1String(entry);
+    return text;
+}
+
+void CSaveFeaturesDlg::readAll()
+{
+    m_worker->requestRead({kSelector, kLoad, kSave, kDefault});
+}
+
+void CSaveFeaturesDlg::initParam(QString name)
+{
+    m_worker->requestRead({name});
+}
+
+bool CSaveFeaturesDlg::shownAtLevel(const SFeatureState& state) const
+{
+    return isVisibilityShown(unsigned(state.visibility), unsigned(CConfiguration::getInstance()->deviceCtrlVisibility));
+}
+
+void CSaveFeaturesDlg::showCombo(QComboBox* combo, QLabel* label, const SFeatureState& state)
+{
+    const QSignalBlocker block(combo);
+    combo->clear();
+    const bool visible = !state.valid || shownAtLevel(state);
+    combo->setVisible(visible);
+    label->setVisible(visible);
+    if (!state.valid || !state.readable)
+    {
+        combo->setEnabled(false);
+        return;
+    }
+    QStringList entries = state.symbols;
+    if (!state.symbol.isEmpty() && !entries.contains(state.symbol))
+        entries.append(state.symbol);
+    for (const QString& entry : entries)
+        combo->addItem(transParam(entry), entry);
+    combo->setCurrentIndex(combo->findData(state.symbol));
+    combo->setEnabled(state.writeable);
+}
+
+void CSaveFeaturesDlg::showButton(QPushButton* button, QLabel* label, const SFeatureState& state)
+{
+    const bool visible = !state.valid || shownAtLevel(state);
+    button->setVisible(visible);
+    label->setVisible(visible);
+    button->setEnabled(state.valid && state.available && state.writeable);
+}
+
+void CSaveFeaturesDlg::onStateRead(SFeatureState state)
+{
+    if (state.name == kSelector)
+    {
+        m_selectorState = state;
+        showCombo(m_cbUserSetSelector, m_lblSelector, state);
+    }
+    else if (state.name == kDefault)
+    {
+        m_defaultState = state;
+        showCombo(m_cbUserSetDefault, m_lblDefault, state);
+    }
+    else if (state.name == kLoad)
+    {
+        showButton(m_btnUserSetLoad, m_lblLoad, state);
+    }
+    else if (state.name == kSave)
+    {
+        showButton(m_btnUserSetSave, m_lblSave, state);
+    }
+    emit paramShown(state.name);
+}
+
+void CSaveFeaturesDlg::on_cbUserSetSelector_currentIndexChanged(int index)
+{
+    if (index < 0)
+        return;
+    m_worker->requestWrite(kSelector, retransParam(m_cbUserSetSelector->itemText(index)));
+}
+
+void CSaveFeaturesDlg::on_cbUserSetDefault_currentIndexChanged(int index)
+{
+    if (index < 0)
+        return;
+    m_worker->requestWrite(kDefault, retransParam(m_cbUserSetDefault->itemText(index)));
+}
+
+void CSaveFeaturesDlg::on_btnUserSetLoad_clicked()
+{
+    m_worker->requestExecute(kLoad);
+}
+
+void CSaveFeaturesDlg::on_btnUserSetSave_clicked()
+{
+    m_worker->requestExecute(kSave);
+}
+
+void CSaveFeaturesDlg::onWriteDone(QString name, bool ok, QString, SFeatureState state)
+{
+    onStateRead(state);
+    if (!ok)
+    {
+        const QString value = (name == kSelector ? m_cbUserSetSelector : m_cbUserSetDefault)->currentText();
+        if (name == kSelector)
+            showMessage(tr("set UserSetSelector property value %1 fail, please check value.").arg(value));
+        else
+            showMessage(tr("set UserSetDefault property value %1 fail, please check value.").arg(value));
+    }
+    // The selector decides whether the commands are available.
+    readAll();
+    emit actionFinished(name, ok);
+}
+
+void CSaveFeaturesDlg::onExecuteDone(QString name, bool ok, QString)
+{
+    if (!ok)
+        showMessage(name == kLoad ? tr("execute UserSetLoad fail.") : tr("execute UserSetSave fail."));
+    readAll();
+    emit actionFinished(name, ok);
+}
+
+void CSaveFeaturesDlg::Update(CTavMessagePtr msg)
+{
+    emit update_receive(msg);
+}
+
+void CSaveFeaturesDlg::OnUpdateReceive(CTavMessagePtr msg)
+{
+    if (!msg || !msg->device || msg->device.get() != m_device.get())
+        return;
+    if (msg->type == MSG_PARAM_UPDATE)
+    {
+        for (const auto& n : msg->paramUpdateArg.paramNames)
+        {
+            const QString name = QString::fromUtf8(n.c_str());
+            if (name == kSelector || name == kDefault || name == kLoad || name == kSave)
+                initParam(name);
+        }
+    }
+    else if (msg->type == MSG_DEVICE_DISCONNECTING || msg->type == MSG_DEVICE_OFFLINE ||
+             msg->type == MSG_DEVICE_DISCONNECTED)
+    {
+        // Nothing to manage without the camera.
+        reject();
+    }
+}
+
+void CSaveFeaturesDlg::showMessage(const QString& text)
+{
+    if (m_messageHandler)
+        m_messageHandler(text);
+    else
+        messageBox(text, this, QMessageBox::Ok, QMessageBox::Critical);
+}

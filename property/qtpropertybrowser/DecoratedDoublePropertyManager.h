@@ -1,0 +1,61 @@
+#pragma once
+// Double properties with a prefix and a suffix around their value text
+// (a float feature's unit), and the spin box factory that shows them.
+#include "qteditorfactory.h"
+
+class DecoratedDoublePropertyManager : public QtDoublePropertyManager
+{
+    Q_OBJECT
+public:
+    explicit DecoratedDoublePropertyManager(QObject* parent = nullptr);
+    ~DecoratedDoublePropertyManager() override;
+
+    QString prefix(const QtProperty* property) const;
+    QString suffix(const QtProperty* property) const;
+
+public slots:
+    void setPrefix(QtProperty* property, const QString& prefix);
+    void setSuffix(QtProperty* property, const QString& suffix);
+
+signals:
+    void prefixChanged(QtProperty* property, const QString& prefix);
+    void suffixChanged(QtProperty* property, const QString& suffix);
+
+protected:
+    QString valueText(const QtProperty* property) const override;
+    void initializeProperty(QtProperty* property) override;
+    void uninitializeProperty(QtProperty* property) override;
+
+private:
+    struct Data
+    {
+        QString prefix;
+        QString suffix;
+    };
+    QHash<const QtProperty*, Data> m_values;
+};
+
+class DecoratedDoubleSpinBoxFactory : public QtAbstractEditorFactory<DecoratedDoublePropertyManager>
+{
+    Q_OBJECT
+public:
+    explicit DecoratedDoubleSpinBoxFactory(QObject* parent = nullptr);
+    ~DecoratedDoubleSpinBoxFactory() override;
+
+protected:
+    void connectPropertyManager(DecoratedDoublePropertyManager* manager) override;
+    QWidget* createEditor(DecoratedDoublePropertyManager* manager, QtProperty* property, QWidget* parent) override;
+    void disconnectPropertyManager(DecoratedDoublePropertyManager* manager) override;
+
+private slots:
+    void slotPrefixChanged(QtProperty* property, const QString& prefix);
+    void slotSuffixChanged(QtProperty* property, const QString& suffix);
+    void slotEditorDestroyed(QObject* object);
+
+private:
+    // The plain spin box factory builds and feeds the editors; this one adds
+    // the prefix and suffix.
+    QtDoubleSpinBoxFactory* m_originalFactory;
+    QMap<QtProperty*, QList<QDoubleSpinBox*>> m_createdEditors;
+    QMap<QDoubleSpinBox*, QtProperty*> m_editorToProperty;
+};
