@@ -2,6 +2,7 @@
 #include <QApplication>
 
 #include "CConfiguration.h"
+#include "CDeviceManager.h"
 #include "CTavMessage.h"
 #include "MainWindow.h"
 #include "StartupUtils.h"
@@ -38,5 +39,10 @@ int main(int argc, char* argv[])
     window->show();
     const int result = app.exec();
     delete window;
+    // The long-lived objects go while the application is still whole, in one
+    // order: devices (closed, bounded wait), disconnect-all and discovery
+    // workers, then the configuration.
+    CDeviceManager::shutdown();
+    CConfiguration::shutdownInstance();
     return result;
 }

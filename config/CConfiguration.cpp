@@ -6,12 +6,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMetaType>
+#include <QMutex>
+#include <QSaveFile>
 #include <QSettings>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
 #include <functional>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "ConfigKeys.h"
@@ -166,10 +169,40 @@ QString homeDirectory()
 
 } // namespace
 
+namespace {
+QMutex g_instanceMutex;
+CConfiguration* g_instance = nullptr;
+bool g_shutDown = false;
+}
+
 CConfiguration* CConfiguration::getInstance()
 {
-    static CConfiguration instance;
-    return &instance;
+    QMutexLocker locker(&g_instanceMutex);
+    if (!g_instance && !g_shutDown)
+        g_instance = new CConfiguration();
+    else if (!g_instance)
+        TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "configuration asked for after shutdown.");
+    return g_instance;
+}
+
+void CConfiguration::destroyInstance()
+{
+    CConfiguration* instance = nullptr;
+    {
+        QMutexLocker locker(&g_instanceMutex);
+        instance = g_instance;
+        g_instance = nullptr;
+    }
+    delete instance;
+}
+
+void CConfiguration::shutdownInstance()
+{
+    {
+        QMutexLocker locker(&g_instanceMutex);
+        g_shutDown = true;
+    }
+    destroyInstance();
 }
 
 CConfiguration::CConfiguration()
@@ -287,15 +320,27 @@ bool CConfiguration::saveConfig(const QString& path)
     writer.writeEndElement();
     writer.writeEndDocument();
 
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    // Written beside the file and renamed over it only when complete: a full
+    // disk or a crash leaves the previous file as it was.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
         TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "open file error. path: [%s]", path.toLocal8Bit().constData());
         return false;
     }
     const QByteArray& bytes = buffer.data();
-    const bool written = file.write(bytes) == bytes.size();
-    file.close();
-    return written && file.error() == QFileDevice::NoError;
+    if (file.write(bytes) != bytes.size()) {
+        TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "write config file failed, previous file kept. path: [%s] [%s]",
+                   path.toLocal8Bit().constData(), file.errorString().toLocal8Bit().constData());
+        file.cancelWriting();
+        file.commit();
+        return false;
+    }
+    if (!file.commit()) {
+        TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "write config file failed, previous file kept. path: [%s] [%s]",
+                   path.toLocal8Bit().constData(), file.errorString().toLocal8Bit().constData());
+        return false;
+    }
+    return true;
 }
 
 void CConfiguration::saveConfig(QXmlStreamWriter& writer)
@@ -328,8 +373,23 @@ void CConfiguration::saveConfig(QXmlStreamWriter& writer)
     writer.writeEndElement();
 }
 
+bool CConfiguration::isRegularFile(const QString& path)
+{
+    struct stat st;
+    const QByteArray name = QFile::encodeName(path);
+    if (::stat(name.constData(), &st) != 0)
+        return false;   // missing: nothing to ignore, nothing to read
+    if (S_ISREG(st.st_mode))
+        return true;
+    // Opening a FIFO or a device for reading can block for ever.
+    TAVLOG_SRC(TAVLOG_LEVEL_WARN, "Preferences", "not a regular file, ignored. path: [%s]", name.constData());
+    return false;
+}
+
 bool CConfiguration::hasLumidorElement(const QString& path)
 {
+    if (!isRegularFile(path))
+        return false;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
@@ -343,6 +403,8 @@ bool CConfiguration::hasLumidorElement(const QString& path)
 
 bool CConfiguration::restoreConfig(const QString& path, bool withRoi)
 {
+    if (!isRegularFile(path))
+        return false;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
@@ -466,6 +528,8 @@ bool CConfiguration::saveConfigToUserXml()
 
 int CConfiguration::readLanguageSetting()
 {
+    if (QFileInfo::exists(m_languageIniPath) && !isRegularFile(m_languageIniPath))
+        return 0;
     QSettings settings(m_languageIniPath, QSettings::IniFormat);
     return settings.value(QStringLiteral("language/lang"), 0).toInt();
 }
@@ -479,6 +543,8 @@ void CConfiguration::writeLanguageSetting(int lang)
 
 int CConfiguration::readFeatureLanguageSetting()
 {
+    if (QFileInfo::exists(m_languageIniPath) && !isRegularFile(m_languageIniPath))
+        return 1;
     QSettings settings(m_languageIniPath, QSettings::IniFormat);
     // A fresh installation shows translated feature names.
     if (!settings.contains(QStringLiteral("language/featurelang")))

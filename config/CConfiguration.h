@@ -28,13 +28,21 @@ class CConfiguration : public QObject
 public:
     static const int kVideoFormCount = 16;
 
+    // Created on first use; null once shutdownInstance() has run.
     static CConfiguration* getInstance();
+    // Deletes the instance; the next getInstance() makes a new one (tests).
+    static void destroyInstance();
+    // The application's end: deletes the instance for good.
+    static void shutdownInstance();
 
     bool saveConfig(const QString& path);
     void saveConfig(QXmlStreamWriter& writer);
     bool restoreConfig(const QString& path, bool withRoi);
     bool saveConfigToUserXml();
     bool hasLumidorElement(const QString& path);
+    // True for an existing regular file; anything else at the path (a FIFO,
+    // a device, a directory) is logged as ignored and false returned.
+    static bool isRegularFile(const QString& path);
     void createConfigDir(const QString& path);
     void init();
 

@@ -1,67 +1,76 @@
 #include "CDeviceConnectThread.h"
 
-#include "Tavlog4cpp/TavLogMacros.h"
-#include "Utils.h"
-
-using namespace Vorlen::GenICam;
+#include <QDeadlineTimer>
 
 CDeviceConnectThread::CDeviceConnectThread(QObject* parent) : QThread(parent) {}
 
 CDeviceConnectThread::~CDeviceConnectThread()
 {
+    stop();
     wait();
 }
 
-void CDeviceConnectThread::setDevice(Vorlen::Memory::TSharedPtr<ICamera> camera, CONNECT_TYPE type)
+bool CDeviceConnectThread::post(Job job)
 {
-    m_spCamera = camera;
-    m_eType = type;
+    QMutexLocker locker(&m_mutex);
+    if (m_bStop)
+        return false;
+    m_jobs.push_back(std::move(job));
+    if (!isRunning())
+        start(QThread::InheritPriority);
+    m_wake.wakeOne();
+    return true;
 }
 
-void CDeviceConnectThread::setReleaseFirst(Vorlen::Memory::TSharedPtr<CInternalStreamSource> stream,
-                                           Vorlen::Memory::TSharedPtr<CInternalEventManager> events)
+bool CDeviceConnectThread::waitIdle(int timeoutMs)
 {
-    m_releaseStream = stream;
-    m_releaseEvents = events;
+    QDeadlineTimer deadline(timeoutMs < 0 ? QDeadlineTimer::Forever : QDeadlineTimer(timeoutMs));
+    QMutexLocker locker(&m_mutex);
+    while (!m_jobs.empty() || m_bRunningJob)
+    {
+        if (!m_idle.wait(&m_mutex, deadline))
+            return m_jobs.empty() && !m_bRunningJob;
+    }
+    return true;
+}
+
+bool CDeviceConnectThread::isBusy() const
+{
+    QMutexLocker locker(&m_mutex);
+    return !m_jobs.empty() || m_bRunningJob;
+}
+
+void CDeviceConnectThread::stop()
+{
+    QMutexLocker locker(&m_mutex);
+    m_bStop = true;
+    m_wake.wakeAll();
 }
 
 void CDeviceConnectThread::run()
 {
-    LOG_DEBUG("CDeviceConnectThread run begin");
-
-    if (m_releaseStream)
+    for (;;)
     {
-        if (m_releaseStream->isGrabbing() && !m_releaseStream->stopGrabbing())
-            LOG_ERROR("stopGrabbing fail. [%s]", GetErrorDesc().toLocal8Bit().constData());
-        m_releaseStream.reset();
+        Job job;
+        {
+            QMutexLocker locker(&m_mutex);
+            while (m_jobs.empty() && !m_bStop)
+                m_wake.wait(&m_mutex);
+            if (m_jobs.empty())
+                break;
+            job = std::move(m_jobs.front());
+            m_jobs.pop_front();
+            m_bRunningJob = true;
+        }
+        job();
+        // The job (and what it holds, possibly the last reference to the
+        // device) goes before the worker counts as idle.
+        job = nullptr;
+        QMutexLocker locker(&m_mutex);
+        m_bRunningJob = false;
+        if (m_jobs.empty())
+            m_idle.wakeAll();
     }
-    m_releaseEvents.reset();
-
-    const Vorlen::Memory::TSharedPtr<CInternalCamera> camera =
-        Vorlen::Memory::dynamicPointerCast<CInternalCamera>(m_spCamera);
-    bool ok = false;
-    if (camera.get() == nullptr)
-    {
-        LOG_ERROR("m_spCamera.get() is NULL!");
-    }
-    else if (m_eType == CONNECT_TYPE_CONNECT)
-    {
-        // Control access: the camera can be used by others for monitoring only.
-        ok = camera->connect(accessPermissionControl);
-        if (!ok)
-            LOG_ERROR("connect [%s] fail. [%s]", camera->getKey().c_str(), GetErrorDesc().toLocal8Bit().constData());
-    }
-    else
-    {
-        ok = camera->disConnect();
-        if (!ok)
-            LOG_ERROR("disConnect [%s] fail. [%s]", camera->getKey().c_str(), GetErrorDesc().toLocal8Bit().constData());
-    }
-
-    if (m_eType == CONNECT_TYPE_CONNECT)
-        emit device_connect(ok);
-    else
-        emit device_disconnect(ok);
-
-    LOG_DEBUG("CDeviceConnectThread run end");
+    QMutexLocker locker(&m_mutex);
+    m_idle.wakeAll();
 }

@@ -1,44 +1,48 @@
 #pragma once
-// Connects or disconnects one camera off the GUI thread.
+// The worker of one device: every camera round trip of the device (connect
+// and the steps after it, stream start and stop, disconnect, link settings)
+// runs here, one job at a time in the order asked, so the GUI thread never
+// waits on the camera. Results go back to the device by queued signals.
+#include <QMutex>
 #include <QThread>
-
-#include "Vorlen/GenICam/CInternalEventManager.h"
-#include "Vorlen/GenICam/CInternalStreamSource.h"
-#include "Vorlen/GenICam/ICamera.h"
-#include "Vorlen/Memory/TSharedPtr.h"
-
-enum CONNECT_TYPE
-{
-    CONNECT_TYPE_CONNECT = 0,
-    CONNECT_TYPE_DISCONNECT = 1
-};
+#include <QWaitCondition>
+#include <deque>
+#include <functional>
 
 class CDeviceConnectThread : public QThread
 {
     Q_OBJECT
 public:
+    using Job = std::function<void()>;
+
     explicit CDeviceConnectThread(QObject* parent = nullptr);
+    // Runs what is still queued, then ends the thread and waits for it.
     ~CDeviceConnectThread() override;
 
-    // Set before start(); not while the thread runs.
-    void setDevice(Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera> camera, CONNECT_TYPE type);
-    CONNECT_TYPE getConnectType() const { return m_eType; }
-    // Disconnect only: the stream and event manager of a lost connection,
-    // stopped and released on this thread before the camera is disconnected
-    // (stopping a stream of a vanished camera waits for its timeouts).
-    void setReleaseFirst(Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> stream,
-                         Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager> events);
+    // Queues a job; the thread starts on the first one. False once stopped.
+    bool post(Job job);
+    // Waits until every job queued so far has run; timeoutMs < 0 waits
+    // without limit. True when the worker is idle.
+    bool waitIdle(int timeoutMs = -1);
+    // A job is queued or running.
+    bool isBusy() const;
+    // No more jobs are taken; the queued ones still run, then run() ends.
+    void stop();
 
 signals:
-    void device_connect(bool ok);
-    void device_disconnect(bool ok);
+    // Result of a connection (with the steps after it) or a disconnection,
+    // emitted on this thread; generation tells which request it answers.
+    void device_connect(bool ok, quint64 generation);
+    void device_disconnect(bool ok, quint64 generation);
 
 protected:
     void run() override;
 
 private:
-    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera> m_spCamera;
-    CONNECT_TYPE m_eType = CONNECT_TYPE_CONNECT;
-    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> m_releaseStream;
-    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager> m_releaseEvents;
+    mutable QMutex m_mutex;
+    QWaitCondition m_wake;
+    QWaitCondition m_idle;
+    std::deque<Job> m_jobs;
+    bool m_bStop = false;
+    bool m_bRunningJob = false;
 };

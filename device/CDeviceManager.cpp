@@ -1,6 +1,7 @@
 #include "CDeviceManager.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 
 #include "CDisconnectAllThread.h"
 #include "CDiscoveryDevicesThread.h"
@@ -12,12 +13,13 @@ using namespace Vorlen::GenICam;
 namespace {
 QMutex g_instanceMutex;
 CDeviceManager* g_instance = nullptr;
+bool g_shutDown = false;
 }
 
 CDeviceManager* CDeviceManager::getInstance()
 {
     QMutexLocker locker(&g_instanceMutex);
-    if (!g_instance)
+    if (!g_instance && !g_shutDown)
     {
         g_instance = new CDeviceManager();
         // Whatever is still open when the application ends lets its camera go.
@@ -31,6 +33,12 @@ CDeviceManager* CDeviceManager::getInstance()
     return g_instance;
 }
 
+CDeviceManager* CDeviceManager::existingInstance()
+{
+    QMutexLocker locker(&g_instanceMutex);
+    return g_instance;
+}
+
 void CDeviceManager::destroyInstance()
 {
     CDeviceManager* instance = nullptr;
@@ -40,6 +48,36 @@ void CDeviceManager::destroyInstance()
         g_instance = nullptr;
     }
     delete instance;
+}
+
+void CDeviceManager::shutdown(int waitMs)
+{
+    {
+        QMutexLocker locker(&g_instanceMutex);
+        g_shutDown = true;
+    }
+    QElapsedTimer clock;
+    clock.start();
+    CDeviceManager* manager = existingInstance();
+    if (manager)
+    {
+        for (const CTavDevicePtr& device : manager->getAllDevices())
+        {
+            const CTavDevice::EConnectionState state = device->connectionState();
+            if (state == CTavDevice::stateConnected || state == CTavDevice::stateConnecting)
+                device->closeDevice(false);
+        }
+        // The results come back as queued calls: handle them while waiting.
+        while (manager->getActiveDeviceCount() != 0 && clock.elapsed() < waitMs)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        if (manager->getActiveDeviceCount() != 0)
+            LOG_WARN("%d device(s) still closing after %d ms; left to their workers",
+                     manager->getActiveDeviceCount(), waitMs);
+    }
+    // A disconnect-all under way ends by its own time limit.
+    CDisconnectAllThread::shutdownInstance(CDisconnectAllThread::kTimeoutMs + 2 * CDisconnectAllThread::kPollMs);
+    destroyInstance();
+    CDiscoveryDevicesThread::shutdownInstance();
 }
 
 CDeviceManager::CDeviceManager() : QObject(nullptr)
@@ -56,7 +94,8 @@ CDeviceManager::~CDeviceManager()
 {
     // A disconnect-all still under way polls this manager; let it end first
     // (it gives up on its own after its time limit).
-    CDisconnectAllThread::getInstance()->wait();
+    if (CDisconnectAllThread* closer = CDisconnectAllThread::existingInstance())
+        closer->wait(static_cast<unsigned long>(CDisconnectAllThread::kTimeoutMs + 2 * CDisconnectAllThread::kPollMs));
 
     disconnect(m_pDiscovery, nullptr, this, nullptr);
     m_pDiscovery->stop();
@@ -69,10 +108,16 @@ CDeviceManager::~CDeviceManager()
     for (const CTavDevicePtr& device : devices)
     {
         disconnectDevice(device);
-        // Let a connection under way finish so that its result can be undone.
-        while (device->isConnectThreadRunning())
-            QThread::msleep(10);
-        if (device->isConnected())
+        // A device whose worker is still busy (a camera that does not
+        // answer) is left to it: the worker holds the device until done.
+        if (device->isConnectThreadRunning())
+        {
+            LOG_WARN("device still busy at shutdown, left to its worker. [%s]",
+                     device->getDeviceKey().toLocal8Bit().constData());
+            continue;
+        }
+        const CTavDevice::EConnectionState state = device->connectionState();
+        if (state == CTavDevice::stateConnected || state == CTavDevice::stateConnecting)
             device->closeDevice(true);
     }
     devices.clear();
@@ -99,6 +144,18 @@ int CDeviceManager::getOpenedDeviceCount()
     for (const CTavDevicePtr& device : m_mapDevices)
     {
         if (device && device->isConnected())
+            ++count;
+    }
+    return count;
+}
+
+int CDeviceManager::getActiveDeviceCount()
+{
+    QMutexLocker locker(&m_mapMutex);
+    int count = 0;
+    for (const CTavDevicePtr& device : m_mapDevices)
+    {
+        if (device && (device->connectionState() != CTavDevice::stateDisconnected || device->isConnected()))
             ++count;
     }
     return count;

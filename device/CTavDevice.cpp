@@ -43,18 +43,21 @@ CTavDevice::CTavDevice(IMsgSink* sink) : QObject(nullptr), m_pMsgSink(sink)
 
 CTavDevice::~CTavDevice()
 {
+    // Jobs hold the device, so none is left for a device owned through
+    // create(); the worker is idle and ends at once.
+    m_pConnectThread->stop();
+    m_pConnectThread->wait();
     m_pStreamThread->stop();
     m_pStreamThread->wait();
-    m_pConnectThread->wait();
     m_pAccessStatusThread->wait();
 
     unsubscribeEvents();
-    if (m_ptrStream && m_ptrStream->isGrabbing())
-        m_ptrStream->stopGrabbing();
+    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
+    if (stream && stream->isGrabbing())
+        stream->stopGrabbing();
     m_pStreamThread->setStream(nullptr);
     m_pStreamThread->setDevice(nullptr);
-    m_ptrStream.reset();
-    m_ptrEventManager.reset();
+    setStreamObjects(TSharedPtr<CInternalStreamSource>(), TSharedPtr<CInternalEventManager>());
 
     // A device that goes away lets its camera go (also when a connection
     // finished whose result was never delivered).
@@ -98,10 +101,11 @@ void CTavDevice::init()
         return;
     m_bInitialized = true;
 
-    connect(m_pConnectThread, &CDeviceConnectThread::device_connect, this, &CTavDevice::onDeviceConnect,
+    connect(m_pConnectThread, &CDeviceConnectThread::device_connect, this, &CTavDevice::onConnectResult,
             Qt::QueuedConnection);
-    connect(m_pConnectThread, &CDeviceConnectThread::device_disconnect, this, &CTavDevice::onDeviceDisConnect,
+    connect(m_pConnectThread, &CDeviceConnectThread::device_disconnect, this, &CTavDevice::onDisconnectResult,
             Qt::QueuedConnection);
+    connect(this, &CTavDevice::streamOpenFailed, this, &CTavDevice::onStreamOpenFailed, Qt::QueuedConnection);
     connect(m_pAccessStatusThread, &AccessStatusThread::signalRefreshAccessStatus, this,
             &CTavDevice::onRefreshAccessStatusFinished, Qt::QueuedConnection);
     connect(this, &CTavDevice::device_offline, this, &CTavDevice::onDeviceOffline, Qt::QueuedConnection);
@@ -146,26 +150,84 @@ bool CTavDevice::isUsb() const
 
 bool CTavDevice::isConnectThreadRunning() const
 {
-    return m_pConnectThread->isRunning();
+    return m_pConnectThread->isBusy();
+}
+
+bool CTavDevice::waitForWorker(int timeoutMs)
+{
+    return m_pConnectThread->waitIdle(timeoutMs);
 }
 
 TSharedPtr<CInternalStreamSource> CTavDevice::getStreamSource() const
 {
+    QMutexLocker locker(&m_objectMutex);
     return m_ptrStream;
 }
 
 TSharedPtr<CInternalEventManager> CTavDevice::getEventManager() const
 {
+    QMutexLocker locker(&m_objectMutex);
     return m_ptrEventManager;
 }
 
 bool CTavDevice::isGrabing() const
 {
-    const TSharedPtr<CInternalStreamSource> stream = m_ptrStream;
+    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
     return stream && stream->isGrabbing();
 }
 
 // ---------------------------------------------------------------- connection
+
+CTavDevice::SLinkSettings CTavDevice::linkSettings()
+{
+    const CConfiguration* cfg = CConfiguration::getInstance();
+    SLinkSettings link;
+    if (cfg)
+    {
+        link.answerTimeout = cfg->iAnswerTimeout;
+        link.heartbeat = cfg->iHeartbeatIval;
+    }
+    return link;
+}
+
+CTavDevice::SStreamSettings CTavDevice::streamSettings()
+{
+    const CConfiguration* cfg = CConfiguration::getInstance();
+    SStreamSettings s;
+    if (cfg)
+    {
+        s.bufferCount = cfg->streamingBufferCount;
+        s.interPacketTimeout = cfg->iInterPacketTimeout;
+        s.singleResendMaxPackNum = cfg->iSingleResendMaxPackNum;
+        s.maximumLostPacketNum = cfg->iMaximumLostPacketNum;
+        s.urbNumber = cfg->streamingUrbNumberCount;
+        s.urbSize = cfg->streamingUrbSizeCount;
+    }
+    return s;
+}
+
+void CTavDevice::postJob(std::function<void()> job)
+{
+    // The job holds the device: a device dropped by the manager meanwhile
+    // lives until its worker has finished with it.
+    const CTavDevicePtr keep = self();
+    m_pConnectThread->post([keep, job]() { job(); });
+}
+
+void CTavDevice::setStreamObjects(const TSharedPtr<CInternalStreamSource>& stream,
+                                  const TSharedPtr<CInternalEventManager>& events)
+{
+    TSharedPtr<CInternalStreamSource> oldStream;
+    TSharedPtr<CInternalEventManager> oldEvents;
+    {
+        QMutexLocker locker(&m_objectMutex);
+        oldStream = m_ptrStream;
+        oldEvents = m_ptrEventManager;
+        m_ptrStream = stream;
+        m_ptrEventManager = events;
+    }
+    // Released outside the lock.
+}
 
 bool CTavDevice::openDevice(bool bSync)
 {
@@ -176,56 +238,70 @@ bool CTavDevice::openDevice(bool bSync)
         LOG_ERROR("m_spCamera.get() is NULL!");
         return false;
     }
-    if (m_bConnected)
+    switch (connectionState())
     {
+    case stateConnecting:
+        // The worker is still on the previous attempt.
+        return false;
+    case stateConnected:
         LOG_WARN("device is already connected. [%s]", key.constData());
         return false;
-    }
-    m_bConnecting = true;
-
-    if (m_pConnectThread->isRunning())
+    case stateDisconnecting:
+        LOG_WARN("device is still closing, openDevice ignored. [%s]", key.constData());
         return false;
+    case stateDisconnected:
+        break;
+    }
 
+    m_eState = stateConnecting;
+    m_bCloseAfterConnect = false;
+    const quint64 generation = ++m_nGeneration;
     emitStatus(MSG_DEVICE_CONNECTING);
 
-    if (bSync)
-    {
-        const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-        const bool ok = camera && camera->connect(accessPermissionControl);
-        if (!ok)
-            LOG_ERROR("connect [%s] fail. [%s]", key.constData(), errorText().constData());
-        onDeviceConnect(ok);
-        return ok;
-    }
+    const SLinkSettings link = linkSettings();
+    postJob([this, link, generation]() {
+        const bool ok = connectOnWorker(link);
+        emit m_pConnectThread->device_connect(ok, generation);
+        LOG_DEBUG("CDeviceConnectThread run end");
+    });
+    if (!bSync)
+        return true;
 
-    m_pConnectThread->setDevice(m_spCamera, CONNECT_TYPE_CONNECT);
-    m_pConnectThread->start(QThread::InheritPriority);
-    return true;
+    // The result is taken here; the queued copy finds its request answered.
+    m_pConnectThread->waitIdle();
+    onConnectResult(m_bConnected, generation);
+    return m_eState == stateConnected;
 }
 
-void CTavDevice::onDeviceConnect(bool ok)
+bool CTavDevice::connectOnWorker(const SLinkSettings& link)
 {
-    m_bConnecting = false;
-    if (!ok)
+    LOG_DEBUG("CDeviceConnectThread run begin");
+    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
+    if (camera.get() == nullptr)
     {
-        emitStatus(MSG_DEVICE_CONNECT_FAILED);
-        return;
+        LOG_ERROR("m_spCamera.get() is NULL!");
+        return false;
+    }
+    // Control access: the camera can be used by others for monitoring only.
+    if (!camera->connect(accessPermissionControl))
+    {
+        LOG_ERROR("connect [%s] fail. [%s]", camera->getKey().c_str(), errorText().constData());
+        return false;
     }
 
     m_bConnected = true;
     emitStatus(MSG_DEVICE_CONNECTED);
 
-    const CConfiguration* cfg = CConfiguration::getInstance();
-    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-    if (camera && isGigE())
+    if (isGigE())
     {
-        if (!camera->setAnswerTimeout(cfg->iAnswerTimeout))
-            LOG_ERROR("setAnswerTimeout %u fail. [%s]", unsigned(cfg->iAnswerTimeout), errorText().constData());
-        if (!camera->setHeartbeatIntervel(cfg->iHeartbeatIval))
-            LOG_ERROR("setHeartbeatIntervel %u fail. [%s]", unsigned(cfg->iHeartbeatIval), errorText().constData());
+        if (!camera->setAnswerTimeout(link.answerTimeout))
+            LOG_ERROR("setAnswerTimeout %u fail. [%s]", unsigned(link.answerTimeout), errorText().constData());
+        if (!camera->setHeartbeatIntervel(link.heartbeat))
+            LOG_ERROR("setHeartbeatIntervel %u fail. [%s]", unsigned(link.heartbeat), errorText().constData());
     }
 
-    m_ptrEventManager = Vorlen::Memory::makeShared<CInternalEventManager>(m_spCamera);
+    const TSharedPtr<CInternalEventManager> events = Vorlen::Memory::makeShared<CInternalEventManager>(m_spCamera);
+    setStreamObjects(TSharedPtr<CInternalStreamSource>(), events);
     subscribeEvents();
 
     CIntNode hostPort(m_spCamera, "GevSCPHostPort");
@@ -238,14 +314,44 @@ void CTavDevice::onDeviceConnect(bool ok)
             LOG_ERROR("get GevSCPHostPort fail. [%s]", errorText().constData());
     }
 
-    m_ptrStream = Vorlen::Memory::makeShared<CInternalStreamSource>(m_spCamera, 0);
-    if (!m_ptrStream->resetStatisticsInfo())
+    const TSharedPtr<CInternalStreamSource> stream = Vorlen::Memory::makeShared<CInternalStreamSource>(m_spCamera, 0);
+    if (!stream->resetStatisticsInfo())
         LOG_ERROR("resetStatisticsInfo fail. [%s]", errorText().constData());
+    setStreamObjects(stream, events);
+    return true;
+}
+
+void CTavDevice::onConnectResult(bool ok, quint64 generation)
+{
+    // A result already taken by a synchronous call, or of a request that a
+    // loss report overtook, changes nothing.
+    if (generation != m_nGeneration || m_eState != stateConnecting)
+        return;
+    onDeviceConnect(ok);
+}
+
+void CTavDevice::onDeviceConnect(bool ok)
+{
+    if (!ok)
+    {
+        m_eState = stateDisconnected;
+        m_bCloseAfterConnect = false;
+        emitStatus(MSG_DEVICE_CONNECT_FAILED);
+        return;
+    }
+    m_eState = stateConnected;
+    if (m_bCloseAfterConnect)
+    {
+        m_bCloseAfterConnect = false;
+        LOG_DEBUG("carry out the close asked for during the connection. [%s]", m_strKey.toLocal8Bit().constData());
+        closeDevice(false);
+    }
 }
 
 void CTavDevice::subscribeEvents()
 {
-    if (!m_ptrEventManager)
+    const TSharedPtr<CInternalEventManager> events = getEventManager();
+    if (!events)
         return;
 
     // Library threads call these; they only emit. The weak reference keeps a
@@ -253,7 +359,7 @@ void CTavDevice::subscribeEvents()
     const std::weak_ptr<CTavDevice> weak = weak_from_this();
     const QString key = m_strKey;
 
-    if (!m_ptrEventManager->subscribeConnectArgs([weak, key](const SConnectArg& arg) {
+    if (!events->subscribeConnectArgs([weak, key](const SConnectArg& arg) {
             if (arg.event != connectEventOffline)
                 return;
             if (const std::shared_ptr<CTavDevice> device = weak.lock())
@@ -261,19 +367,19 @@ void CTavDevice::subscribeEvents()
         }))
         LOG_ERROR("subscribeConnectArgs fail. [%s]", errorText().constData());
 
-    if (!m_ptrEventManager->subscribeParamUpdate([weak, key](const SParamUpdataArg& arg) {
+    if (!events->subscribeParamUpdate([weak, key](const SParamUpdataArg& arg) {
             if (const std::shared_ptr<CTavDevice> device = weak.lock())
                 emit device->device_param_update(arg, key);
         }))
         LOG_ERROR("subscribeParamUpdate fail. [%s]", errorText().constData());
 
-    if (!m_ptrEventManager->subscribeStreamArg([weak, key](const SStreamArg& arg) {
+    if (!events->subscribeStreamArg([weak, key](const SStreamArg& arg) {
             if (const std::shared_ptr<CTavDevice> device = weak.lock())
                 emit device->device_stream_event(arg, key);
         }))
         LOG_ERROR("subscribeStreamArg fail. [%s]", errorText().constData());
 
-    if (!m_ptrEventManager->subscribeMsgChannel([weak, key](const SMsgChannelArg& arg) {
+    if (!events->subscribeMsgChannel([weak, key](const SMsgChannelArg& arg) {
             if (const std::shared_ptr<CTavDevice> device = weak.lock())
                 emit device->device_msg_channel(arg, key);
         }))
@@ -282,7 +388,7 @@ void CTavDevice::subscribeEvents()
 
 void CTavDevice::unsubscribeEvents()
 {
-    const TSharedPtr<CInternalEventManager> events = m_ptrEventManager;
+    const TSharedPtr<CInternalEventManager> events = getEventManager();
     if (!events)
         return;
     if (!events->unsubscribeConnectArgs())
@@ -300,93 +406,135 @@ void CTavDevice::releaseConnectionObjects()
     stopStreamThread();
     m_pStreamThread->setStream(nullptr);
     m_pStreamThread->setDevice(nullptr);
-    m_ptrStream.reset();
-    m_ptrEventManager.reset();
+    setStreamObjects(TSharedPtr<CInternalStreamSource>(), TSharedPtr<CInternalEventManager>());
 }
 
 bool CTavDevice::closeDevice(bool bSync)
 {
     const QByteArray key = m_strKey.toLocal8Bit();
     LOG_DEBUG("begin to closeDevice. [%s]", key.constData());
-    if (m_pConnectThread->isRunning())
+    switch (connectionState())
     {
-        // A connection or disconnection is still under way; its result will
-        // set the state.
-        LOG_ERROR("connect thread is running, closeDevice ignored. [%s]", key.constData());
+    case stateDisconnected:
+        LOG_WARN("device is not open, closeDevice ignored. [%s]", key.constData());
         return false;
+    case stateDisconnecting:
+        LOG_WARN("device is already closing. [%s]", key.constData());
+        return false;
+    case stateConnecting:
+        // Carried out as soon as the connection has finished.
+        m_bCloseAfterConnect = true;
+        LOG_DEBUG("close asked for during the connection; it follows the connection. [%s]", key.constData());
+        if (!bSync)
+            return true;
+        m_pConnectThread->waitIdle();
+        onConnectResult(m_bConnected, m_nGeneration);
+        // A connection that failed leaves nothing to close; a successful one
+        // has started the close: wait for it too.
+        if (m_eState == stateDisconnecting)
+        {
+            m_pConnectThread->waitIdle();
+            onDisconnectResult(true, m_nGeneration);
+        }
+        return m_eState == stateDisconnected;
+    case stateConnected:
+        break;
     }
 
-    m_bDisconnecting = true;
+    m_eState = stateDisconnecting;
+    m_bStreamRequested = false;
+    const quint64 generation = ++m_nGeneration;
     emitStatus(MSG_DEVICE_DISCONNECTING);
-    closeStream();
-    unsubscribeEvents();
-
+    postJob([this, generation]() {
+        closeStreamOnWorker();
+        const bool ok = disconnectOnWorker(false);
+        emit m_pConnectThread->device_disconnect(ok, generation);
+        LOG_DEBUG("CDeviceConnectThread run end");
+    });
     if (bSync)
     {
-        const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-        if (camera && !camera->disConnect())
-            LOG_ERROR("disConnect [%s] fail. [%s]", key.constData(), errorText().constData());
-        onDeviceDisConnect(true);
+        m_pConnectThread->waitIdle();
+        onDisconnectResult(true, generation);
     }
-    else
-    {
-        m_pConnectThread->setDevice(m_spCamera, CONNECT_TYPE_DISCONNECT);
-        m_pConnectThread->start(QThread::InheritPriority);
-    }
-
     LOG_DEBUG("end to closeDevice. [%s]", key.constData());
     return true;
 }
 
+bool CTavDevice::disconnectOnWorker(bool offline)
+{
+    if (!offline)
+        unsubscribeEvents();
+    releaseConnectionObjects();
+    LOG_DEBUG("CDeviceConnectThread run begin");
+    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
+    bool ok = false;
+    if (camera.get() == nullptr)
+    {
+        LOG_ERROR("m_spCamera.get() is NULL!");
+    }
+    else
+    {
+        ok = camera->disConnect();
+        if (!ok)
+            LOG_ERROR("disConnect [%s] fail. [%s]", camera->getKey().c_str(), errorText().constData());
+    }
+    m_bConnected = false;
+    return ok;
+}
+
+void CTavDevice::onDisconnectResult(bool ok, quint64 generation)
+{
+    if (generation != m_nGeneration || m_eState != stateDisconnecting)
+        return;
+    onDeviceDisConnect(ok);
+}
+
 void CTavDevice::onDeviceDisConnect(bool ok)
 {
+    m_eState = stateDisconnected;
+    m_bStreamRequested = false;
     if (m_bOfflineCleanup)
     {
-        // End of the clean-up after a loss: the state was cleared and
-        // message 6 sent when the loss was reported.
+        // The loss has been reported (message 6); nothing more to say.
         m_bOfflineCleanup = false;
-        m_bConnecting = false;
         return;
     }
     if (!ok)
         LOG_ERROR("disconnect device fail. [%s]", m_strKey.toLocal8Bit().constData());
-    releaseConnectionObjects();
-    m_bConnected = false;
-    m_bConnecting = false;
-    m_bDisconnecting = false;
     emitStatus(MSG_DEVICE_DISCONNECTED);
 }
 
 void CTavDevice::onDeviceOffline()
 {
-    // A late report after the device was closed changes nothing.
-    if (!m_bConnected)
+    // A late report after the device was closed, or a second one, changes nothing.
+    if (!m_bConnected || m_bOfflineCleanup || m_eState == stateDisconnected)
         return;
 
     const QByteArray key = m_strKey.toLocal8Bit();
     LOG_WARN("Device offline.Device Key[%s]", key.constData());
 
-    unsubscribeEvents();
-    const TSharedPtr<CInternalStreamSource> stream = m_ptrStream;
-    const TSharedPtr<CInternalEventManager> events = m_ptrEventManager;
-    releaseConnectionObjects();
     m_bConnected = false;
-    m_bConnecting = false;
-    m_bDisconnecting = false;
-
-    // The dead connection is taken down on the connect worker: stopping the
-    // stream of a vanished camera waits for its timeouts, and the library
-    // must forget the connection before the camera can be connected again.
-    // A close already under way does the same.
-    if (!m_pConnectThread->isRunning())
-    {
-        m_bOfflineCleanup = true;
-        m_pConnectThread->setDevice(m_spCamera, CONNECT_TYPE_DISCONNECT);
-        m_pConnectThread->setReleaseFirst(stream, events);
-        m_pConnectThread->start(QThread::InheritPriority);
-    }
-
+    m_bStreamRequested = false;
+    m_bCloseAfterConnect = false;
+    m_bOfflineCleanup = true;
+    m_eState = stateDisconnecting;
+    const quint64 generation = ++m_nGeneration;
     emitStatus(MSG_DEVICE_OFFLINE);
+
+    // The dead connection is taken down on the worker, after whatever it is
+    // doing: stopping the stream of a vanished camera waits for its
+    // timeouts, and the library must forget the connection before the
+    // camera can be connected again.
+    postJob([this, generation]() {
+        unsubscribeEvents();
+        const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
+        stopStreamThread();
+        if (stream && stream->isGrabbing() && !stream->stopGrabbing())
+            LOG_ERROR("stopGrabbing fail. [%s]", errorText().constData());
+        const bool ok = disconnectOnWorker(true);
+        emit m_pConnectThread->device_disconnect(ok, generation);
+        LOG_DEBUG("CDeviceConnectThread run end");
+    });
 }
 
 void CTavDevice::onRefreshAccessStatusFinished(ECameraAccessPermission permission)
@@ -408,16 +556,39 @@ void CTavDevice::refreshAccessPermission()
 bool CTavDevice::openStream()
 {
     LOG_DEBUG("begin to open a stream channel.");
-    const TSharedPtr<CInternalStreamSource> stream = m_ptrStream;
+    const EConnectionState state = connectionState();
+    if (!m_bConnected || (state != stateConnected && state != stateConnecting))
+    {
+        LOG_ERROR("open stream error. isConnected: %d.", int(m_bConnected.load()));
+        return false;
+    }
+    if (m_bStreamRequested)
+    {
+        LOG_ERROR("camera is already grabbing.");
+        return false;
+    }
+    m_bStreamRequested = true;
+    // The save throttle is armed from the configuration here, on the GUI thread.
+    m_pStreamThread->Init();
+    const SStreamSettings settings = streamSettings();
+    postJob([this, settings]() { openStreamOnWorker(settings); });
+    return true;
+}
+
+void CTavDevice::openStreamOnWorker(const SStreamSettings& settings)
+{
+    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
     if (!m_bConnected || !stream)
     {
-        LOG_ERROR("open stream error. isConnected: %d.", int(m_bConnected));
-        return false;
+        LOG_ERROR("open stream error. isConnected: %d.", int(m_bConnected.load()));
+        emit streamOpenFailed();
+        return;
     }
     if (stream->isGrabbing())
     {
         LOG_ERROR("camera is already grabbing.");
-        return false;
+        emit streamOpenFailed();
+        return;
     }
 
     m_pStreamThread->setStream(stream);
@@ -425,7 +596,6 @@ bool CTavDevice::openStream()
     bool installed = true;
     if (isDriverInstalled(installed))
         m_pStreamThread->setDriverInstalled(installed);
-    emit signalStartGrab();
 
     long width = 0;
     long height = 0;
@@ -435,56 +605,72 @@ bool CTavDevice::openStream()
         m_pStreamThread->setHeightReg(height);
     m_pStreamThread->setCompressionModeJpeg(isCompressionModeJpeg());
 
-    m_pStreamThread->Init();
     m_pStreamThread->start(QThread::TimeCriticalPriority);
 
-    const CConfiguration* cfg = CConfiguration::getInstance();
-    if (!stream->setBufferCount(cfg->streamingBufferCount))
-        LOG_ERROR("set buffer count %u errror.", cfg->streamingBufferCount);
+    if (!stream->setBufferCount(settings.bufferCount))
+        LOG_ERROR("set buffer count %u errror.", settings.bufferCount);
     if (isGigE())
     {
-        if (!stream->setInterPacketTimeout(cfg->iInterPacketTimeout))
-            LOG_ERROR("set InterPacketTimeout %u errror.", cfg->iInterPacketTimeout);
-        if (!stream->setSingleResendMaxPacketNum(cfg->iSingleResendMaxPackNum))
-            LOG_ERROR("set SingleResendMaxPacketNum %u errror.", cfg->iSingleResendMaxPackNum);
-        if (!stream->setMaxLostPacketNum(cfg->iMaximumLostPacketNum))
-            LOG_ERROR("set MaxLostPacketNum %u errror.", cfg->iMaximumLostPacketNum);
+        if (!stream->setInterPacketTimeout(settings.interPacketTimeout))
+            LOG_ERROR("set InterPacketTimeout %u errror.", settings.interPacketTimeout);
+        if (!stream->setSingleResendMaxPacketNum(settings.singleResendMaxPackNum))
+            LOG_ERROR("set SingleResendMaxPacketNum %u errror.", settings.singleResendMaxPackNum);
+        if (!stream->setMaxLostPacketNum(settings.maximumLostPacketNum))
+            LOG_ERROR("set MaxLostPacketNum %u errror.", settings.maximumLostPacketNum);
     }
     else if (isUsb())
     {
-        if (!stream->setUrbTransfer(cfg->streamingUrbNumberCount, cfg->streamingUrbSizeCount))
-            LOG_ERROR("set urb number count %u, urb size count %u errror.", cfg->streamingUrbNumberCount,
-                      cfg->streamingUrbSizeCount);
+        if (!stream->setUrbTransfer(settings.urbNumber, settings.urbSize))
+            LOG_ERROR("set urb number count %u, urb size count %u errror.", settings.urbNumber, settings.urbSize);
     }
 
     if (!stream->startGrabbing())
     {
         LOG_ERROR("[%s]", errorText().constData());
         stopStreamThread();
-        return false;
+        emit streamOpenFailed();
+        return;
     }
 
+    // Only a stream that really started is announced.
+    emit signalStartGrab();
     emitStatus(MSG_STREAM_OPENED);
     LOG_DEBUG("end to open a stream channel.");
-    return true;
+}
+
+void CTavDevice::onStreamOpenFailed()
+{
+    m_bStreamRequested = false;
 }
 
 bool CTavDevice::closeStream()
 {
+    if (!getStreamSource())
+    {
+        LOG_DEBUG("begin closeStream.");
+        LOG_ERROR("m_ptrStream.get() is NULL.");
+        return false;
+    }
+    m_bStreamRequested = false;
+    postJob([this]() { closeStreamOnWorker(); });
+    return true;
+}
+
+void CTavDevice::closeStreamOnWorker()
+{
     LOG_DEBUG("begin closeStream.");
-    const TSharedPtr<CInternalStreamSource> stream = m_ptrStream;
+    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
     if (stream.get() == nullptr)
     {
         LOG_ERROR("m_ptrStream.get() is NULL.");
         stopStreamThread();
-        return false;
+        return;
     }
     stopStreamThread();
     if (stream->isGrabbing() && !stream->stopGrabbing())
         LOG_ERROR("stopGrabbing fail. [%s]", errorText().constData());
     emitStatus(MSG_STREAM_CLOSED);
     LOG_DEBUG("end closeStream.");
-    return true;
 }
 
 void CTavDevice::stopStreamThread()
@@ -564,7 +750,7 @@ void CTavDevice::getStreamStatistic(QString& receiveFps, QString& displayFps, un
 
 bool CTavDevice::getStatisticsInfo(StreamStatisticsInfo& info)
 {
-    const TSharedPtr<CInternalStreamSource> stream = m_ptrStream;
+    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
     if (!stream)
         return false;
     return stream->getStatisticsInfo(info);
@@ -782,48 +968,64 @@ QString CTavDevice::getDeviceSaveName()
 }
 
 // ---------------------------------------------------------------- configuration
+// The new values arrive on the GUI thread with the change signals and are
+// applied on the worker, after whatever the worker is doing.
 
 void CTavDevice::onAnswerTimeoutChanged(uint16_t ms)
 {
-    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-    if (!m_bConnected || !camera || !isGigE())
+    if (!m_bConnected || !isGigE())
         return;
-    if (!camera->setAnswerTimeout(ms))
-        LOG_ERROR("set AnswerTimeout %u errror.", unsigned(ms));
+    postJob([this, ms]() {
+        const TSharedPtr<CInternalCamera> camera = getInternalDevice();
+        if (!m_bConnected || !camera)
+            return;
+        if (!camera->setAnswerTimeout(ms))
+            LOG_ERROR("set AnswerTimeout %u errror.", unsigned(ms));
+    });
 }
 
 void CTavDevice::onHeartbeatIntervalChanged(uint16_t ms)
 {
-    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-    if (!m_bConnected || !camera || !isGigE())
+    if (!m_bConnected || !isGigE())
         return;
-    if (!camera->setHeartbeatIntervel(ms))
-        LOG_ERROR("set HeartbeatInterval %u errror.", unsigned(ms));
+    postJob([this, ms]() {
+        const TSharedPtr<CInternalCamera> camera = getInternalDevice();
+        if (!m_bConnected || !camera)
+            return;
+        if (!camera->setHeartbeatIntervel(ms))
+            LOG_ERROR("set HeartbeatInterval %u errror.", unsigned(ms));
+    });
 }
 
 void CTavDevice::onInterPacketTimeoutChanged(uint32_t ms)
 {
-    const TSharedPtr<CInternalStreamSource> stream = m_ptrStream;
-    if (!stream || !isGigE())
+    if (!getStreamSource() || !isGigE())
         return;
-    if (!stream->setInterPacketTimeout(ms))
-        LOG_ERROR("set InterPacketTimeout %u errror.", ms);
+    postJob([this, ms]() {
+        const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
+        if (stream && !stream->setInterPacketTimeout(ms))
+            LOG_ERROR("set InterPacketTimeout %u errror.", ms);
+    });
 }
 
 void CTavDevice::onSingleResendMaxPackNumChanged(uint32_t count)
 {
-    const TSharedPtr<CInternalStreamSource> stream = m_ptrStream;
-    if (!stream || !isGigE())
+    if (!getStreamSource() || !isGigE())
         return;
-    if (!stream->setSingleResendMaxPacketNum(count))
-        LOG_ERROR("set SingleResendMaxPacketNum %u errror.", count);
+    postJob([this, count]() {
+        const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
+        if (stream && !stream->setSingleResendMaxPacketNum(count))
+            LOG_ERROR("set SingleResendMaxPacketNum %u errror.", count);
+    });
 }
 
 void CTavDevice::onMaximumLostPacketNumChanged(uint32_t count)
 {
-    const TSharedPtr<CInternalStreamSource> stream = m_ptrStream;
-    if (!stream || !isGigE())
+    if (!getStreamSource() || !isGigE())
         return;
-    if (!stream->setMaxLostPacketNum(count))
-        LOG_ERROR("set MaxLostPacketNum %u errror.", count);
+    postJob([this, count]() {
+        const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
+        if (stream && !stream->setMaxLostPacketNum(count))
+            LOG_ERROR("set MaxLostPacketNum %u errror.", count);
+    });
 }

@@ -6,8 +6,10 @@
 #include <QObject>
 #include <QPoint>
 #include <QString>
+#include <QMutex>
 #include <QStringList>
 #include <atomic>
+#include <functional>
 
 #include "CTavMessage.h"
 #include "IMsgSink.h"
@@ -38,15 +40,29 @@ public:
     // Wires the workers, the stream thread and the configuration to the device.
     void init();
 
-    // bSync false: the connection runs on the connect worker and its result
-    // arrives later (messages 2 or 3); true: connects in the caller's thread
-    // and returns the result. A call while the worker still runs starts nothing.
+    // Where the device stands; changed on the device's own (GUI) thread only.
+    enum EConnectionState
+    {
+        stateDisconnected = 0,
+        stateConnecting = 1,     // connect and the steps after it under way
+        stateConnected = 2,
+        stateDisconnecting = 3   // a close (or the clean-up after a loss) under way
+    };
+
+    // bSync false: the connection and the steps after it run on the device's
+    // worker and the result arrives later (message 2 or 3); true: the caller
+    // waits for the worker and gets the result. A call while a connection,
+    // or a close, is under way starts nothing.
     bool openDevice(bool bSync);
-    // bSync false: the camera is disconnected on the connect worker (message 5
-    // when it is done); true: at once, in the caller's thread.
+    // bSync false: the close runs on the device's worker (message 5 when it
+    // is done); true: the caller waits for it. A close asked for during a
+    // connection is carried out once the connection has finished.
     bool closeDevice(bool bSync);
+    // Requests that return at once (true when accepted); the worker reports
+    // with message 7 (stream opened, a failure is logged) and message 8.
     bool openStream();
     bool closeStream();
+    // Stops the retrieval thread and waits for it (worker side).
     void stopStreamThread();
     bool doPropertyReset();
     void refreshAccessPermission();
@@ -64,13 +80,20 @@ public:
     StreamRetrieveThread* GetStreamThread() { return m_pStreamThread; }
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> getStreamSource() const;
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager> getEventManager() const;
-    // The connect worker is running (a connection or disconnection under way).
+    // The device's worker has a job queued or running.
     bool isConnectThreadRunning() const;
+    // Waits until the worker has run every job asked for so far (timeoutMs
+    // < 0: without limit); true when it is idle. For tests and shutdown.
+    bool waitForWorker(int timeoutMs = -1);
 
     // ---- state
-    bool isConnecting() const { return m_bConnecting; }
-    bool isDisconnecting() const { return m_bDisconnecting; }
+    EConnectionState connectionState() const { return EConnectionState(m_eState.load()); }
+    bool isConnecting() const { return m_eState == stateConnecting; }
+    bool isDisconnecting() const { return m_eState == stateDisconnecting; }
+    // The camera is connected (set by the worker as soon as it is).
     bool isConnected() const { return m_bConnected; }
+    // A stream has been asked for and not closed since.
+    bool isStreamRequested() const { return m_bStreamRequested; }
     bool isGrabing() const;
     void setAcqModeEnable(bool enable) { m_bAcqModeEnable = enable; }
     bool isAcqModeEnable() const { return m_bAcqModeEnable; }
@@ -110,6 +133,7 @@ public slots:
     void onSingleResendMaxPackNumChanged(uint32_t count);
     void onMaximumLostPacketNumChanged(uint32_t count);
 
+    // Results of the worker, on the device's thread.
     void onDeviceConnect(bool ok);
     void onDeviceDisConnect(bool ok);
     void onDeviceOffline();
@@ -136,8 +160,45 @@ signals:
     void signaROIEnable(bool enable);
     void cursorPoint(QPoint point);
 
+private slots:
+    void onConnectResult(bool ok, quint64 generation);
+    void onDisconnectResult(bool ok, quint64 generation);
+    void onStreamOpenFailed();
+
+signals:
+    // Worker to device: the stream did not start.
+    void streamOpenFailed();
+
 private:
+    // Values the worker needs, copied from the configuration on the GUI
+    // thread when the request is made.
+    struct SLinkSettings
+    {
+        uint16_t answerTimeout = 1000;
+        uint16_t heartbeat = 1500;
+    };
+    struct SStreamSettings
+    {
+        uint32_t bufferCount = 8;
+        uint32_t interPacketTimeout = 0;
+        uint32_t singleResendMaxPackNum = 65536;
+        uint32_t maximumLostPacketNum = 65536;
+        uint32_t urbNumber = 64;
+        uint32_t urbSize = 64;
+    };
+
     CTavDevicePtr self();
+    // Queues work on the worker; the job keeps the device alive until it ran.
+    void postJob(std::function<void()> job);
+    // Worker side of the requests.
+    bool connectOnWorker(const SLinkSettings& link);
+    void openStreamOnWorker(const SStreamSettings& settings);
+    void closeStreamOnWorker();
+    bool disconnectOnWorker(bool offline);
+    void setStreamObjects(const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource>& stream,
+                          const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager>& events);
+    static SLinkSettings linkSettings();
+    static SStreamSettings streamSettings();
     void emitStatus(EN_MESSAGE_TYPE type);
     void subscribeEvents();
     void unsubscribeEvents();
@@ -152,17 +213,21 @@ private:
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager> m_ptrEventManager;
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> m_ptrStream;
 
+    mutable QMutex m_objectMutex;   // m_ptrEventManager and m_ptrStream: written by the worker
+
     StreamRetrieveThread* m_pStreamThread = nullptr;
     CDeviceConnectThread* m_pConnectThread = nullptr;
     AccessStatusThread* m_pAccessStatusThread = nullptr;
 
-    std::atomic<bool> m_bConnecting{false};
-    std::atomic<bool> m_bDisconnecting{false};
+    std::atomic<int> m_eState{stateDisconnected};
     std::atomic<bool> m_bConnected{false};
+    std::atomic<bool> m_bStreamRequested{false};
     std::atomic<bool> m_bAcqModeEnable{true};
     bool m_bInitialized = false;
-    bool m_bOfflineCleanup = false;   // the connect worker tears down a lost connection
-    unsigned int m_nGevSCPHostPort = 0;
+    bool m_bCloseAfterConnect = false;   // a close was asked for during the connection
+    bool m_bOfflineCleanup = false;      // the worker tears down a lost connection
+    quint64 m_nGeneration = 0;           // number of the request whose result is awaited
+    std::atomic<unsigned int> m_nGevSCPHostPort{0};
     Vorlen::GenICam::ECameraAccessPermission m_eAccessPermission = Vorlen::GenICam::accessPermissionUnknown;
     QString m_strCurFile;
 };

@@ -14,6 +14,7 @@ const char* const kBroadcastAddress = "255.255.255.255";
 
 QMutex g_instanceMutex;
 CDiscoveryDevicesThread* g_instance = nullptr;
+bool g_shutDown = false;
 std::shared_ptr<IDiscoverySystem> g_defaultSystem;
 
 // Deletes the singleton at process exit.
@@ -41,7 +42,7 @@ bool CSdkDiscoverySystem::getCameraPtrAll(CameraPtrVector& cameras)
 CDiscoveryDevicesThread* CDiscoveryDevicesThread::getInstance()
 {
     QMutexLocker locker(&g_instanceMutex);
-    if (!g_instance)
+    if (!g_instance && !g_shutDown)
     {
         g_instance = new CDiscoveryDevicesThread(g_defaultSystem);
         // Stop the worker while the application and the camera library are
@@ -71,6 +72,15 @@ void CDiscoveryDevicesThread::destroyInstance()
         g_instance = nullptr;
     }
     delete instance;
+}
+
+void CDiscoveryDevicesThread::shutdownInstance()
+{
+    {
+        QMutexLocker locker(&g_instanceMutex);
+        g_shutDown = true;
+    }
+    destroyInstance();
 }
 
 CDiscoveryDevicesThread::CDiscoveryDevicesThread(std::shared_ptr<IDiscoverySystem> system, QObject* parent)

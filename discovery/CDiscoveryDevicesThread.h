@@ -49,10 +49,14 @@ public:
         flagStartup = 8            // first pass at start-up; no effect here
     };
 
+    // Created on first use; null once shutdownInstance() has run.
     static CDiscoveryDevicesThread* getInstance();
     // Stops and deletes the singleton; the next getInstance() makes a new
-    // one. For an orderly shutdown and for tests.
+    // one. For tests.
     static void destroyInstance();
+    // The application's end: stops and deletes the singleton (a pass under
+    // way finishes first) and no new one is made afterwards.
+    static void shutdownInstance();
     // The system the next singleton is built with (null: the camera library).
     // Lets tests run the device manager on stand-in cameras.
     static void setDefaultSystem(std::shared_ptr<IDiscoverySystem> system);

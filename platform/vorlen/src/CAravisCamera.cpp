@@ -1,7 +1,10 @@
 #include "CAravisCamera.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cctype>
+#include <chrono>
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -168,6 +171,20 @@ struct CAravisCamera::SPrivate
 
     std::atomic<bool> connected{false};
     std::atomic<unsigned int> answerTimeoutMs{1000};
+    // Heartbeat interval as configured (before any raise of the camera's
+    // register); the loss watchdog reports a camera silent for this long.
+    std::atomic<unsigned int> heartbeatMs{1500};
+
+    // Loss watchdog of a connected GigE Vision camera.
+    std::thread watchdog;
+    std::mutex watchdogMutex;
+    std::condition_variable watchdogWake;
+    bool watchdogStop = false;
+
+    // A lost camera's Aravis object: releasing it waits for Aravis' own
+    // heartbeat thread to give up, so it is released by the next disconnect
+    // or connect (on the caller's worker), never on the event thread.
+    ArvCamera* lostCamera = nullptr;
 };
 
 CAravisCamera::CAravisCamera(const SDiscoveryInfo& info) : p(new SPrivate)
@@ -181,8 +198,70 @@ CAravisCamera::~CAravisCamera()
         std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
         if (p->connected)
             releaseConnection(true);
+        releaseLostCamera();
     }
     delete p;
+}
+
+void CAravisCamera::releaseLostCamera()
+{
+    // Caller holds gcMutex.
+    if (p->lostCamera) {
+        g_object_unref(p->lostCamera);
+        p->lostCamera = nullptr;
+    }
+}
+
+void CAravisCamera::startWatchdog(uint32_t cameraIp, uint64_t generation)
+{
+    // Caller holds gcMutex. Aravis notices a lost camera only after about
+    // five seconds of retries whatever the heartbeat; this reads the
+    // camera's control-channel privilege register over our own socket and
+    // reports the camera lost once it has not answered for one heartbeat
+    // interval, so the loss is known within about twice that interval.
+    {
+        std::lock_guard<std::mutex> lock(p->watchdogMutex);
+        p->watchdogStop = false;
+    }
+    std::weak_ptr<CAravisCamera> weak = p->self;
+    SPrivate* d = p;
+    p->watchdog = std::thread([d, weak, cameraIp, generation] {
+        using Clock = std::chrono::steady_clock;
+        Clock::time_point lastAnswer = Clock::now();
+        for (;;) {
+            const unsigned int heartbeat = std::max(200u, d->heartbeatMs.load());
+            const unsigned int step = heartbeat / 4;
+            const unsigned int timeout = std::min(step, std::max(50u, d->answerTimeoutMs.load()));
+            uint32_t value = 0;
+            const int result = Gvcp::readRegister(cameraIp, Gvcp::REG_CCP, value, timeout);
+            const Clock::time_point now = Clock::now();
+            if (result != ERR_TIMEOUT) {
+                lastAnswer = now;
+            } else if (now - lastAnswer >= std::chrono::milliseconds(heartbeat)) {
+                LOG_WARN("camera at %s silent for %u ms", Gvcp::ipToString(cameraIp).c_str(), heartbeat);
+                EventHub::post([weak, generation] {
+                    if (auto camera = weak.lock())
+                        camera->handleLost(generation);
+                });
+                return;
+            }
+            std::unique_lock<std::mutex> lock(d->watchdogMutex);
+            if (d->watchdogWake.wait_for(lock, std::chrono::milliseconds(step), [d] { return d->watchdogStop; }))
+                return;
+        }
+    });
+}
+
+void CAravisCamera::stopWatchdog()
+{
+    // Caller holds gcMutex; the watchdog never takes it.
+    {
+        std::lock_guard<std::mutex> lock(p->watchdogMutex);
+        p->watchdogStop = true;
+    }
+    p->watchdogWake.notify_all();
+    if (p->watchdog.joinable())
+        p->watchdog.join();
 }
 
 Memory::TSharedPtr<CAravisCamera> CAravisCamera::create(const SDiscoveryInfo& info)
@@ -266,6 +345,7 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
 {
     std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
     const SDiscoveryInfo info = discoveryInfo();
+    releaseLostCamera();
     if (p->connected) {
         setLastError(ERR_ALREADY_CONNECTED, info.key.c_str());
         return false;
@@ -369,6 +449,11 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
     p->lostHandler = g_signal_connect_data(arv_camera_get_device(camera), "control-lost", G_CALLBACK(onControlLost),
                                            ctx, deleteLostContext, GConnectFlags(0));
     p->connected = true;
+    if (info.type == typeGigEVision) {
+        uint32_t cameraIp = 0;
+        if (Gvcp::parseIp(info.ipAddress.c_str(), cameraIp))
+            startWatchdog(cameraIp, p->generation);
+    }
     LOG_DEBUG("connected %s", info.key.c_str());
 
     if (info.type == typeGigEVision && EventHub::hasSubscribers(this, EventHub::kindMsgChannel))
@@ -380,6 +465,7 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
 void CAravisCamera::releaseConnection(bool cameraAlive)
 {
     // Caller holds gcMutex.
+    stopWatchdog();
     if (p->channel) {
         if (cameraAlive && p->camera)
             arv_device_write_register(arv_camera_get_device(p->camera), Gvcp::REG_MCP, 0, nullptr);
@@ -399,8 +485,10 @@ void CAravisCamera::releaseConnection(bool cameraAlive)
         g_object_unref(camera);
     } else {
         // Releasing a vanished camera waits for its control channel to time
-        // out; that must not hold up anybody.
-        std::thread([camera] { g_object_unref(camera); }).detach();
+        // out; that must not hold up the event thread. The next disconnect
+        // or connect releases it.
+        releaseLostCamera();
+        p->lostCamera = camera;
     }
 }
 
@@ -411,6 +499,7 @@ bool CAravisCamera::disConnect()
         releaseConnection(true);
         LOG_DEBUG("disconnected %s", getKey().c_str());
     }
+    releaseLostCamera();
     clearLastError();
     return true;
 }
@@ -470,9 +559,15 @@ bool CAravisCamera::setHeartbeatIntervel(unsigned short ms)
         setLastError(ERR_NOT_CONNECTED, getKey().c_str());
         return false;
     }
+    // Loss detection follows the configured interval; the camera's own
+    // timeout keeps room for Aravis' heartbeat, which comes about once a
+    // second.
+    p->heartbeatMs = ms;
     unsigned int value = ms;
     if (value < kMinHeartbeatMs) {
-        LOG_WARN("heartbeat timeout %u ms raised to %u ms", value, kMinHeartbeatMs);
+        LOG_WARN("heartbeat timeout %u ms raised to %u ms on the camera (Aravis' heartbeat period is 1000 ms); "
+                 "loss is still detected after %u ms",
+                 value, kMinHeartbeatMs, value);
         value = kMinHeartbeatMs;
     }
     GError* error = nullptr;

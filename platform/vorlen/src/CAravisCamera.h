@@ -93,6 +93,9 @@ public:
 
 private:
     void releaseConnection(bool cameraAlive);
+    void releaseLostCamera();
+    void startWatchdog(uint32_t cameraIp, uint64_t generation);
+    void stopWatchdog();
 
     mutable std::recursive_mutex m_gcMutex;
     struct SPrivate;
