@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <QWidget>
 
 #include "CConfiguration.h"
 #include "StyleSheet.h"
