@@ -61,13 +61,14 @@ void CCollapsiblePanel::setCollapsed(bool collapsed)
         if (m_content)
             m_content->hide();
         setFixedWidth(kStripWidth);
+        resizeInSplitter(kStripWidth);
     } else {
         m_collapsed = false;
         setMinimumWidth(0);
         setMaximumWidth(QWIDGETSIZE_MAX);
         if (m_content)
             m_content->show();
-        giveWidthInSplitter(m_expandedWidth);
+        resizeInSplitter(m_expandedWidth);
         if (!qobject_cast<QSplitter*>(parentWidget()))
             resize(m_expandedWidth, height());
     }
@@ -75,26 +76,24 @@ void CCollapsiblePanel::setCollapsed(bool collapsed)
     emit collapsedChanged(m_collapsed);
 }
 
-void CCollapsiblePanel::giveWidthInSplitter(int width)
+void CCollapsiblePanel::resizeInSplitter(int width)
 {
+    // The width taken or given back goes to the widest other pane (the
+    // video area), so the other side panel keeps its width.
     auto* splitter = qobject_cast<QSplitter*>(parentWidget());
     if (!splitter)
         return;
     const int self = splitter->indexOf(this);
     QList<int> sizes = splitter->sizes();
-    if (self < 0 || sizes.isEmpty())
+    if (self < 0 || sizes.size() < 2)
         return;
-    int donor = -1;
+    int other = -1;
     for (int i = 0; i < sizes.size(); ++i)
-        if (i != self && (donor < 0 || sizes[i] > sizes[donor]))
-            donor = i;
-    if (donor < 0)
-        return;
-    const int extra = qMin(width - sizes[self], sizes[donor]);
-    if (extra <= 0)
-        return;
-    sizes[self] += extra;
-    sizes[donor] -= extra;
+        if (i != self && (other < 0 || sizes[i] > sizes[other]))
+            other = i;
+    const int delta = qMin(width - sizes[self], sizes[other]);
+    sizes[self] += delta;
+    sizes[other] -= delta;
     splitter->setSizes(sizes);
 }
 

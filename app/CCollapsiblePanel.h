@@ -45,7 +45,7 @@ protected:
 
 private:
     void updateToggle();
-    void giveWidthInSplitter(int width);
+    void resizeInSplitter(int width);
 
     ESide m_side;
     QHBoxLayout* m_layout;
