@@ -132,6 +132,7 @@ void CPropertyFeaturesForm::buildUi()
 
 void CPropertyFeaturesForm::init()
 {
+    qRegisterMetaType<QtProperty*>("QtProperty*");
     buildUi();
     connect(m_browser, &QtAbstractPropertyBrowser::currentItemChanged, this,
             &CPropertyFeaturesForm::onPropertyBrowserItemChanged);
@@ -206,7 +207,10 @@ void CPropertyFeaturesForm::init()
     m_pCmdThread->start(QThread::InheritPriority);
     m_pUpdateThread->start(QThread::InheritPriority);
     m_pWriteThread->start(QThread::InheritPriority);
-    m_pLoadThread->start(QThread::InheritPriority);
+    // The load starts on the next pass of the event loop, once the creator
+    // has wired the page up.
+    QMetaObject::invokeMethod(
+        this, [this]() { m_pLoadThread->start(QThread::InheritPriority); }, Qt::QueuedConnection);
 }
 
 int CPropertyFeaturesForm::showMessage(const QString& text, QMessageBox::StandardButtons buttons,

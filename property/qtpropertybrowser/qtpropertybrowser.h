@@ -366,3 +366,6 @@ private:
     QMap<QtAbstractPropertyManager*, QtAbstractEditorFactoryBase*> m_managerToFactory;
     QtBrowserItem* m_currentItem = nullptr;
 };
+
+Q_DECLARE_METATYPE(QtProperty*)
+Q_DECLARE_METATYPE(QtBrowserItem*)
