@@ -106,6 +106,9 @@ void TestVideoviewRender::bayerAtReducedSizeMatchesReference()
                      qPrintable(QString("pixel %1,%2 is %3").arg(ox).arg(oy).arg(rgbText(px))));
         }
 
+    // The frame's own full conversion is never needed for it.
+    QVERIFY(!frame->isConverted());
+
     // Exactly half size: the half-size demosaic itself.
     QVERIFY(renderer.render(*frame, { QRect(0, 0, w, h), QSize(32, 16), bayerBilinear }, out));
     for (int cy = 0; cy < 16; ++cy)
@@ -180,6 +183,7 @@ void TestVideoviewRender::monoAtReducedSizeAndZoomedIn()
             QVERIFY2(near(qRed(px), (sum + 8) / 16) && qRed(px) == qGreen(px) && qGreen(px) == qBlue(px),
                      qPrintable(QString("pixel %1,%2 is %3").arg(ox).arg(oy).arg(rgbText(px))));
         }
+    QVERIFY(!frame->isConverted());
     // Four times zoomed into a region: every image pixel becomes a 4x4 block.
     QVERIFY(renderer.render(*frame, { QRect(10, 6, 8, 4), QSize(32, 16) }, out));
     for (int y = 0; y < 16; ++y)

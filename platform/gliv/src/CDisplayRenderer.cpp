@@ -89,15 +89,7 @@ cv::Mat wrapOutput(QImage& out)
 
 int CDisplayRenderer::rawStride(const CQtHybridFrame& frame, int bytesPerPixel)
 {
-    const int w = int(frame.getWidth());
-    const int h = int(frame.getHeight());
-    const int packed = w * bytesPerPixel;
-    if (h <= 0)
-        return packed;
-    // Lines carry their padding in the raw copy; the trailing padding of the
-    // image is at most a line, so the division finds the line length.
-    const int64_t perLine = int64_t(frame.getRawDataSize()) / h;
-    return perLine > packed ? int(perLine) : packed;
+    return int(frame.getWidth()) * bytesPerPixel + int(frame.getPaddingX());
 }
 
 void CDisplayRenderer::demosaicHalf(const uint8_t* raw, int stride, uint32_t pixelFormat, int cellsX, int cellsY,
@@ -132,9 +124,10 @@ bool CDisplayRenderer::render(const CQtHybridFrame& frame, const SRenderRequest&
         return false;
 
     const uint32_t pf = frame.getPixelFormat();
+    const bool jpeg = frame.getPayloadType() == payloadTypeJpeg;
     SBayerCell cell;
     try {
-        if (bayer8Cell(pf, cell)) {
+        if (!jpeg && bayer8Cell(pf, cell)) {
             // Keep the pattern's phase: the region starts on an even pixel.
             src.setLeft(src.left() & ~1);
             src.setTop(src.top() & ~1);
@@ -176,7 +169,7 @@ bool CDisplayRenderer::render(const CQtHybridFrame& frame, const SRenderRequest&
             return true;
         }
 
-        if (pf == PixelFormat::Mono8) {
+        if (!jpeg && pf == PixelFormat::Mono8) {
             const int stride = rawStride(frame, 1);
             if (int64_t(stride) * imageRect.height() > int64_t(frame.getRawDataSize()))
                 return false;
@@ -226,7 +219,8 @@ bool CDisplayRenderer::probePixel(const CQtHybridFrame& frame, int x, int y, QSt
     const int w = int(frame.getWidth());
     const int h = int(frame.getHeight());
     const uint8_t* data = frame.getRawData();
-    if (x < 0 || y < 0 || x >= w || y >= h || data == nullptr)
+    if (x < 0 || y < 0 || x >= w || y >= h || data == nullptr
+        || frame.getPayloadType() == payloadTypeJpeg)
         return false;
     const uint32_t pf = frame.getPixelFormat();
     const uint64_t size = frame.getRawDataSize();
