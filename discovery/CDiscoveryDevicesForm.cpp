@@ -804,13 +804,15 @@ void CDiscoveryDevicesForm::refleshItemButtons(QTreeWidgetItem* item)
         form->disableAll();
         return;
     }
-    if (device->isConnecting() || device->isDisconnecting()) {
-        refleshDisconnectStatInfo(form, item->type() == treeItemGigEDevice);
-        if (device->isDisconnecting())
-            refleshConnectStatInfo(form);
+    if (device->isDisconnecting()) {
+        refleshConnectStatInfo(form);
         form->disableAll();
     } else if (device->isConnected()) {
+        // Connected, possibly still applying its settings: it can be closed.
         refleshConnectStatInfo(form);
+    } else if (device->isConnecting()) {
+        refleshDisconnectStatInfo(form, item->type() == treeItemGigEDevice);
+        form->disableAll();
     } else if (item->type() == treeItemGigEDevice && !isValidIp(item)) {
         refleshIpValidStatInfo(form);
     } else if (item->type() == treeItemUsbDevice) {
