@@ -21,7 +21,10 @@ QTableWidget* makeTable(QWidget* parent, const QString& name)
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setFocusPolicy(Qt::NoFocus);
-    table->setWordWrap(true);
+    table->setWordWrap(false);
+    table->setAlternatingRowColors(true);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->verticalHeader()->setDefaultSectionSize(30);
     return table;
 }
 } // namespace
@@ -31,7 +34,7 @@ CHelpDlg::CHelpDlg(QWidget* parent)
 {
     setObjectName(QStringLiteral("CHelpDlg"));
     setAttribute(Qt::WA_StyledBackground, true);
-    resize(640, 460);
+    resize(720, 340);
 
     m_titleBar = new CDialogTitleBar(this);
     m_tabs = new QTabWidget(this);
@@ -71,7 +74,6 @@ void CHelpDlg::fillTable(QTableWidget* table, const QList<SAction>& rows)
         table->setItem(i, 0, new QTableWidgetItem(tr(rows[i].input)));
         table->setItem(i, 1, new QTableWidgetItem(tr(rows[i].effect)));
     }
-    table->resizeRowsToContents();
 }
 
 void CHelpDlg::retranslate()

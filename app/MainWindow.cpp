@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QIcon>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -127,6 +128,11 @@ void MainWindow::createAreas()
     m_rightPanel->setExpandedWidth(360);
     m_splitter->setSizes({300, 740, 360});
     setCentralWidget(m_splitter);
+
+    // A label, not a status message: menu hints would wipe a message.
+    m_statusLabel = new QLabel(this);
+    m_statusLabel->setObjectName(QStringLiteral("lblMainStatus"));
+    statusBar()->addWidget(m_statusLabel, 1);
 }
 
 QWidget* MainWindow::placePanel(QWidget* panel, QWidget*& slot, const QString& name)
@@ -254,11 +260,11 @@ void MainWindow::retranslate()
     m_actionHelp->setText(tr("Mouse and keyboard..."));
     m_actionAbout->setText(tr("About Lumidor..."));
     if (m_closingDevices)
-        statusBar()->showMessage(tr("Closing cameras..."));
+        m_statusLabel->setText(tr("Closing cameras..."));
     else if (m_cameraCount < 0)
-        statusBar()->showMessage(tr("Searching for cameras..."));
+        m_statusLabel->setText(tr("Searching for cameras..."));
     else
-        statusBar()->showMessage(tr("Cameras found: %1").arg(m_cameraCount));
+        m_statusLabel->setText(tr("Cameras found: %1").arg(m_cameraCount));
     if (m_closeWait) {
         m_closeWait->setTitle(tr("Exit"));
         m_closeWait->setText(tr("Closing cameras, please wait..."));

@@ -10,6 +10,7 @@
 
 class QAction;
 class QActionGroup;
+class QLabel;
 class QMenu;
 class QSplitter;
 class CCollapsiblePanel;
@@ -100,6 +101,7 @@ private:
     QWidget* m_deviceListArea = nullptr;
     QWidget* m_videoArea = nullptr;
     QWidget* m_propertyArea = nullptr;
+    QLabel* m_statusLabel = nullptr;
 
     QMenu* m_fileMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
