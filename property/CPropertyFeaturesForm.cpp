@@ -119,7 +119,6 @@ void CPropertyFeaturesForm::buildUi()
     m_browser = new QtTreePropertyBrowser(splitter);
     m_browser->setObjectName("propertyBrowser");
     m_browser->setHeaderVisible(false);
-    m_browser->setResizeMode(QtTreePropertyBrowser::Interactive);
     m_textDesc = new QTextEdit(splitter);
     m_textDesc->setObjectName("textEditDesc");
     m_textDesc->setReadOnly(true);

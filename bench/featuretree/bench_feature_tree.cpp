@@ -19,6 +19,7 @@
 #include "CDeviceManager.h"
 #include "CPropertyFeaturesForm.h"
 #include "CTavDevice.h"
+#include "qttreepropertybrowser.h"
 
 static QString largeXml()
 {
@@ -112,6 +113,15 @@ int main(int argc, char** argv)
             form->resize(600, 900);
             form->show();
             QApplication::processEvents();
+            // LUMIDOR_SCREENSHOT=file.png keeps a picture of the loaded page.
+            const QString shot = qEnvironmentVariable("LUMIDOR_SCREENSHOT");
+            if (!shot.isEmpty())
+            {
+                QtTreePropertyBrowser* browser = form->browser();
+                browser->setCurrentItem(browser->items(form->findProperty("Width")).value(0));
+                QApplication::processEvents();
+                form->grab().save(shot);
+            }
             const QString word = "exposure";
             QList<double> strokes;
             for (int n = 1; n <= word.size(); ++n)

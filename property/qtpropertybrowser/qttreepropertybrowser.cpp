@@ -405,11 +405,15 @@ void QtTreePropertyBrowser::UpdateShow()
             flag = true;
         }
     }
-    const bool updates = m_treeWidget->updatesEnabled();
-    m_treeWidget->setUpdatesEnabled(false);
+    // Only a tree that paints is paused and resumed here: one whose updates
+    // are off (its own or a parent's) is left as its owner set it.
+    const bool pause = m_treeWidget->updatesEnabled();
+    if (pause)
+        m_treeWidget->setUpdatesEnabled(false);
     for (QTreeWidgetItem* item : qAsConst(order))
         ShowItem(item, shown.value(item));
-    m_treeWidget->setUpdatesEnabled(updates);
+    if (pause)
+        m_treeWidget->setUpdatesEnabled(true);
 }
 
 void QtTreePropertyBrowser::getShowedProperties(QList<QtProperty*>& properties)
