@@ -101,6 +101,12 @@ void TestPropertyBrowser::filterByKeyAndLevel()
     QVERIFY(!shown(browser, t.bExpert));
     QVERIFY(!shown(browser, t.aBeginner));
 
+    // Filtering while the browser is paused leaves the tree painting afterwards.
+    browser.setUpdatesEnabled(false);
+    browser.setShowType(1);
+    browser.setUpdatesEnabled(true);
+    QVERIFY(browser.treeWidget()->updatesEnabled());
+
     bool ok = false;
     QVERIFY(browser.isPropertyInvisible(t.deep, 1, &ok));
     QVERIFY(ok);
