@@ -2,7 +2,7 @@
 
 #include <QHostAddress>
 
-#include "FeatureTransTables.h"
+#include "ParamTransTables.h"
 #include "qtpropertybrowser/DecoratedDoublePropertyManager.h"
 #include "qtpropertybrowser/qtpropertymanager.h"
 

@@ -19,7 +19,7 @@
 #include "CUpdateParamThread.h"
 #include "CWaitDlg.h"
 #include "CWriteParamThread.h"
-#include "FeatureTransTables.h"
+#include "ParamTransTables.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 #include "Utils.h"
 #include "qtpropertybrowser/DecoratedDoublePropertyManager.h"

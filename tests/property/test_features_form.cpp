@@ -19,7 +19,7 @@
 #include "CFeatureTreeBuilder.h"
 #include "CPropertyFeaturesForm.h"
 #include "CTavDevice.h"
-#include "FeatureTransTables.h"
+#include "ParamTransTables.h"
 #include "DecoratedDoublePropertyManager.h"
 #include "QtPushButtonFactory.h"
 #include "qtpropertymanager.h"
