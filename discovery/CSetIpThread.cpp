@@ -2,6 +2,7 @@
 
 #include "CDeviceManager.h"
 #include "CTavDevice.h"
+#include "Vorlen/GenICam.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
 CSetIpThread::CSetIpThread(QObject* parent) : QThread(parent) {}
@@ -28,6 +29,31 @@ void CSetIpThread::stop()
         wait();
 }
 
+bool CSetIpThread::writePersistentIp(const QString& key, const QString& ip, const QString& mask,
+                                     const QString& gateway)
+{
+    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key);
+    if (!device) {
+        LOG_ERROR("getDeviceByKey failed. [%s]", key.toLocal8Bit().constData());
+        return false;
+    }
+    // The features are written over a control session: a camera that is not
+    // open (the usual case after Force IP) gets a short one of its own.
+    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalCamera> camera = device->getInternalDevice();
+    bool ownSession = false;
+    if (!device->isConnected()) {
+        if (!camera || !camera->connect(Vorlen::GenICam::accessPermissionControl)) {
+            LOG_ERROR("connect for the persistent IP failed. [%s]", key.toLocal8Bit().constData());
+            return false;
+        }
+        ownSession = true;
+    }
+    const bool ok = device->setPersistentIp(ip, mask, gateway);
+    if (ownSession)
+        camera->disConnect();
+    return ok;
+}
+
 void CSetIpThread::run()
 {
     LOG_DEBUG("SetIpThread run begin");
@@ -43,13 +69,7 @@ void CSetIpThread::run()
         m_bPending = false;
         m_mutex.unlock();
 
-        bool ok = false;
-        CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key);
-        if (device)
-            ok = device->setPersistentIp(ip, mask, gateway);
-        else
-            LOG_ERROR("getDeviceByKey failed. [%s]", key.toLocal8Bit().constData());
-        emit signalSetIpEnd(ok);
+        emit signalSetIpEnd(writePersistentIp(key, ip, mask, gateway));
     }
     LOG_DEBUG("SetIpThread run end");
 }

@@ -25,6 +25,9 @@ protected:
     void run() override;
 
 private:
+    // Connects for the write when the camera is not open, and closes again.
+    static bool writePersistentIp(const QString& key, const QString& ip, const QString& mask, const QString& gateway);
+
     QMutex m_mutex;
     QString m_strKey;
     QString m_strIp;

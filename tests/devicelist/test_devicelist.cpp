@@ -26,6 +26,7 @@
 #include "CWaitDlg.h"
 #include "DeviceListTestSupport.h"
 #include "DiscoveryItemTypes.h"
+#include "Tavlog4cpp/CTavLog.h"
 
 static const bool g_ownHome = []() {
     if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
@@ -82,6 +83,9 @@ bool TestDeviceList::waitIcon(int slot, int icon)
 
 void TestDeviceList::initTestCase()
 {
+    // LUMIDOR_TEST_LOG=1 shows the application log on standard error.
+    if (!qEnvironmentVariableIsEmpty("LUMIDOR_TEST_LOG"))
+        Tavlog4cpp::CTavLog::LoadDefault();
     for (const char* address : m_address)
         if (!FakeCameraRig::hasAddress(address))
             QFAIL(qPrintable(QString("%1 is not on the loopback interface: run inside scripts/netns.sh "
@@ -295,8 +299,8 @@ void TestDeviceList::menuAndDoubleClickConnect()
         texts << (action->isSeparator() ? QString("-") : action->text());
     QCOMPARE(texts, QStringList({"Connect", "Open Config", "Save Config", "-", "Start Acquisition", "-", "Force IP",
                                  "Set DeviceUserID", "-", "Save GenICam XML", "Copy Device Info"}));
-    m_form->actionConnect()->trigger();
     m_form->deviceMenu()->close();
+    m_form->actionConnect()->trigger();
     QVERIFY(opened.wait(15000));
     QVERIFY(device->isConnected());
     QVERIFY(waitIcon(1, CDiscoveryDevicesForm::iconConnected));
@@ -305,17 +309,20 @@ void TestDeviceList::menuAndDoubleClickConnect()
     QSignalSpy closed(m_form, &CDiscoveryDevicesForm::closeDeviceSuccess);
     m_form->ShowContextMenu(at);
     QCOMPARE(m_form->actionConnect()->text(), QString("Disconnect"));
-    m_form->actionConnect()->trigger();
     m_form->deviceMenu()->close();
+    m_form->actionConnect()->trigger();
     QVERIFY(closed.wait(15000));
     QVERIFY(!device->isConnected());
 
     // A double click connects; on a connected row it does nothing more.
     opened.clear();
+    // (an item view takes a double click only after the press that precedes it)
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
     QVERIFY(opened.wait(15000));
     QVERIFY(device->isConnected());
     QCOMPARE(m_form->currentItem(), item);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
     QVERIFY(device->isConnected());
     closed.clear();
