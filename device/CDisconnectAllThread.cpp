@@ -52,10 +52,7 @@ void CDisconnectAllThread::shutdownInstance(int waitMs)
 
 CDisconnectAllThread::CDisconnectAllThread(QObject* parent) : QThread(parent)
 {
-    auto clock = std::make_shared<QElapsedTimer>();
-    clock->start();
-    m_now = [clock]() { return clock->elapsed(); };
-    m_pause = [](int ms) { QThread::msleep(static_cast<unsigned long>(ms)); };
+    setClock(nullptr, nullptr);
 }
 
 CDisconnectAllThread::~CDisconnectAllThread()
@@ -65,6 +62,14 @@ CDisconnectAllThread::~CDisconnectAllThread()
 
 void CDisconnectAllThread::setClock(std::function<qint64()> now, std::function<void(int)> pause)
 {
+    if (!now || !pause)
+    {
+        // Back to the monotonic clock.
+        auto clock = std::make_shared<QElapsedTimer>();
+        clock->start();
+        now = [clock]() { return clock->elapsed(); };
+        pause = [](int ms) { QThread::msleep(static_cast<unsigned long>(ms)); };
+    }
     m_now = std::move(now);
     m_pause = std::move(pause);
 }

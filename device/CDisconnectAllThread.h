@@ -23,7 +23,8 @@ public:
     static const int kTimeoutMs = 5000;
 
     // Clock of the wait (ms of a monotonic clock) and the pause between two
-    // polls; tests put a simulated clock in their place. Set before start().
+    // polls; tests put a simulated clock in their place (null: the real
+    // one). Set before start().
     void setClock(std::function<qint64()> now, std::function<void(int)> pause);
 
     ~CDisconnectAllThread() override;

@@ -1,5 +1,6 @@
 #include "CTavDevice.h"
 
+#include <QCoreApplication>
 #include <QHostAddress>
 #include <QThread>
 
@@ -267,9 +268,7 @@ bool CTavDevice::openDevice(bool bSync)
     if (!bSync)
         return true;
 
-    // The result is taken here; the queued copy finds its request answered.
-    m_pConnectThread->waitIdle();
-    onConnectResult(m_bConnected, generation);
+    deliverWorkerResults();
     return m_eState == stateConnected;
 }
 
@@ -319,6 +318,14 @@ bool CTavDevice::connectOnWorker(const SLinkSettings& link)
         LOG_ERROR("resetStatisticsInfo fail. [%s]", errorText().constData());
     setStreamObjects(stream, events);
     return true;
+}
+
+void CTavDevice::deliverWorkerResults()
+{
+    // Synchronous callers: wait for the worker, then deliver what it queued
+    // for this thread (bus messages and results) in the order it was sent.
+    m_pConnectThread->waitIdle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
 }
 
 void CTavDevice::onConnectResult(bool ok, quint64 generation)
@@ -427,15 +434,10 @@ bool CTavDevice::closeDevice(bool bSync)
         LOG_DEBUG("close asked for during the connection; it follows the connection. [%s]", key.constData());
         if (!bSync)
             return true;
-        m_pConnectThread->waitIdle();
-        onConnectResult(m_bConnected, m_nGeneration);
         // A connection that failed leaves nothing to close; a successful one
-        // has started the close: wait for it too.
-        if (m_eState == stateDisconnecting)
-        {
-            m_pConnectThread->waitIdle();
-            onDisconnectResult(true, m_nGeneration);
-        }
+        // starts the close when its result is handled: wait for that too.
+        deliverWorkerResults();
+        deliverWorkerResults();
         return m_eState == stateDisconnected;
     case stateConnected:
         break;
@@ -444,18 +446,17 @@ bool CTavDevice::closeDevice(bool bSync)
     m_eState = stateDisconnecting;
     m_bStreamRequested = false;
     const quint64 generation = ++m_nGeneration;
-    emitStatus(MSG_DEVICE_DISCONNECTING);
     postJob([this, generation]() {
+        // Announced from the worker, so that it follows whatever the worker
+        // reported before (a stream that opened just now).
+        emitStatus(MSG_DEVICE_DISCONNECTING);
         closeStreamOnWorker();
         const bool ok = disconnectOnWorker(false);
         emit m_pConnectThread->device_disconnect(ok, generation);
         LOG_DEBUG("CDeviceConnectThread run end");
     });
     if (bSync)
-    {
-        m_pConnectThread->waitIdle();
-        onDisconnectResult(true, generation);
-    }
+        deliverWorkerResults();
     LOG_DEBUG("end to closeDevice. [%s]", key.constData());
     return true;
 }
@@ -512,6 +513,12 @@ void CTavDevice::onDeviceOffline()
 
     const QByteArray key = m_strKey.toLocal8Bit();
     LOG_WARN("Device offline.Device Key[%s]", key.constData());
+    if (m_eState == stateDisconnecting)
+    {
+        // A close is already taking the connection down; it ends with
+        // message 5 as asked.
+        return;
+    }
 
     m_bConnected = false;
     m_bStreamRequested = false;

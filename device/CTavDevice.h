@@ -190,6 +190,7 @@ private:
     CTavDevicePtr self();
     // Queues work on the worker; the job keeps the device alive until it ran.
     void postJob(std::function<void()> job);
+    void deliverWorkerResults();
     // Worker side of the requests.
     bool connectOnWorker(const SLinkSettings& link);
     void openStreamOnWorker(const SStreamSettings& settings);

@@ -11,6 +11,11 @@
 #include "TestFiles.h"
 
 #include "CConfiguration.h"
+#include "Tavlog4cpp/CTavLog.h"
+
+#include <log4cpp/Category.hh>
+#include <log4cpp/StringQueueAppender.hh>
+#include <sys/stat.h>
 
 namespace {
 
@@ -303,6 +308,76 @@ private slots:
         QCOMPARE(c->iMaximumLostPacketNum, 8u);
         QCOMPARE(visibility.count(), 1);
         QCOMPARE(visibility.at(0).at(0).toInt(), 2);
+        c->init();
+    }
+
+    // Something other than a regular file where a configuration file should
+    // be (a FIFO would block the reader for ever): not read, the reason
+    // logged, nothing changed; the language settings fall back to defaults.
+    void nonRegularFilesAreIgnored()
+    {
+        CConfiguration* c = cfg();
+        c->init();
+        const QString fifo = m_work + QStringLiteral("fifo.tavcfg");
+        QVERIFY(::mkfifo(QFile::encodeName(fifo).constData(), 0600) == 0);
+        log4cpp::StringQueueAppender* log = new log4cpp::StringQueueAppender("capture");
+        Tavlog4cpp::CTavLog::Logger_vintrel()->addAppender(log);
+
+        c->iHeartbeatIval = 4321;
+        QVERIFY(!c->restoreConfig(fifo, true));
+        QVERIFY(!c->hasLumidorElement(fifo));
+        QVERIFY(!c->restoreConfig(m_work, true));   // a directory
+        QCOMPARE(c->iHeartbeatIval, uint16_t(4321));
+
+        QString lines;
+        while (!log->getQueue().empty()) {
+            lines += QString::fromStdString(log->getQueue().front());
+            log->getQueue().pop();
+        }
+        Tavlog4cpp::CTavLog::Logger_vintrel()->removeAppender(log);
+        QVERIFY2(lines.contains(QStringLiteral("not a regular file, ignored. path: [") + fifo + "]"), qPrintable(lines));
+        QVERIFY2(lines.contains(QStringLiteral("not a regular file, ignored. path: [") + m_work), qPrintable(lines));
+
+        // language.ini as a FIFO.
+        QFile::remove(c->languageIniPath());
+        QVERIFY(::mkfifo(QFile::encodeName(c->languageIniPath()).constData(), 0600) == 0);
+        QCOMPARE(c->readLanguageSetting(), 0);
+        QCOMPARE(c->readFeatureLanguageSetting(), 1);
+        QFile::remove(c->languageIniPath());
+        QFile::remove(fifo);
+        c->init();
+    }
+
+    // The file is written beside the old one and renamed over it: the old
+    // file is never truncated (a new inode replaces it), and a write that
+    // cannot complete reports failure and leaves what was there untouched,
+    // with no temporary file left behind.
+    void writeReplacesFileWhole()
+    {
+        CConfiguration* c = cfg();
+        c->init();
+        const QString path = m_work + QStringLiteral("kept.tavcfg");
+        QVERIFY(c->saveConfig(path));
+        const QByteArray before = readAll(path);
+        struct stat st1;
+        QVERIFY(::stat(QFile::encodeName(path).constData(), &st1) == 0);
+
+        c->iHeartbeatIval = 2222;
+        QVERIFY(c->saveConfig(path));
+        struct stat st2;
+        QVERIFY(::stat(QFile::encodeName(path).constData(), &st2) == 0);
+        QVERIFY(st1.st_ino != st2.st_ino);
+        QVERIFY(readAll(path).contains("<iHeartbeatIval>2222</iHeartbeatIval>"));
+        QVERIFY(readAll(path) != before);
+
+        // The rename cannot replace a directory: failure, nothing changed.
+        const QString blocked = m_work + QStringLiteral("blocked.tavcfg");
+        QVERIFY(QDir().mkpath(blocked + QStringLiteral("/inside")));
+        QVERIFY(!c->saveConfig(blocked));
+        QVERIFY(QFileInfo(blocked + QStringLiteral("/inside")).isDir());
+        QCOMPARE(QDir(m_work).entryList(QStringList() << QStringLiteral("blocked.tavcfg*"),
+                                        QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList() << QStringLiteral("blocked.tavcfg"));
         c->init();
     }
 };

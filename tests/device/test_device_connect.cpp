@@ -48,7 +48,7 @@ void TestDeviceConnect::initTestCase()
 {
     enableLogWhenAsked();
     if (m_rig.start("127.0.0.1", "LUMCONN1", std::string(), 320, 240, "Mono8") < 0)
-        QSKIP("the simulated camera cannot start on 127.0.0.1");
+        QFAIL("rig missing: the simulated camera cannot start on 127.0.0.1 (port 3956 taken or loopback down)");
 
     CDeviceManager* manager = CDeviceManager::getInstance();
     manager->attach(&m_bus);
@@ -92,15 +92,15 @@ void TestDeviceConnect::openStreamCloseRepeatedly()
         QVERIFY(m_device->isConnecting());
         QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key));
         QVERIFY(m_device->isConnected());
-        QVERIFY(!m_device->isConnecting());
-        QVERIFY(m_device->getStreamSource());
+        // The steps after the connection follow message 2 on the worker.
+        QTRY_VERIFY(!m_device->isConnecting() && m_device->getStreamSource());
         QVERIFY(m_device->getEventManager());
         QCOMPARE(manager->getOpenedDeviceCount(), 1);
 
         QVERIFY2(m_device->openStream(), qPrintable(QString("round %1").arg(round)));
+        QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, m_key));
         QVERIFY(m_device->isGrabing());
         QVERIFY(m_device->GetStreamThread()->isRunning());
-        QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, m_key));
         QTRY_VERIFY_WITH_TIMEOUT(counter.frames >= 3, 10000);
         QVERIFY(counter.valid == counter.frames || counter.valid > 0);
 
@@ -164,7 +164,9 @@ void TestDeviceConnect::synchronousOpenAndClose()
     QVERIFY(m_device->isConnected());
     QVERIFY(m_device->getStreamSource());
     QVERIFY(m_device->openStream());
-    // Already grabbing: a second open of the stream is refused.
+    // Already asked for: a second open of the stream is refused.
+    QVERIFY(!m_device->openStream());
+    QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, m_key));
     QVERIFY(!m_device->openStream());
     QVERIFY(m_device->closeDevice(true));
     QVERIFY(!m_device->isConnected());

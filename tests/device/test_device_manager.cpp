@@ -58,7 +58,7 @@ void TestDeviceManager::initTestCase()
 {
     enableLogWhenAsked();
     if (!FakeCameraRig::hasAddress(m_address[0]) || !FakeCameraRig::hasAddress(m_address[1]))
-        QSKIP("127.0.0.3 and 127.0.0.4 are not configured (scripts/loopback.sh adds them)");
+        QFAIL("rig missing: 127.0.0.3 and 127.0.0.4 are not on the loopback interface (run scripts/loopback.sh 5)");
     QVERIFY(startCamera(0));
     QVERIFY(startCamera(1));
 
@@ -95,17 +95,20 @@ void TestDeviceManager::disconnectAllClosesEveryDevice()
         QVERIFY(device->openDevice(false));
         QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, device->getDeviceKey()));
         QVERIFY(device->openStream());
+        QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, device->getDeviceKey()));
     }
     QCOMPARE(manager->getOpenedDeviceCount(), 2);
     QTRY_VERIFY_WITH_TIMEOUT(counter0.frames >= 2 && counter1.frames >= 2, 10000);
 
-    // The closes run on the devices' own thread, not on the worker: the
-    // device state is also changed there by connection results and losses.
+    // The closes run side by side, each on its own device's worker, not on
+    // the disconnect-all worker nor on the GUI thread.
     QList<QThread*> closingThreads;
+    QMutex closingMutex;
     QList<QMetaObject::Connection> watches;
     for (const CTavDevicePtr& device : devices)
         watches.append(connect(device.get(), &CTavDevice::device_status_changed, this,
-                               [&closingThreads](EN_MESSAGE_TYPE type, CTavDevicePtr) {
+                               [&closingThreads, &closingMutex](EN_MESSAGE_TYPE type, CTavDevicePtr) {
+                                   QMutexLocker locker(&closingMutex);
                                    if (type == MSG_DEVICE_DISCONNECTING)
                                        closingThreads.append(QThread::currentThread());
                                },
@@ -121,8 +124,9 @@ void TestDeviceManager::disconnectAllClosesEveryDevice()
     for (const QMetaObject::Connection& watch : watches)
         disconnect(watch);
     QCOMPARE(closingThreads.size(), 2);
+    QVERIFY(closingThreads[0] != closingThreads[1]);
     for (QThread* thread : closingThreads)
-        QCOMPARE(thread, QThread::currentThread());
+        QVERIFY(thread != QThread::currentThread() && thread != closer);
 
     QCOMPARE(manager->getOpenedDeviceCount(), 0);
     for (const CTavDevicePtr& device : devices)
@@ -155,6 +159,8 @@ void TestDeviceManager::offlineWhileStreamingThenBack()
     m_rig.stop(m_cam[0]);
     QVERIFY(m_bus.waitFor(MSG_DEVICE_OFFLINE, key, 30000));
     QVERIFY(!device->isConnected());
+    // The dead connection is taken down on the worker after the report.
+    QTRY_VERIFY_WITH_TIMEOUT(device->connectionState() == CTavDevice::stateDisconnected, 30000);
     QVERIFY(!device->GetStreamThread()->isRunning());
     QVERIFY(!device->getStreamSource());
     QCOMPARE(CDeviceManager::getInstance()->getOpenedDeviceCount(), 0);

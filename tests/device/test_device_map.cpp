@@ -3,6 +3,7 @@
 // a camera that takes long to close.
 #include <QSignalSpy>
 #include <QtTest>
+#include <QDeadlineTimer>
 #include <atomic>
 #include <memory>
 
@@ -36,6 +37,7 @@ public:
     bool isConnected() const override { return m_connected; }
     bool connect(ECameraAccessPermission) override
     {
+        QThread::msleep(connectDelayMs);
         if (!allowConnect)
             return false;
         m_connected = true;
@@ -44,6 +46,8 @@ public:
     bool disConnect() override
     {
         QThread::msleep(disconnectDelayMs);
+        while (hold)
+            QThread::msleep(5);
         m_connected = false;
         return true;
     }
@@ -60,6 +64,8 @@ public:
 
     std::atomic<bool> allowConnect{true};
     std::atomic<int> disconnectDelayMs{0};
+    std::atomic<bool> hold{false};
+    std::atomic<int> connectDelayMs{0};   // disConnect hangs while set
 
 private:
     std::string m_serial;
@@ -129,6 +135,7 @@ private slots:
     void mapFollowsTheCameras();
     void refreshPassesTheRequest();
     void disconnectAllGivesUp();
+    void disconnectAllWaitsForAConnection();
     void managerGoesAfterDisconnectAll();
 
 private:
@@ -255,21 +262,61 @@ void TestDeviceMap::disconnectAllGivesUp()
     const CTavDevicePtr c = manager->getDeviceByKey(keyOf(m_c));
     QVERIFY(a->openDevice(true));
     QVERIFY(c->openDevice(true));
-    m_a->disconnectDelayMs = 7000;   // A hangs in its disconnection
+    m_a->hold = true;   // A hangs in its disconnection until released
 
+    // Simulated clock: each pause lets the real closes progress (until C,
+    // which does not hang, is closed), then advances by the poll step.
+    CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
+    std::atomic<qint64> fakeNow{100000};
+    std::atomic<int> pauses{0};
+    std::atomic<bool> cClosedDuringWait{false};
+    closer->setClock([&]() { return fakeNow.load(); },
+                     [&](int ms) {
+                         QDeadlineTimer limit(20000);
+                         while (c->connectionState() != CTavDevice::stateDisconnected && !limit.hasExpired())
+                             QThread::msleep(5);
+                         cClosedDuringWait = c->connectionState() == CTavDevice::stateDisconnected;
+                         ++pauses;
+                         fakeNow += ms;
+                     });
+    QSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
+    closer->start();
+    QVERIFY(finished.wait(30000));
+    QVERIFY(closer->wait(5000));
+    closer->setClock(nullptr, nullptr);
+
+    // It gave up after 5000 ms of its clock with A still closing; C closed
+    // meanwhile, on its own worker, beside the hanging A.
+    QCOMPARE(pauses.load(), CDisconnectAllThread::kTimeoutMs / CDisconnectAllThread::kPollMs);
+    QVERIFY(cClosedDuringWait);
+    QCOMPARE(manager->getOpenedDeviceCount(), 1);
+    QVERIFY(a->isConnected() && a->isDisconnecting());
+    QVERIFY(!c->isConnected());
+
+    // A's disconnection ends once the camera lets go.
+    m_a->hold = false;
+    QTRY_VERIFY_WITH_TIMEOUT(a->connectionState() == CTavDevice::stateDisconnected, 10000);
+    QCOMPARE(manager->getOpenedDeviceCount(), 0);
+}
+
+void TestDeviceMap::disconnectAllWaitsForAConnection()
+{
+    CDeviceManager* manager = CDeviceManager::getInstance();
+    QVERIFY(QTest::qWaitFor([&]() { return manager->getAllDevices().size() == 2; }, 10000));
+    const CTavDevicePtr a = manager->getDeviceByKey(keyOf(m_a));
+    m_a->connectDelayMs = 300;
+    QVERIFY(a->openDevice(false));
+    QCOMPARE(a->connectionState(), CTavDevice::stateConnecting);
+
+    // A device still connecting is closed once connected, and waited for.
     CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
     QSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
     closer->start();
     QVERIFY(finished.wait(15000));
-    // It gave up with A still open; C is closed.
-    QCOMPARE(manager->getOpenedDeviceCount(), 1);
-    QVERIFY(a->isConnected() && a->isDisconnecting());
-    QVERIFY(!c->isConnected());
     QVERIFY(closer->wait(5000));
-
-    // A's disconnection ends in the end.
-    QTRY_VERIFY_WITH_TIMEOUT(!a->isConnected(), 10000);
-    QCOMPARE(manager->getOpenedDeviceCount(), 0);
+    QCOMPARE(a->connectionState(), CTavDevice::stateDisconnected);
+    QVERIFY(!m_a->isConnected());
+    QCOMPARE(manager->getActiveDeviceCount(), 0);
 }
 
 void TestDeviceMap::managerGoesAfterDisconnectAll()
