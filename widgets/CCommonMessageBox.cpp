@@ -7,7 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
+#include <QPixmap>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -95,31 +95,30 @@ void CCommonMessageBox::setButtons(QMessageBox::StandardButtons buttons)
 void CCommonMessageBox::setIcon(QMessageBox::Icon icon)
 {
     m_icon = icon;
-    QStyle::StandardPixmap pixmap = QStyle::SP_CustomBase;
+    QString path;
     switch (icon) {
     case QMessageBox::Information:
-        pixmap = QStyle::SP_MessageBoxInformation;
+        path = QStringLiteral(":/Pic/Icon_Message_Information.png");
         break;
     case QMessageBox::Warning:
-        pixmap = QStyle::SP_MessageBoxWarning;
+        path = QStringLiteral(":/Pic/Icon_Message_Warning.png");
         break;
     case QMessageBox::Critical:
-        pixmap = QStyle::SP_MessageBoxCritical;
+        path = QStringLiteral(":/Pic/Icon_Message_Error.png");
         break;
     case QMessageBox::Question:
-        pixmap = QStyle::SP_MessageBoxQuestion;
+        path = QStringLiteral(":/Pic/Icon_Message_Question.png");
         break;
     default:
         break;
     }
     retranslate();
-    if (pixmap == QStyle::SP_CustomBase) {
+    if (path.isEmpty()) {
         m_iconLabel->clear();
         m_iconLabel->hide();
         return;
     }
-    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-    m_iconLabel->setPixmap(style()->standardIcon(pixmap, nullptr, this).pixmap(size, size));
+    m_iconLabel->setPixmap(QPixmap(path));
     m_iconLabel->show();
 }
 

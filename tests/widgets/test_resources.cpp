@@ -2,6 +2,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QRegularExpression>
 #include <QTranslator>
 #include <QtTest>
 
@@ -27,7 +28,9 @@ private slots:
             "Icon_Panel_Expand_Left", "Icon_Panel_Expand_Right", "Icon_Property_Tab_Features",
             "Icon_Property_Tab_Settings", "Icon_Property_Tab_ImageFormat", "Icon_Property_Tab_UserSet",
             "Icon_Property_Search", "Icon_Property_Translate", "Icon_Property_Expand",
-            "Icon_Property_Collapse", "Icon_Property_Reset", "Icon_Property_Save", "Icon_Waiting"};
+            "Icon_Property_Collapse", "Icon_Property_Reset", "Icon_Property_Save", "Icon_Waiting",
+            "Icon_Message_Error", "Icon_Message_Warning", "Icon_Message_Information", "Icon_Message_Question",
+            "Icon_Common_Arrow_Up", "Icon_Common_Arrow_Down", "Icon_Common_Check"};
         QSize statusSize;
         for (const QString& name : names) {
             const QString path = QStringLiteral(":/Pic/%1.png").arg(name);
@@ -46,6 +49,32 @@ private slots:
                 QCOMPARE(image.size(), statusSize);
             }
         }
+    }
+
+    // Every image the style sheet names is embedded; a wrong name would
+    // silently draw nothing. The sheets stay ASCII since they are read as Latin-1.
+    void styleSheetImagesExist()
+    {
+        const QByteArray src = qgetenv("LUMIDOR_SOURCE_DIR");
+        if (src.isEmpty())
+            QFAIL("LUMIDOR_SOURCE_DIR is not set: run this test through ctest");
+        const QString dir = QString::fromLocal8Bit(src) + QStringLiteral("/res/Skins/Default/Vintrel/");
+        int urls = 0;
+        for (const char* name : {"style.qss", "style_eng_font.qss", "style_chn_font.qss"}) {
+            QFile file(dir + QLatin1String(name));
+            QVERIFY2(file.open(QIODevice::ReadOnly), name);
+            const QByteArray bytes = file.readAll();
+            for (char c : bytes)
+                QVERIFY2(uchar(c) < 0x80, name);
+            const QRegularExpression url(QStringLiteral("url\\((:[^)]+)\\)"));
+            auto it = url.globalMatch(QString::fromLatin1(bytes));
+            while (it.hasNext()) {
+                const QString path = it.next().captured(1);
+                QVERIFY2(!QImage(path).isNull(), qPrintable(path));
+                ++urls;
+            }
+        }
+        QVERIFY(urls > 0);
     }
 
     // Every *_zh_CN.ts of the source tree arrives as a loadable .qm.
