@@ -391,9 +391,12 @@ void CVideoForm::paintOverlays(QPainter& painter, const CQtHybridFramePtr& frame
 
 void CVideoForm::paintEvent(QPaintEvent*)
 {
+    // Only the frame around the view shows the highlight; the bars keep
+    // their own colours.
     QPainter painter(this);
     const QColor border = m_highlighted ? QColor(0x2f, 0x9b, 0xff) : QColor(0x30, 0x33, 0x38);
     painter.fillRect(rect(), border);
+    painter.fillRect(rect().adjusted(kBorder, kBorder, -kBorder, -kBorder), QColor(0x1b, 0x1d, 0x21));
 }
 
 void CVideoForm::updateTitle()

@@ -85,6 +85,80 @@ cv::Mat wrapOutput(QImage& out)
     return cv::Mat(out.height(), out.width(), CV_8UC4, out.bits(), size_t(out.bytesPerLine()));
 }
 
+// One BGRA pixel per k x k block of 2x2 Bayer cells, the average of the
+// block's red, green and blue samples. The lines of a block are first added
+// column by column (a loop the compiler vectorises), then each block's
+// columns are added by colour; every raw byte is read once.
+template <int RED, int BLUE>
+void binBayer(const uint8_t* raw, int stride, int k, int outW, int outH, uint8_t* out, int outStride,
+              std::vector<uint16_t>& lines)
+{
+    constexpr int G1 = (RED == 0 || RED == 3) ? 1 : 0;
+    constexpr int G2 = 3 - G1;
+    if (k == 1) {
+        // The plain half-resolution demosaic: one pixel per cell.
+        for (int oy = 0; oy < outH; ++oy) {
+            const uint8_t* r0 = raw + size_t(2 * oy) * stride;
+            const uint8_t* r1 = r0 + stride;
+            uint8_t* o = out + size_t(oy) * outStride;
+            for (int ox = 0; ox < outW; ++ox, r0 += 2, r1 += 2, o += 4) {
+                const uint8_t s[4] = { r0[0], r0[1], r1[0], r1[1] };
+                o[0] = s[BLUE];
+                o[1] = uint8_t((s[G1] + s[G2] + 1) >> 1);
+                o[2] = s[RED];
+                o[3] = 0xff;
+            }
+        }
+        return;
+    }
+    const int span = outW * k * 2;
+    lines.resize(size_t(span) * 2);
+    uint16_t* top = lines.data();
+    uint16_t* bottom = top + span;
+    // Averages by multiplying with a 16-bit fixed-point reciprocal: exact
+    // for single cells, within one step of the exact average for blocks.
+    const uint32_t n = uint32_t(k) * uint32_t(k);
+    const uint32_t inv = ((1u << 16) + n / 2) / n;
+    const uint32_t invG = ((1u << 16) + n) / (2 * n);
+    for (int oy = 0; oy < outH; ++oy) {
+        std::fill(top, top + 2 * span, uint16_t(0));
+        for (int cy = oy * k; cy < oy * k + k; ++cy) {
+            const uint8_t* r0 = raw + size_t(2 * cy) * stride;
+            const uint8_t* r1 = r0 + stride;
+            for (int x = 0; x < span; ++x) {
+                top[x] = uint16_t(top[x] + r0[x]);
+                bottom[x] = uint16_t(bottom[x] + r1[x]);
+            }
+        }
+        uint8_t* o = out + size_t(oy) * outStride;
+        for (int ox = 0; ox < outW; ++ox, o += 4) {
+            uint32_t s[4] = { 0, 0, 0, 0 };
+            const int base = 2 * ox * k;
+            for (int j = 0; j < 2 * k; j += 2) {
+                s[0] += top[base + j];
+                s[1] += top[base + j + 1];
+                s[2] += bottom[base + j];
+                s[3] += bottom[base + j + 1];
+            }
+            o[0] = uint8_t(std::min(255u, (s[BLUE] * inv + 0x8000) >> 16));
+            o[1] = uint8_t(std::min(255u, ((s[G1] + s[G2]) * invG + 0x8000) >> 16));
+            o[2] = uint8_t(std::min(255u, (s[RED] * inv + 0x8000) >> 16));
+            o[3] = 0xff;
+        }
+    }
+}
+
+void binBayerAny(uint32_t pf, const uint8_t* raw, int stride, int k, int outW, int outH, uint8_t* out,
+                 int outStride, std::vector<uint16_t>& lines)
+{
+    switch (pf) {
+    case PixelFormat::BayerGR8: binBayer<1, 2>(raw, stride, k, outW, outH, out, outStride, lines); break;
+    case PixelFormat::BayerGB8: binBayer<2, 1>(raw, stride, k, outW, outH, out, outStride, lines); break;
+    case PixelFormat::BayerBG8: binBayer<3, 0>(raw, stride, k, outW, outH, out, outStride, lines); break;
+    default: binBayer<0, 3>(raw, stride, k, outW, outH, out, outStride, lines); break;
+    }
+}
+
 } // namespace
 
 int CDisplayRenderer::rawStride(const CQtHybridFrame& frame, int bytesPerPixel)
@@ -95,24 +169,8 @@ int CDisplayRenderer::rawStride(const CQtHybridFrame& frame, int bytesPerPixel)
 void CDisplayRenderer::demosaicHalf(const uint8_t* raw, int stride, uint32_t pixelFormat, int cellsX, int cellsY,
                                     uint8_t* bgra, int outStride)
 {
-    SBayerCell cell { 0, 3 };
-    bayer8Cell(pixelFormat, cell);
-    // The two greens sit on the diagonal that red and blue leave free.
-    const int g1 = (cell.red == 0 || cell.red == 3) ? 1 : 0;
-    const int g2 = 3 - g1;
-    for (int y = 0; y < cellsY; ++y) {
-        const uint8_t* r0 = raw + size_t(2 * y) * stride;
-        const uint8_t* r1 = r0 + stride;
-        uint8_t* o = bgra + size_t(y) * outStride;
-        for (int x = 0; x < cellsX; ++x) {
-            const uint8_t s[4] = { r0[2 * x], r0[2 * x + 1], r1[2 * x], r1[2 * x + 1] };
-            o[0] = s[cell.blue];
-            o[1] = uint8_t((s[g1] + s[g2] + 1) >> 1);
-            o[2] = s[cell.red];
-            o[3] = 0xff;
-            o += 4;
-        }
-    }
+    std::vector<uint16_t> unused;   // single cells need no line sums
+    binBayerAny(pixelFormat, raw, stride, 1, cellsX, cellsY, bgra, outStride, unused);
 }
 
 bool CDisplayRenderer::render(const CQtHybridFrame& frame, const SRenderRequest& request, QImage& out)
@@ -143,15 +201,22 @@ bool CDisplayRenderer::render(const CQtHybridFrame& frame, const SRenderRequest&
             const int cellsX = src.width() / 2;
             const int cellsY = src.height() / 2;
             if (target.width() <= cellsX && target.height() <= cellsY) {
-                // Shown at half size or less: half-resolution demosaic, then area average.
-                if (target.width() == cellsX && target.height() == cellsY) {
-                    demosaicHalf(origin, stride, pf, cellsX, cellsY, out.bits(), out.bytesPerLine());
+                // Shown at half size or less: whole blocks of cells binned
+                // to at most twice the shown size (a half-resolution
+                // demosaic and an area average in one pass), then a bilinear
+                // step for the rest: less than a factor of two, where it
+                // loses little against an area average and costs far less.
+                const int k = std::max(1, std::min(cellsX / target.width(), cellsY / target.height()));
+                const int binW = cellsX / k;
+                const int binH = cellsY / k;
+                if (binW == target.width() && binH == target.height()) {
+                    binBayerAny(pf, origin, stride, k, binW, binH, out.bits(), out.bytesPerLine(), m_lines);
                     return true;
                 }
-                ensure(m_scratchA, size_t(cellsX) * cellsY * 4);
-                demosaicHalf(origin, stride, pf, cellsX, cellsY, m_scratchA.data(), cellsX * 4);
-                cv::Mat half(cellsY, cellsX, CV_8UC4, m_scratchA.data());
-                cv::resize(half, dst, dst.size(), 0, 0, cv::INTER_AREA);
+                ensure(m_scratchA, size_t(binW) * binH * 4);
+                binBayerAny(pf, origin, stride, k, binW, binH, m_scratchA.data(), binW * 4, m_lines);
+                cv::Mat binned(binH, binW, CV_8UC4, m_scratchA.data());
+                cv::resize(binned, dst, dst.size(), 0, 0, cv::INTER_LINEAR);
                 return true;
             }
             // Zoomed in: full demosaic of the visible region only.

@@ -4,9 +4,9 @@
 // paint. Runs on the thread that delivers the frame (the stream thread), so
 // the GUI thread never converts or scales pixels.
 //
-// Bayer 8-bit frames shown at half size or less are demosaiced at half
-// resolution (each 2x2 cell becomes one pixel) and then area-averaged, which
-// costs a fraction of a full demosaic; larger zooms demosaic the visible
+// Bayer 8-bit frames shown at half size or less get a half-resolution
+// demosaic (each 2x2 cell one pixel) combined with the area average down to
+// the shown size, which costs a fraction of a full demosaic; larger zooms demosaic the visible
 // region at full resolution. Mono 8-bit is area-averaged directly. Every other
 // format goes through the frame's own full conversion first.
 #include <QImage>
@@ -54,6 +54,7 @@ public:
 private:
     std::vector<uint8_t> m_scratchA;   // grown only; reused frame after frame
     std::vector<uint8_t> m_scratchB;
+    std::vector<uint16_t> m_lines;
 };
 
 } // namespace Gliv
