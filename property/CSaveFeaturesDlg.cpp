@@ -221,14 +221,16 @@ void CSaveFeaturesDlg::on_cbUserSetSelector_currentIndexChanged(int index)
 {
     if (index < 0)
         return;
-    m_worker->requestWrite(kSelector, retransParam(m_cbUserSetSelector->itemText(index)));
+    m_requestedSelector = retransParam(m_cbUserSetSelector->itemText(index));
+    m_worker->requestWrite(kSelector, m_requestedSelector);
 }
 
 void CSaveFeaturesDlg::on_cbUserSetDefault_currentIndexChanged(int index)
 {
     if (index < 0)
         return;
-    m_worker->requestWrite(kDefault, retransParam(m_cbUserSetDefault->itemText(index)));
+    m_requestedDefault = retransParam(m_cbUserSetDefault->itemText(index));
+    m_worker->requestWrite(kDefault, m_requestedDefault);
 }
 
 void CSaveFeaturesDlg::on_btnUserSetLoad_clicked()
@@ -246,7 +248,8 @@ void CSaveFeaturesDlg::onWriteDone(QString name, bool ok, QString, SFeatureState
     onStateRead(state);
     if (!ok)
     {
-        const QString value = (name == kSelector ? m_cbUserSetSelector : m_cbUserSetDefault)->currentText();
+        // The value asked for, not the camera's value the combo shows again.
+        const QString value = name == kSelector ? m_requestedSelector : m_requestedDefault;
         if (name == kSelector)
             showMessage(tr("set UserSetSelector property value %1 fail, please check value.").arg(value));
         else

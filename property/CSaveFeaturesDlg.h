@@ -84,5 +84,6 @@ private:
     QPushButton* m_btnUserSetSave = nullptr;
     QPushButton* m_btnClose = nullptr;
     SFeatureState m_selectorState, m_defaultState;
+    QString m_requestedSelector, m_requestedDefault;
     MessageHandler m_messageHandler;
 };

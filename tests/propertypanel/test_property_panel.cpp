@@ -23,6 +23,8 @@
 #include "CPropertyImageFormatForm.h"
 #include "CPropertySettingsForm.h"
 #include "CSaveFeaturesDlg.h"
+#include "CDoubleSpinBox.h"
+#include "CPropertyGPIOForm.h"
 #include "CSpinBox.h"
 #include "CTavDevice.h"
 #include "TestFiles.h"
@@ -245,9 +247,22 @@ void TestPropertyPanel::userSets()
     // Choosing "Default" writes the selector; the camera then refuses to
     // save into it and the save button follows.
     QSignalSpy done(&dlg, &CSaveFeaturesDlg::actionFinished);
+    // Waits for the named feature's result and returns its ok flag.
+    const auto finished = [&](const QString& name) {
+        int at = -1;
+        QTest::qWaitFor([&]() {
+            for (int i = 0; i < done.size() && at < 0; ++i)
+                if (done.at(i).at(0).toString() == name)
+                    at = i;
+            return at >= 0;
+        }, 5000);
+        const bool ok = at >= 0 && done.at(at).at(1).toBool();
+        done.clear();
+        return at >= 0 ? (ok ? 1 : 0) : -1;
+    };
     dlg.selectorCombo()->setCurrentIndex(0);
     dlg.on_cbUserSetSelector_currentIndexChanged(0);
-    QVERIFY(done.wait(5000));
+    QCOMPARE(finished("UserSetSelector"), 1);
     QCOMPARE(value(dev, "UserSetSelector"), QString("Default"));
     QTRY_VERIFY_WITH_TIMEOUT(!dlg.saveButton()->isEnabled(), 5000);
     QVERIFY(dlg.loadButton()->isEnabled());
@@ -255,20 +270,18 @@ void TestPropertyPanel::userSets()
     // Default set and the commands run on the worker without a message.
     dlg.defaultCombo()->setCurrentIndex(2);
     dlg.on_cbUserSetDefault_currentIndexChanged(2);
-    QTRY_COMPARE_WITH_TIMEOUT(value(dev, "UserSetDefault"), QString("UserSet2"), 5000);
-    done.clear();
+    QCOMPARE(finished("UserSetDefault"), 1);
+    QCOMPARE(value(dev, "UserSetDefault"), QString("UserSet2"));
     dlg.on_btnUserSetLoad_clicked();
-    QVERIFY(done.wait(5000));
-    QCOMPARE(done.last().at(1).toBool(), true);
+    QCOMPARE(finished("UserSetLoad"), 1);
     QVERIFY(m_shown.isEmpty());
 
     // A value the camera refuses is reported with the required text and
     // the combo returns to the camera's value.
     dlg.selectorCombo()->addItem("NoSuchSet", "NoSuchSet");
-    done.clear();
     dlg.selectorCombo()->setCurrentIndex(3);
     dlg.on_cbUserSetSelector_currentIndexChanged(3);
-    QVERIFY(done.wait(5000));
+    QCOMPARE(finished("UserSetSelector"), 0);
     QCOMPARE(m_shown.size(), 1);
     QCOMPARE(m_shown[0].text, QString("set UserSetSelector property value NoSuchSet fail, please check value."));
     QTRY_COMPARE_WITH_TIMEOUT(dlg.selectorCombo()->currentData().toString(), QString("Default"), 5000);
@@ -354,6 +367,8 @@ void TestPropertyPanel::imageFormatRefusedWhileGrabbing()
     QCOMPARE(value(dev, "Width"), before);
 
     // Not grabbing: a drawn region is applied on the grid, offsets added.
+    QTRY_VERIFY_WITH_TIMEOUT(!dev->isGrabing(), 5000);
+    QTest::qWait(50);   // the stream messages of the bus reach the page first
     m_shown.clear();
     QSignalSpy initRoi(dev.get(), &CTavDevice::signalInitROI);
     page.drawButton()->click();
@@ -366,9 +381,14 @@ void TestPropertyPanel::imageFormatRefusedWhileGrabbing()
     QCOMPARE(value(dev, "Width"), QString("100"));
     QCOMPARE(value(dev, "Height"), QString("50"));
     QVERIFY(m_shown.isEmpty());
+    // Full frame: offsets 0 and the whole sensor.
+    page.refresh();
+    QTRY_COMPARE_WITH_TIMEOUT(page.state("OffsetY").intValue, qint64(6), 5000);
     page.fullFrameButton()->click();
-    QTRY_COMPARE_WITH_TIMEOUT(value(dev, "Width"), QString("320"), 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(value(dev, "Width"), value(dev, "WidthMax"), 5000);
     QTRY_COMPARE_WITH_TIMEOUT(value(dev, "OffsetX"), QString("0"), 5000);
+    QVERIFY(write(dev, "Width", "320"));
+    QVERIFY(write(dev, "Height", "240"));
 }
 
 void TestPropertyPanel::paramFileRoundTripBetweenCameras()
