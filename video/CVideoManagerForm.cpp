@@ -318,6 +318,7 @@ void CVideoManagerForm::onActionBayerDemosaicing(QAction* action)
     CConfiguration* cfg = CConfiguration::getInstance();
     cfg->BayerDemosaicing = action->data().toInt();
     m_multi->setBayerDemosaic(cfg->BayerDemosaicing);
+    cfg->notifyDisplayConfigChanged();   // the stream threads copy the display options
     saveConfig();
 }
 
@@ -331,6 +332,7 @@ void CVideoManagerForm::onActionDisplay(QAction* action)
     for (int id = 0; id < CMultiVideoForm::kFormCount; ++id)
         if (CTavDevicePtr device = m_multi->getForm(id) ? m_multi->getForm(id)->getDevice() : CTavDevicePtr())
             device->setDisplayFPS(cfg->displayValue);
+    cfg->notifyDisplayConfigChanged();
     saveConfig();
 }
 
@@ -339,6 +341,7 @@ void CVideoManagerForm::onActionDisplayChunkData()
     CConfiguration* cfg = CConfiguration::getInstance();
     cfg->displayChunkDataEnable = m_actChunk->isChecked();
     m_multi->setShowChunkData(cfg->displayChunkDataEnable);
+    cfg->notifyDisplayConfigChanged();
     saveConfig();
 }
 

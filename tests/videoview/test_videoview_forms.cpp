@@ -79,6 +79,7 @@ private slots:
     void swapByDragKeepsPositions();
     void displayOptionsStoredInConfiguration();
     void saveFailureIsTold();
+    void fullScreenAndBackWithEscape();
     void roiConfigRoundTripIgnoresBadEntries();
     void roiEditorDrawsMovesResizesDeletes();
     void viewShowsPixelUnderCursorAndFollowsStream();
@@ -296,6 +297,7 @@ void TestVideoviewForms::displayOptionsStoredInConfiguration()
     CMultiVideoForm* multi = m_manager->multiVideoForm();
     CVideoForm* view = multi->getForm(0);
     m_manager->setColorPicker([](const QColor&) { return QColor(10, 20, 30); });
+    QSignalSpy announced(cfg(), &CConfiguration::signalDisplayConfigChanged);
 
     m_manager->actionDemosaic(2)->trigger();
     QCOMPARE(cfg()->BayerDemosaicing, 2);
@@ -313,6 +315,8 @@ void TestVideoviewForms::displayOptionsStoredInConfiguration()
     QVERIFY(cfg()->displayChunkDataEnable);
     QVERIFY(view->isShowChunkData());
     QVERIFY(userFileText().contains("<displayChunkDataEnable>1</displayChunkDataEnable>"));
+    // The stream threads are told about the options they copy.
+    QCOMPARE(announced.count(), 4);
 
     m_manager->actionCrosshair()->trigger();
     QVERIFY(cfg()->isShowCrosshair);
@@ -366,6 +370,29 @@ void TestVideoviewForms::saveFailureIsTold()
     QDir(path).removeRecursively();
     QCOMPARE(m_messages, QStringList{ QString("Save Config failed.") });
     QVERIFY(cfg()->isShowCrosshair);   // the option still applies
+}
+
+void TestVideoviewForms::fullScreenAndBackWithEscape()
+{
+    m_manager->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_manager.get()));
+    CMultiVideoForm* multi = m_manager->multiVideoForm();
+    QSignalSpy fullScreen(m_manager.get(), &CVideoManagerForm::full_screen);
+    m_manager->findChild<QToolButton*>("btnFullScreen")->click();
+    QVERIFY(m_manager->isFullScreenMode());
+    QWidget* window = multi->window();
+    QVERIFY(window != m_manager.get());
+    QVERIFY(window->isVisible());
+    QCOMPARE(fullScreen.count(), 1);
+    QCOMPARE(fullScreen.at(0).at(0).toBool(), true);
+    // Esc reaching the view inside goes up to the full-screen window.
+    QTest::keyClick(multi->getForm(0), Qt::Key_Escape);
+    QVERIFY(!m_manager->isFullScreenMode());
+    QCOMPARE(multi->window(), m_manager.get());
+    QVERIFY(!window->isVisible());
+    QVERIFY(multi->isVisible());
+    QCOMPARE(fullScreen.count(), 2);
+    QCOMPARE(fullScreen.at(1).at(0).toBool(), false);
 }
 
 void TestVideoviewForms::roiConfigRoundTripIgnoresBadEntries()
