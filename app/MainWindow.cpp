@@ -56,7 +56,8 @@ MainWindow::MainWindow(const QString& commandLine, QWidget* parent)
     initLumidorResources();
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(QStringLiteral("Lumidor"));
-    setWindowIcon(QIcon(QStringLiteral(":/Pic/Lumidor.png")));
+    // The application's icon, so every dialog carries it too.
+    qApp->setWindowIcon(QIcon(QStringLiteral(":/Pic/Lumidor.png")));
 
     m_language = new CLanguageManager(baseStyleSheet(), QStringLiteral("Skins/Default/Vintrel"), this);
     connect(m_language, &CLanguageManager::languageChanged, this, &MainWindow::signalLanChanged);

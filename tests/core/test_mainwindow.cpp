@@ -17,6 +17,8 @@
 #include "CCollapsiblePanel.h"
 #include "CCommonMessageBox.h"
 #include "CConfiguration.h"
+#include "CDeviceManager.h"
+#include "CDiscoveryDevicesThread.h"
 #include "CDisconnectAllThread.h"
 #include "CLanguageManager.h"
 #include "CWaitDlg.h"
@@ -224,6 +226,32 @@ private slots:
         QVERIFY(!result);
         QCOMPARE(text, QStringLiteral("Save configuration failed: %1").arg(unwritable));
         cfg->init();
+    }
+
+    // A unicast search of an address where no camera answers ends in the
+    // message the operator must see.
+    void silentUnicastAddressIsReported()
+    {
+        CDeviceManager* manager = CDeviceManager::getInstance();
+        QSignalSpy passes(CDiscoveryDevicesThread::getInstance(), &CDiscoveryDevicesThread::discoveryDevicesFinished);
+        MainWindow w{QString()};
+        w.show();
+        // A request made while a pass runs is absorbed by it: let a plain
+        // pass (or the one running) end before asking for the address.
+        manager->refreshDeviceMap(QString(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(passes.count() > 0, 20000);
+        QString text;
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, [&text] {
+            if (auto* box = qobject_cast<CCommonMessageBox*>(QApplication::activeModalWidget())) {
+                text = box->message();
+                box->done(QMessageBox::Ok);
+            }
+        });
+        poll.start(20);
+        manager->refreshDeviceMap(QStringLiteral("127.0.0.9"), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!text.isEmpty(), 20000);
+        QCOMPARE(text, QStringLiteral("Add remote device failed."));
     }
 
     void closingDisconnectsAllThenQuits()
