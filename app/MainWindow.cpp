@@ -355,9 +355,14 @@ void MainWindow::on_actionSaveConfig_triggered()
 
 void MainWindow::on_actionHelp_triggered()
 {
-    auto* dlg = new CHelpDlg(this);
-    dlg->setAttribute(Qt::WA_DeleteOnClose);
-    dlg->show();
+    // One help window: asking again brings it forward.
+    if (!m_helpDlg) {
+        m_helpDlg = new CHelpDlg(this);
+        m_helpDlg->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_helpDlg->show();
+    m_helpDlg->raise();
+    m_helpDlg->activateWindow();
 }
 
 void MainWindow::on_actionAbout_triggered()

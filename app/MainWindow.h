@@ -4,6 +4,7 @@
 // a thin strip; menus for file, tools, language and help. It owns no device
 // or stream logic: the panels bring their own.
 #include <QMainWindow>
+#include <QPointer>
 #include <QString>
 
 #include "CLanguageManager.h"
@@ -14,6 +15,7 @@ class QLabel;
 class QMenu;
 class QSplitter;
 class CCollapsiblePanel;
+class CHelpDlg;
 class CWaitDlg;
 
 class MainWindow : public QMainWindow
@@ -120,6 +122,7 @@ private:
     QAction* m_actionAbout = nullptr;
 
     CWaitDlg* m_closeWait = nullptr;
+    QPointer<CHelpDlg> m_helpDlg;
     bool m_closingDevices = false;
     bool m_devicesClosed = false;
     int m_cameraCount = -1;

@@ -10,11 +10,15 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSplitter>
+#include <QTabWidget>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
 
+#include "CAboutDlg.h"
 #include "CCollapsiblePanel.h"
+#include "CHelpDlg.h"
 #include "CCommonMessageBox.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
@@ -99,6 +103,22 @@ private slots:
         w.addToolsAction(tool);
         QVERIFY(!none->isVisible());
         QVERIFY(w.toolsMenu()->actions().contains(tool));
+
+        // Help opens one window however often it is asked for; About tells
+        // both versions.
+        QAction* help = w.findChild<QAction*>(QStringLiteral("actionHelp"));
+        help->trigger();
+        help->trigger();
+        QCOMPARE(w.findChildren<CHelpDlg*>().size(), 1);
+        CHelpDlg* dlg = w.findChild<CHelpDlg*>();
+        QVERIFY(dlg->isVisible());
+        QCOMPARE(dlg->tabs()->count(), 3);
+        for (int i = 0; i < dlg->tabs()->count(); ++i)
+            QVERIFY(qobject_cast<QTableWidget*>(dlg->tabs()->widget(i))->rowCount() >= 5);
+        CAboutDlg about;
+        QVERIFY(!CAboutDlg::cameraLayerVersion().isEmpty());
+        QVERIFY(about.text().contains(CAboutDlg::programVersion()));
+        QVERIFY(about.text().contains(CAboutDlg::cameraLayerVersion().toHtmlEscaped()));
     }
 
     void sidePanelsFoldToAStripAndBack()
