@@ -109,10 +109,10 @@ private slots:
         countersToInfo(c, info);
         QCOMPARE(info.receivedImages, c[ctrCompletedBuffers]);
         QCOMPARE(info.errorImages, c[ctrFailures]);
-        QCOMPARE(info.lostBlocks, c[ctrMissingFrames] + c[ctrFailures] + c[ctrUnderruns]);
+        QCOMPARE(info.lostBlocks, c[ctrMissingFrames] + c[ctrFailures] + c[ctrUnderruns] + c[ctrShortBlocks]);
         QCOMPARE(lostFrames(c), info.lostBlocks);
         QCOMPARE(info.overrideBlocks, c[ctrUnderruns] + c[ctrLatestImageDrops]);
-        QCOMPARE(info.lostPacketBlock, c[ctrStatusMissingPackets]);
+        QCOMPARE(info.lostPacketBlock, c[ctrStatusMissingPackets] + c[ctrShortBlocks]);
         QCOMPARE(info.tooManyLostPacketBlock, c[ctrStatusTimeout]);
         QCOMPARE(info.tooManyConsecutiveResendsBlock, c[ctrResendRatioReached]);
         QCOMPARE(info.missingBlockId, c[ctrMissingFrames]);

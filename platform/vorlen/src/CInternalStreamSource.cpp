@@ -173,6 +173,9 @@ struct CInternalStreamSource::SImpl
     // the last error of getFrame.
     void reportFailed(GrabSession& s, ArvBuffer* buffer, uint64_t blockId, uint64_t generation, SLoss& loss);
     void noteBlockId(GrabSession& s, uint64_t blockId, uint64_t timestamp, SLoss& loss);
+    // A block closed complete but short of its image: counted and reported
+    // as incomplete, its buffer goes back to the stream.
+    void reportShort(GrabSession& s, CFrame::SData& data, uint64_t generation, SLoss& loss);
     void applyStreamOptions(ArvStream* stream, unsigned int payload, unsigned int packetBytes);
     void giveBack(ArvBuffer* buffer, uint64_t generation) { core->recycle(buffer, generation); }
 };
@@ -251,6 +254,27 @@ void CInternalStreamSource::SImpl::reportFailed(GrabSession& s, ArvBuffer* buffe
         std::snprintf(text, sizeof(text), "block %" PRIu64 ": %s", blockId, statusText(status));
     loss.blockFailed(text);
     publish(arg);
+    giveBack(buffer, generation);
+}
+
+void CInternalStreamSource::SImpl::reportShort(GrabSession& s, CFrame::SData& data, uint64_t generation, SLoss& loss)
+{
+    (void)s;
+    stats->onShortBlock();
+    char text[160];
+    std::snprintf(text, sizeof(text), "block %" PRIu64 " incomplete, %" PRIu64 " of %" PRIu64 " image bytes arrived",
+                  data.blockId, data.imageSize, data.minimumImageBytes());
+    SStreamArg arg;
+    arg.channel = channel;
+    arg.blockId = data.blockId;
+    arg.timeStamp = data.timestamp;
+    arg.eStreamEventStatus = streamEventLostPacket;
+    arg.status = uint32_t(int32_t(ARV_BUFFER_STATUS_MISSING_PACKETS));
+    arg.description = text;
+    loss.blockFailed(text);
+    publish(arg);
+    ArvBuffer* buffer = data.buffer;
+    data.buffer = nullptr;   // not held by a frame: back to the stream here
     giveBack(buffer, generation);
 }
 
@@ -552,6 +576,10 @@ bool CInternalStreamSource::SImpl::getFrame(CFrame& frame, unsigned int timeoutM
         data->generation = generation;
         data->chunkContext = s.chunks;
         data->describe(buffer, blockId, s.fallback);
+        if (data->isImageShort()) {
+            reportShort(s, *data, generation, loss);
+            continue;
+        }
         core->heldBuffers.fetch_add(1, std::memory_order_relaxed);
         frame = CFrame(data);
 

@@ -280,6 +280,16 @@ CFrame::SData::~SData()
     }
 }
 
+uint64_t CFrame::SData::minimumImageBytes() const
+{
+    if (!image || std::find(payloadTypes.begin(), payloadTypes.end(), CFrame::payloadImage) == payloadTypes.end())
+        return 0;
+    const uint64_t bpp = ARV_PIXEL_FORMAT_BIT_PER_PIXEL(pixelFormat);
+    if (bpp == 0 || bpp > 64)
+        return 0;
+    return (uint64_t(width) * height * bpp + 7) / 8;
+}
+
 void CFrame::SData::describe(ArvBuffer* buf, uint64_t unwrappedBlockId, const SFallbackGeometry& fallback)
 {
     blockId = unwrappedBlockId;

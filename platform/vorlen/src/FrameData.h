@@ -154,6 +154,12 @@ struct CFrame::SData
 
     // Fills the image fields from a complete buffer.
     void describe(ArvBuffer* buf, uint64_t unwrappedBlockId, const SFallbackGeometry& fallback);
+    // Bytes the described image needs at least (width x height at the
+    // format's bits per pixel); 0 when unknown or not an uncompressed image.
+    uint64_t minimumImageBytes() const;
+    // A block closed as complete whose image data falls short of its own
+    // geometry: packets went missing without the receiver noticing.
+    bool isImageShort() const { return imageSize < minimumImageBytes(); }
 
     ArvBuffer* buffer = nullptr;                 // owned
     std::weak_ptr<StreamCore> core;

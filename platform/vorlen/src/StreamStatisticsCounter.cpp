@@ -32,7 +32,7 @@ void countersToInfo(const StreamCounters& c, StreamStatisticsInfo& info)
     info.lostBlocks = lostFrames(c);
     info.errorImages = c[ctrFailures];
     info.overrideBlocks = c[ctrUnderruns] + c[ctrLatestImageDrops];
-    info.lostPacketBlock = c[ctrStatusMissingPackets];
+    info.lostPacketBlock = c[ctrStatusMissingPackets] + c[ctrShortBlocks];
     // Aravis stops asking for resends of a block once its request budget
     // (packet-request-ratio) is used up: that is the "too many resends" case.
     info.tooManyConsecutiveResendsBlock = c[ctrResendRatioReached];
@@ -54,7 +54,7 @@ void countersToInfo(const StreamCounters& c, StreamStatisticsInfo& info)
 
 uint64_t lostFrames(const StreamCounters& c)
 {
-    return c[ctrMissingFrames] + c[ctrFailures] + c[ctrUnderruns];
+    return c[ctrMissingFrames] + c[ctrFailures] + c[ctrUnderruns] + c[ctrShortBlocks];
 }
 
 // ---------------------------------------------------------------------------

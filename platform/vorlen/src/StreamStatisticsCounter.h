@@ -45,6 +45,7 @@ enum EStreamCounter
     ctrStatusImageError,                     // wrong packet id, size mismatch, ...
     ctrLatestImageDrops,                     // older frames dropped by grabStrategyLatestImage
     ctrLostPackets,                          // data packets that never arrived in closed blocks
+    ctrShortBlocks,                          // blocks closed complete with less image data than described
     ctrCount
 };
 
@@ -92,6 +93,7 @@ public:
     // is the number of its packets that never arrived (PacketMarks).
     void onBufferDone(ArvBufferStatus status, uint64_t bytes, int64_t nowNs, uint64_t missingPackets = 0);
     void onLatestImageDrop() { m_own[ctrLatestImageDrops - ctrArvCount].fetch_add(1, std::memory_order_relaxed); }
+    void onShortBlock() { m_own[ctrShortBlocks - ctrArvCount].fetch_add(1, std::memory_order_relaxed); }
 
     // Totals since the last reset; stream may be null (not grabbing).
     StreamCounters totals(ArvStream* stream) const;
