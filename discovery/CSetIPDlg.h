@@ -72,6 +72,8 @@ public:
     int postedMessageCount() const { return m_nPostedMessages; }
 
 public slots:
+    // Refused while a camera write is under way, so its outcome is shown.
+    void reject() override;
     void on_btnOk_clicked();
     void on_btnCancel_clicked();
     void on_txtDevIP_textEdited(const QString& text);
@@ -86,7 +88,6 @@ public slots:
 protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void reject() override;
 
 private:
     void retranslateUi();

@@ -9,6 +9,7 @@
 
 #include "CCommonMessageBox.h"
 #include "CDeviceManager.h"
+#include "CDiscoveryDevicesThread.h"
 #include "CTavDevice.h"
 
 // Answers every application message box that shows up while it lives, with
@@ -91,9 +92,15 @@ inline CTavDevicePtr deviceBySerial(const QString& serial)
 }
 
 // Asks for a discovery pass and waits until the manager has rebuilt its map.
+// The worker drops a request that comes while a pass runs: wait for it to be
+// idle first.
 inline bool rediscover(const QString& ip = QString(), int timeoutMs = 20000)
 {
     CDeviceManager* manager = CDeviceManager::getInstance();
+    CDiscoveryDevicesThread* worker = CDiscoveryDevicesThread::getInstance();
+    if (!QTest::qWaitFor([worker]() { return worker->isFirstDiscoveryFinished() && !worker->isDisconvrying(); },
+                         timeoutMs))
+        return false;
     QSignalSpy spy(manager, &CDeviceManager::discoveryDevicesFinished);
     manager->refreshDeviceMap(ip, 0);
     return spy.wait(timeoutMs);

@@ -1,0 +1,429 @@
+// The IP, unicast and user-ID dialogs: every field's checks and messages, the
+// forced address sent to a GVCP listener of the test's own (the simulated
+// camera does not implement FORCEIP), the persistent write that follows, a
+// camera that goes away while the dialog is open, and the remote-camera
+// dialog opened from the GigE root.
+#include "FakeCameraRig.h"
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextCodec>
+#include <QTreeWidget>
+#include <QtTest>
+
+#include "CConfiguration.h"
+#include "CDiscoveryDevicesForm.h"
+#include "CSetDevUserIDDlg.h"
+#include "CSetIPDlg.h"
+#include "CUnicastDlg.h"
+#include "CWaitDlg.h"
+#include "DeviceListTestSupport.h"
+#include "GvcpResponder.h"
+#include "Tavlog4cpp/CTavLog.h"
+#include "Vorlen/GenICam.h"
+
+static const bool g_ownHome = []() {
+    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
+        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
+    return true;
+}();
+
+namespace {
+const char* const kResponderIp = "127.0.0.5";
+const uint64_t kResponderMac = 0x0A1B2C3D4E5Full;
+
+Gvcp::SDeviceInfo responderIdentity()
+{
+    Gvcp::SDeviceInfo info;
+    info.versionMajor = 2;
+    info.versionMinor = 0;
+    info.mac = kResponderMac;
+    info.ipConfigOptions = 0x7;
+    info.ipConfigCurrent = 0x5;
+    info.ip = 0x7F000005;
+    info.mask = 0xFF000000;
+    info.gateway = 0;
+    info.manufacturer = "Acme";
+    info.model = "Responder";
+    info.serial = "RESP1";
+    return info;
+}
+
+void fill(CSetIPDlg* d, const QString& ip, const QString& mask, const QString& gateway)
+{
+    d->txtDevIP()->setText(ip);
+    d->txtDevSubnetMask()->setText(mask);
+    d->txtDevGateway()->setText(gateway);
+}
+} // namespace
+
+class TestDeviceListDialogs : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void unicastDialogChecks();
+    void userIdDialogChecks();
+    void ipDialogHelpers();
+    void ipDialogEditing();
+    void ipDialogRefusesBadInput();
+    void forceIpThroughTheTree();
+    void forceIpFailuresKeepTheDialogOpen();
+    void remoteCameraFromTheGigERoot();
+    void cameraGoneWhileDialogOpen();
+
+private:
+    QTreeWidgetItem* responderItem() const;
+
+    QWidget* m_host = nullptr;
+    CDiscoveryDevicesForm* m_form = nullptr;
+    GvcpResponder* m_responder = nullptr;
+};
+
+QTreeWidgetItem* TestDeviceListDialogs::responderItem() const
+{
+    CTavDevicePtr device = deviceBySerial("RESP1");
+    return device ? m_form->getItemByDevice(device) : nullptr;
+}
+
+void TestDeviceListDialogs::initTestCase()
+{
+    if (!qEnvironmentVariableIsEmpty("LUMIDOR_TEST_LOG"))
+        Tavlog4cpp::CTavLog::LoadDefault();
+    // Lengths are counted in the local 8-bit encoding: make it UTF-8 whatever
+    // the test's locale.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    if (!FakeCameraRig::hasAddress(kResponderIp))
+        QFAIL("127.0.0.5 is not on the loopback interface: run inside scripts/netns.sh (or scripts/loopback.sh as root)");
+    m_responder = new GvcpResponder(kResponderIp, responderIdentity());
+    QVERIFY2(m_responder->isListening(), "cannot listen on 127.0.0.5:3956");
+    m_host = new QWidget;
+    m_form = new CDiscoveryDevicesForm(m_host);
+    m_form->resize(320, 600);
+    m_host->show();
+    QVERIFY(rediscover(kResponderIp));
+    QTRY_VERIFY_WITH_TIMEOUT(responderItem() != nullptr, 15000);
+}
+
+void TestDeviceListDialogs::cleanupTestCase()
+{
+    delete m_host;
+    delete m_responder;
+    CDeviceManager::destroyInstance();
+}
+
+void TestDeviceListDialogs::unicastDialogChecks()
+{
+    BoxAnswerer answerer;
+    CUnicastDlg dialog;
+    dialog.show();
+    QCOMPARE(dialog.titleText(), QString("Add Remote Camera"));
+    QCOMPARE(dialog.labelText(), QString("Device IP"));
+    QCOMPARE(dialog.cancelButton()->text(), QString("Cancel"));
+    QCOMPARE(dialog.okButton()->property("highlight").toInt(), 1);
+    QVERIFY(dialog.windowFlags() & Qt::FramelessWindowHint);
+    QCOMPARE(dialog.getEditValue(), QString("255.255.255.255"));
+
+    struct SCase
+    {
+        const char* text;
+        const char* message;
+    };
+    const QString tooLong = QString::fromUtf8("１２３.４５.６.７");   // 11 characters, 31 bytes
+    const SCase refused[] = {{"255.255.255.255", "invalid ip"}, {"224.0.0.1", "invalid ip"},
+                             {"127.0.0.1", "invalid ip"},       {"1.2.3", "invalid ip"},
+                             {"1.2.3.256", "invalid ip"},       {"", "invalid ip"},
+                             {"a.b.c.d", "invalid ip"}};
+    for (const SCase& c : refused) {
+        dialog.lineEdit()->setText(QString::fromLatin1(c.text));
+        dialog.okButton()->click();
+        QCOMPARE(answerer.last(), QString::fromLatin1(c.message));
+        QVERIFY2(dialog.isVisible() && dialog.result() != QDialog::Accepted, c.text);
+    }
+    dialog.lineEdit()->setText(tooLong);
+    dialog.okButton()->click();
+    QCOMPARE(answerer.last(), QString("The length of IP can not be longer than 15."));
+    QVERIFY(dialog.isVisible());
+
+    const int boxes = answerer.texts.size();
+    dialog.lineEdit()->setText("10.0.0.5");
+    dialog.okButton()->click();
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(answerer.texts.size(), boxes);
+
+    CUnicastDlg other;
+    other.show();
+    other.cancelButton()->click();
+    QCOMPARE(other.result(), int(QDialog::Rejected));
+}
+
+void TestDeviceListDialogs::userIdDialogChecks()
+{
+    BoxAnswerer answerer;
+    CSetDevUserIDDlg dialog;
+    dialog.setCurrentDeviceUserID("camera", 16);
+    dialog.show();
+    QCOMPARE(dialog.titleText(), QString("Set Device UserID"));
+    QCOMPARE(dialog.labelText(), QString("Device UserID"));
+    QCOMPARE(dialog.lineEdit()->maxLength(), 15);
+    QCOMPARE(dialog.getEditValue(), QString("camera"));
+    // Fifteen characters fit the edit but take thirty bytes.
+    dialog.lineEdit()->setText(QString(15, QChar(0x00E9)));
+    QCOMPARE(dialog.lineEdit()->text().size(), 15);
+    dialog.okButton()->click();
+    QCOMPARE(answerer.last(), QString("The length of DeviceUserID can not be longer than 15."));
+    QVERIFY(dialog.isVisible());
+    dialog.lineEdit()->setText(QString(15, QChar('x')));
+    dialog.okButton()->click();
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(answerer.texts.size(), 1);
+}
+
+void TestDeviceListDialogs::ipDialogHelpers()
+{
+    for (const char* mask : {"255.0.0.0", "255.255.0.0", "255.255.255.0", "255.255.255.255"})
+        QVERIFY(CSetIPDlg::isNetMaskMatched(mask));
+    for (const char* mask : {"255.255.254.0", "0.0.0.0", "", "255.255.255.0 "})
+        QVERIFY(!CSetIPDlg::isNetMaskMatched(mask));
+    QVERIFY(CSetIPDlg::isInSameSubnet("192.168.1.5", "192.168.1.200", "255.255.255.0"));
+    QVERIFY(!CSetIPDlg::isInSameSubnet("192.168.2.5", "192.168.1.200", "255.255.255.0"));
+    QVERIFY(CSetIPDlg::isInSameSubnet("192.168.2.5", "192.168.1.200", "255.255.0.0"));
+    QVERIFY(!CSetIPDlg::isInSameSubnet("192.168.1", "192.168.1.200", "255.255.255.0"));
+    QVERIFY(!CSetIPDlg::isInSameSubnet("192.168.1.5", "192.168.1.200", ""));
+
+    QString text = "300.1.256.999";
+    QVERIFY(CSetIPDlg::invalidIPto255(text));
+    QCOMPARE(text, QString("255.1.255.255"));
+    text = "255.250.25.2550";
+    QVERIFY(!CSetIPDlg::invalidIPto255(text));   // 2550 has four digits: left as it is
+    QCOMPARE(text, QString("255.250.25.2550"));
+
+    QCOMPARE(CSetIPDlg::checkIpMessage(1), QString("IP or Subnet Mask is empty."));
+    QCOMPARE(CSetIPDlg::checkIpMessage(9), QString("Device IP address should differ from Interface IP address."));
+    QVERIFY(CSetIPDlg::checkIpMessage(0).isEmpty());
+
+    CSetIPDlg dialog(true, nullptr);
+    dialog.postMsg(7, 1, 2);
+    QCOMPARE(dialog.postedMessageCount(), 0);   // posted, not sent
+    QTRY_COMPARE(dialog.postedMessageCount(), 1);
+}
+
+void TestDeviceListDialogs::ipDialogEditing()
+{
+    CTavDevicePtr device = deviceBySerial("RESP1");
+    QVERIFY(device);
+    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
+    QVERIFY(info);
+    CSetIPDlg dialog(true, nullptr);
+    QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
+    dialog.show();
+    QCOMPARE(dialog.txtDevIP()->text(), QString("127.0.0.5"));
+    QCOMPARE(dialog.txtDevSubnetMask()->text(), QString("255.0.0.0"));
+    QCOMPARE(dialog.txtDevMac()->text(), QString("0a:1b:2c:3d:4e:5f"));
+    QCOMPARE(dialog.txtInterfaceIP()->text(), QString::fromLocal8Bit(info->getIpAddress().c_str()));
+    QVERIFY(dialog.txtInterfaceIP()->isReadOnly() && dialog.txtDevMac()->isReadOnly());
+    QVERIFY(!dialog.txtDevIP()->isReadOnly());
+    QVERIFY(!dialog.isSubnetWarningShown());
+
+    // Typing a number above 255 turns it into 255 and says why.
+    dialog.txtDevIP()->clear();
+    QTest::keyClicks(dialog.txtDevIP(), "10.300");
+    QCOMPARE(dialog.txtDevIP()->text(), QString("10.255"));
+    QCOMPARE(dialog.hintText(), QString("Not a valid number. Please enter a number between 0 and 255!"));
+    QTest::keyClicks(dialog.txtDevIP(), ".0.9");
+    QCOMPARE(dialog.txtDevIP()->text(), QString("10.255.0.9"));
+    QVERIFY(dialog.hintText().isEmpty());
+    QVERIFY(dialog.isSubnetWarningShown());   // not in the interface's 127.0.0.0/8
+    dialog.txtDevSubnetMask()->clear();
+    QTest::keyClicks(dialog.txtDevSubnetMask(), "255.255.256.0");
+    QCOMPARE(dialog.txtDevSubnetMask()->text(), QString("255.255.255.0"));
+
+    // The cursor never rests past the last allowed character.
+    dialog.txtDevGateway()->setText("192.168.100.200");
+    dialog.txtDevGateway()->setCursorPosition(15);
+    QCOMPARE(dialog.txtDevGateway()->cursorPosition(), 14);
+
+    // The check box follows the configuration, and OK stores it.
+    CConfiguration::getInstance()->setPersistentIP = false;
+    CConfiguration::getInstance()->notifyRestoreCfg();
+    QVERIFY(!dialog.cbSetPersistentIP()->isChecked());
+    CConfiguration::getInstance()->setPersistentIP = true;
+    CConfiguration::getInstance()->notifyRestoreCfg();
+    QVERIFY(dialog.cbSetPersistentIP()->isChecked());
+}
+
+void TestDeviceListDialogs::ipDialogRefusesBadInput()
+{
+    CTavDevicePtr device = deviceBySerial("RESP1");
+    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
+    CSetIPDlg dialog(true, nullptr);
+    QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
+    dialog.cbSetPersistentIP()->setChecked(false);
+    dialog.show();
+    BoxAnswerer answerer(QMessageBox::Cancel);
+    struct SCase
+    {
+        const char *ip, *mask, *gateway, *message;
+    };
+    const SCase cases[] = {
+        {"", "255.0.0.0", "", "IP or Subnet Mask is empty."},
+        {"10.0.0.9", "", "", "IP or Subnet Mask is empty."},
+        {"10.1", "255.0.0.0", "", "IP or Subnet Mask or Gateway is out of range of 0-255."},
+        {"10.0.0.9", "255.0.0.0", "10.0.1", "IP or Subnet Mask or Gateway is out of range of 0-255."},
+        {"10.0.0.9x", "255.0.0.0", "", "IP or Subnet Mask or Gateway is out of range of 0-255."},
+        {"224.0.0.1", "255.0.0.0", "", "IP or Gateway in the 224.*.*.* to 255.*.*.* range or 0.*.*.* cannot be "
+                                       "assigned to a device."},
+        {"127.0.0.9", "255.0.0.0", "", "IP addresses 127.*.*.* cannot be assigned to a device."},
+        {"10.0.0.0", "255.0.0.0", "0.0.0.0", "IP host number can not be all 0."},
+        {"10.255.255.255", "255.0.0.0", "", "IP host number can not be all 1."},
+        {"10.0.0.9", "255.0.0.0", "10.0.0.0", "Gateway host number can not be all 0."},
+        {"10.0.0.9", "255.0.0.0", "10.255.255.255", "Gateway host number can not be all 1."},
+        {"10.0.0.9", "255.0.0.0", "", "The network segment of the device is different from NIC's. Are you sure you "
+                                      "want to continue?"},
+    };
+    for (const SCase& c : cases) {
+        fill(&dialog, c.ip, c.mask, c.gateway);
+        dialog.btnOk()->click();
+        QCOMPARE(answerer.last(), QString::fromLatin1(c.message));
+        QVERIFY2(dialog.isVisible() && !dialog.isBusy(), c.ip);
+    }
+    QCOMPARE(answerer.texts.size(), int(sizeof(cases) / sizeof(cases[0])));
+    // Nothing reached the camera.
+    QVERIFY(m_responder->forced().empty());
+}
+
+void TestDeviceListDialogs::forceIpThroughTheTree()
+{
+    QTreeWidgetItem* item = responderItem();
+    QVERIFY(item);
+    BoxAnswerer answerer(QMessageBox::Ok);   // also "continue?" for another subnet
+    bool sawWait = false;
+    onDialog<CSetIPDlg>([&](CSetIPDlg* dialog) {
+        dialog->cbSetPersistentIP()->setChecked(false);
+        fill(dialog, "10.0.0.9", "255.0.0.0", "10.0.0.1");
+        dialog->btnOk()->click();
+        sawWait = dialog->waitDialog()->isVisible() && dialog->isBusy();
+    });
+    QSignalSpy finished(CDeviceManager::getInstance(), &CDeviceManager::discoveryDevicesFinished);
+    m_form->setCurrentDeviceItem(item);
+    m_form->on_ActionForceIpTriggered();   // returns once the dialog has closed
+    QVERIFY(sawWait);
+    QCOMPARE(answerer.texts, QStringList({"The network segment of the device is different from NIC's. Are you sure "
+                                          "you want to continue?"}));
+    const auto forced = m_responder->forced();
+    QCOMPARE(int(forced.size()), 1);
+    QCOMPARE(forced[0].mac, kResponderMac);
+    QCOMPARE(forced[0].ip, 0x0A000009u);
+    QCOMPARE(forced[0].mask, 0xFF000000u);
+    QCOMPARE(forced[0].gateway, 0x0A000001u);
+    // An accepted dialog makes the tree rediscover.
+    QVERIFY(finished.wait(20000));
+    QVERIFY(!CConfiguration::getInstance()->setPersistentIP);   // OK stored the check box
+    CConfiguration::getInstance()->setPersistentIP = true;
+}
+
+void TestDeviceListDialogs::forceIpFailuresKeepTheDialogOpen()
+{
+    QTRY_VERIFY_WITH_TIMEOUT(responderItem() != nullptr, 15000);
+    CTavDevicePtr device = deviceBySerial("RESP1");
+    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
+    BoxAnswerer answerer(QMessageBox::Ok);
+
+    // No acknowledge to FORCEIP.
+    m_responder->setAnswerForceIp(false);
+    {
+        CSetIPDlg dialog(true, nullptr);
+        QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
+        dialog.cbSetPersistentIP()->setChecked(false);
+        dialog.show();
+        fill(&dialog, "10.0.0.9", "255.0.0.0", "");
+        dialog.btnOk()->click();
+        QVERIFY(dialog.isBusy());
+        dialog.reject();   // refused while the camera is being written
+        QVERIFY(dialog.isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!dialog.isBusy(), 15000);
+        QCOMPARE(answerer.last(), QString("Set device IP failed."));
+        QVERIFY(dialog.isVisible());
+        QVERIFY(dialog.result() != QDialog::Accepted);
+    }
+    m_responder->setAnswerForceIp(true);
+
+    // The forced address is taken, the persistent write is not (the listener
+    // grants no control session).
+    {
+        CSetIPDlg dialog(true, nullptr);
+        QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
+        dialog.cbSetPersistentIP()->setChecked(true);
+        dialog.show();
+        fill(&dialog, "10.0.0.10", "255.0.0.0", "");
+        dialog.btnOk()->click();
+        QVERIFY(dialog.waitDialog()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!dialog.isBusy(), 20000);
+        QCOMPARE(answerer.last(), QString("Set persistent IP failed."));
+        QVERIFY(!dialog.waitDialog()->isVisible());
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(m_responder->forced().back().ip, 0x0A00000Au);
+    }
+}
+
+void TestDeviceListDialogs::remoteCameraFromTheGigERoot()
+{
+    // (accepted addresses are probed for real in test_devicelist_unicast)
+    BoxAnswerer answerer;
+    CConfiguration::getInstance()->RemoteIpAddr = "10.0.0.5";
+    QString preset;
+    bool stayedOpen = false;
+    onDialog<CUnicastDlg>([&](CUnicastDlg* dialog) {
+        preset = dialog->getEditValue();
+        dialog->lineEdit()->setText(kResponderIp);   // a loopback address is never a camera's
+        dialog->okButton()->click();
+        stayedOpen = dialog->isVisible();
+        dialog->cancelButton()->click();
+    });
+    m_form->onActionUnicastTriggered();
+    QCOMPARE(preset, QString("10.0.0.5"));
+    QVERIFY(stayedOpen);
+    QCOMPARE(answerer.texts, QStringList({"invalid ip"}));
+    QCOMPARE(CConfiguration::getInstance()->RemoteIpAddr, QString("10.0.0.5"));
+    QVERIFY(m_form->refreshButton()->isEnabled());
+}
+
+void TestDeviceListDialogs::cameraGoneWhileDialogOpen()
+{
+    QTRY_VERIFY_WITH_TIMEOUT(responderItem() != nullptr, 15000);
+    CTavDevicePtr device = deviceBySerial("RESP1");
+    const Vorlen::Infra::CString key = device->getDevice()->getKey();
+    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
+    device.reset();
+    BoxAnswerer answerer(QMessageBox::Ok);
+    CSetIPDlg dialog(true, nullptr);
+    QVERIFY(dialog.setInfo(info, key));
+    dialog.cbSetPersistentIP()->setChecked(false);
+    dialog.show();
+
+    // The camera stops answering and leaves the device map.
+    m_responder->stop();
+    QVERIFY(QTest::qWaitFor([&]() {
+        if (!deviceBySerial("RESP1"))
+            return true;
+        rediscover();
+        return false;
+    }, 30000));
+    QVERIFY(!responderItem());
+
+    const int before = int(m_responder->forced().size());
+    fill(&dialog, "10.0.0.9", "255.0.0.0", "");
+    dialog.btnOk()->click();
+    QCOMPARE(answerer.last(), QString("Device not found."));
+    QVERIFY(dialog.isVisible() && !dialog.isBusy());
+    QCOMPARE(int(m_responder->forced().size()), before);
+
+    // A dialog opened for a key that no longer resolves says so at once.
+    CSetIPDlg late(true, nullptr);
+    QVERIFY(!late.setInfo(info, key));
+    QCOMPARE(answerer.last(), QString("Device not found."));
+}
+
+QTEST_MAIN(TestDeviceListDialogs)
+#include "test_devicelist_dialogs.moc"
