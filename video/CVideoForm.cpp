@@ -47,6 +47,7 @@ CVideoForm::CVideoForm(int formId, QWidget* parent, bool attachToBus) : QWidget(
     m_waiting = new QWidget(m_display);
     m_waiting->setObjectName(QStringLiteral("videoWaiting"));
     m_busy = new CBusyIndicator(m_waiting);
+    m_busy->setObjectName(QStringLiteral("videoBusy"));
     m_waitingText = new QLabel(m_waiting);
     m_waitingText->setObjectName(QStringLiteral("lblVideoWaiting"));
     m_waitingText->setAlignment(Qt::AlignCenter);
@@ -179,9 +180,6 @@ void CVideoForm::setMaxMode(bool max)
 void CVideoForm::setVideoLayout(EN_VIDEO_LAYOUT layout)
 {
     m_layout = layout;
-    // Small cells keep only the picture and the title; large ones show the
-    // status bar's details too.
-    m_statusBar->setVisible(m_maxMode || getColumn(layout) <= 3);
 }
 
 void CVideoForm::showWaitingGif(EN_MESSAGE_TYPE type)

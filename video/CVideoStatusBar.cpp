@@ -99,6 +99,11 @@ void CVideoStatusBar::retranslate()
     } else {
         m_lblCursor->clear();
     }
+    // Empty fields give their room to the others; narrow views keep the
+    // whole text in the tool tip.
+    m_lblError->setVisible(!m_lblError->text().isEmpty());
+    m_lblCursor->setVisible(!m_lblCursor->text().isEmpty());
+    m_lblStats->setToolTip(m_lblStats->text());
 }
 
 void CVideoStatusBar::changeEvent(QEvent* event)

@@ -136,6 +136,18 @@ std::vector<uint8_t> makeBayer(int w, int h, int phase)
 void grabLayouts(CVideoManagerForm& manager, const QString& dir)
 {
     QDir().mkpath(dir);
+    // Overlays on, so that the pictures show them too.
+    stuROI roi;
+    roi.Left = 600;
+    roi.Top = 300;
+    roi.Width = 500;
+    roi.Height = 400;
+    roi.RedROI = 255;
+    roi.GreenROI = 255;
+    roi.BlueROI = 0;
+    manager.multiVideoForm()->getForm(0)->setROI({ roi });
+    manager.multiVideoForm()->setDisplayROIEnable(true);
+    manager.multiVideoForm()->setShowCrosshair(true);
     for (EN_VIDEO_LAYOUT layout : { VIDEO_LAYOUT_1, VIDEO_LAYOUT_4, VIDEO_LAYOUT_16 }) {
         manager.multiVideoForm()->setGridLayout(layout);
         BenchSimCams::pump(800);
@@ -351,6 +363,12 @@ int runCamera(const SOptions& o)
                 (unsigned long long)(s1.lostPacket - s0.lostPacket));
     std::printf("process CPU: %.3f s per s of streaming (%.2f ms per received frame)\n", cpu / seconds,
                 received ? cpu * 1000.0 / received : 0.0);
+    if (!o.grabDir.isEmpty()) {
+        QDir().mkpath(o.grabDir);
+        const QString path = QDir(o.grabDir).filePath("video_camera.png");
+        manager->grab().save(path);
+        std::printf("saved %s\n", qPrintable(path));
+    }
     device->closeDevice(true);
     pump(500);
     manager.reset();
