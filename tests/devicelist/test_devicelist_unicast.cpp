@@ -1,0 +1,198 @@
+// Remote cameras for real: a simulated camera behind a router, in network
+// namespaces the test makes itself (remote_camera_rig.sh), out of reach of
+// broadcast discovery. It is found only through "Add Remote Camera", stays
+// listed while it answers, and leaves the list when it stops; a silent
+// address gives "Add remote device failed.".
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProcess>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QtTest>
+#include <unistd.h>
+
+#include "CConfiguration.h"
+#include "CDiscoveryDevicesForm.h"
+#include "CDiscoveryDevicesThread.h"
+#include "CUnicastDlg.h"
+#include "DeviceListTestSupport.h"
+#include "Gvcp.h"
+#include "MainWindow.h"
+#include "Tavlog4cpp/CTavLog.h"
+
+static const bool g_ownHome = []() {
+    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
+        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
+    return true;
+}();
+
+namespace {
+const char* const kCameraIp = "10.77.2.2";
+const char* const kSerial = "REMOTE01";
+} // namespace
+
+class TestDeviceListUnicast : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void foundOnlyByUnicastAndKeptWhileAnswering();
+    void silentAddressIsReported();
+
+private:
+    bool rig(const QString& action, QString* error = nullptr);
+    bool addRemote(const QString& ip);
+    QTreeWidgetItem* remoteItem() const;
+
+    QString m_name;
+    bool m_rigUp = false;
+    QProcess m_camera;
+    QWidget* m_host = nullptr;
+    CDiscoveryDevicesForm* m_form = nullptr;
+};
+
+bool TestDeviceListUnicast::rig(const QString& action, QString* error)
+{
+    QProcess p;
+    p.start("bash", {QString(LUMIDOR_TEST_DIR) + "/remote_camera_rig.sh", action, m_name});
+    if (!p.waitForFinished(30000)) {
+        if (error)
+            *error = "remote_camera_rig.sh did not finish";
+        return false;
+    }
+    if (error)
+        *error = QString::fromLocal8Bit(p.readAllStandardError()).trimmed();
+    return p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0;
+}
+
+QTreeWidgetItem* TestDeviceListUnicast::remoteItem() const
+{
+    CTavDevicePtr device = deviceBySerial(kSerial);
+    return device ? m_form->getItemByDevice(device) : nullptr;
+}
+
+// "Add Remote Camera" on the GigE root, answered with the address.
+bool TestDeviceListUnicast::addRemote(const QString& ip)
+{
+    CDiscoveryDevicesThread* worker = CDiscoveryDevicesThread::getInstance();
+    if (!QTest::qWaitFor([worker]() { return worker->isFirstDiscoveryFinished() && !worker->isDisconvrying(); },
+                         20000))
+        return false;
+    onDialog<CUnicastDlg>([ip](CUnicastDlg* dialog) {
+        dialog->lineEdit()->setText(ip);
+        dialog->okButton()->click();
+    });
+    QSignalSpy finished(m_form, &CDiscoveryDevicesForm::discoveryDevicesFinished);
+    QTreeWidget* list = m_form->deviceList();
+    m_form->ShowContextMenu(list->visualItemRect(m_form->getRootItem(0)).center());
+    if (!m_form->rootMenu()->isVisible())
+        return false;
+    m_form->rootMenu()->close();
+    m_form->actionUnicast()->trigger();
+    return finished.wait(20000);
+}
+
+void TestDeviceListUnicast::initTestCase()
+{
+    if (!qEnvironmentVariableIsEmpty("LUMIDOR_TEST_LOG"))
+        Tavlog4cpp::CTavLog::LoadDefault();
+    m_name = QString("lumi%1").arg(::getpid());
+    rig("down");
+    QString error;
+    if (!rig("up", &error))
+        QFAIL(qPrintable("cannot set up the remote camera network: " + error));
+    m_rigUp = true;
+
+    const QString simcam = QString(qgetenv("LUMIDOR_BIN_DIR")) + "/lumidor-simcam";
+    if (!QFile::exists(simcam))
+        QFAIL(qPrintable(simcam + " is missing: build the lumidor-simcam target"));
+    m_camera.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_camera.start("ip", {"netns", "exec", m_name + "_c", simcam, "--address", kCameraIp, "--serial", kSerial});
+    if (!m_camera.waitForStarted(10000))
+        QFAIL("cannot start lumidor-simcam in the camera namespace");
+    // Ready once it answers a discovery through the router.
+    uint32_t ip = 0;
+    Vorlen::GenICam::Gvcp::parseIp(kCameraIp, ip);
+    const bool answers = QTest::qWaitFor(
+        [ip]() {
+            Vorlen::GenICam::Gvcp::SDeviceInfo info;
+            return Vorlen::GenICam::Gvcp::discover(ip, 3956, 200, info) == 0;
+        },
+        30000);
+    if (!answers)
+        QFAIL("the simulated camera behind the router does not answer: check routing in remote_camera_rig.sh");
+
+    m_host = new QWidget;
+    m_form = new CDiscoveryDevicesForm(m_host);
+    m_form->resize(320, 600);
+    m_host->show();
+}
+
+void TestDeviceListUnicast::cleanupTestCase()
+{
+    delete m_host;
+    CDeviceManager::destroyInstance();
+    if (m_camera.state() != QProcess::NotRunning) {
+        m_camera.kill();
+        m_camera.waitForFinished(5000);
+    }
+    if (m_rigUp) {
+        QString error;
+        QVERIFY2(rig("down", &error), qPrintable(error));
+    }
+}
+
+void TestDeviceListUnicast::foundOnlyByUnicastAndKeptWhileAnswering()
+{
+    // Broadcast discovery does not reach it.
+    QVERIFY(rediscover());
+    QVERIFY(rediscover());
+    QVERIFY(!deviceBySerial(kSerial));
+
+    BoxAnswerer answerer;
+    QVERIFY(addRemote(kCameraIp));
+    QTRY_VERIFY_WITH_TIMEOUT(remoteItem() != nullptr, 10000);
+    QTreeWidgetItem* item = remoteItem();
+    QCOMPARE(item->parent(), m_form->getRootItem(0));
+    QCOMPARE(CConfiguration::getInstance()->RemoteIpAddr, QString(kCameraIp));
+    QVERIFY(answerer.texts.isEmpty());
+
+    // Ordinary refreshes probe it again and keep it.
+    for (int i = 0; i < 2; ++i) {
+        QSignalSpy finished(m_form, &CDiscoveryDevicesForm::discoveryDevicesFinished);
+        QTRY_VERIFY(m_form->refreshButton()->isEnabled());
+        m_form->on_reflesh_clicked();
+        QVERIFY(finished.wait(20000));
+        QCOMPARE(remoteItem(), item);
+    }
+    QCOMPARE(CDiscoveryDevicesThread::getInstance()->unicastAddresses(), QVector<QString>({kCameraIp}));
+
+    // It stops: the next refresh drops it, and it is not probed again.
+    m_camera.kill();
+    m_camera.waitForFinished(5000);
+    QSignalSpy finished(m_form, &CDiscoveryDevicesForm::discoveryDevicesFinished);
+    QTRY_VERIFY(m_form->refreshButton()->isEnabled());
+    m_form->on_reflesh_clicked();
+    QVERIFY(finished.wait(20000));
+    QVERIFY(!remoteItem());
+    QVERIFY(!deviceBySerial(kSerial));
+    QVERIFY(CDiscoveryDevicesThread::getInstance()->unicastAddresses().isEmpty());
+    QVERIFY(answerer.texts.isEmpty());
+}
+
+void TestDeviceListUnicast::silentAddressIsReported()
+{
+    MainWindow window{QString()};
+    BoxAnswerer answerer;
+    QSignalSpy result(CDiscoveryDevicesThread::getInstance(), &CDiscoveryDevicesThread::discoveryDevicesFinished);
+    QVERIFY(addRemote("10.77.2.9"));
+    QTRY_COMPARE_WITH_TIMEOUT(answerer.texts, QStringList({"Add remote device failed."}), 10000);
+    QVERIFY(!result.isEmpty());
+    QCOMPARE(result.last().first().toBool(), false);
+    QTRY_VERIFY(m_form->refreshButton()->isEnabled());
+}
+
+QTEST_MAIN(TestDeviceListUnicast)
+#include "test_devicelist_unicast.moc"
