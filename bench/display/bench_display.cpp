@@ -287,17 +287,21 @@ int runRenderOnly()
     info.imageSize = raw.size();
     info.rawData = raw.data();
     const CQtHybridFramePtr frame(new Gliv::CQtHybridFrame(info));
-    for (QSize target : { QSize(334, 188), QSize(480, 270), QSize(560, 315), QSize(1280, 720) }) {
-        Gliv::CDisplayRenderer renderer;
-        QImage out;
-        const int runs = 200;
-        renderer.render(*frame, { QRect(0, 0, w, h), target, Gliv::bayerBilinear }, out);
-        const qint64 t0 = threadCpuNs();
-        for (int i = 0; i < runs; ++i)
-            renderer.render(*frame, { QRect(0, 0, w, h), target, Gliv::bayerBilinear }, out);
-        std::printf("render 1920x1080 BayerRG8 to %dx%d: %.3f ms CPU per frame\n", target.width(), target.height(),
-                    (threadCpuNs() - t0) / 1e6 / runs);
-    }
+    info.pixelFormat = Gliv::PixelFormat::Mono8;
+    const CQtHybridFramePtr mono(new Gliv::CQtHybridFrame(info));
+    for (const CQtHybridFramePtr& f : { frame, mono })
+        for (QSize target : { QSize(334, 188), QSize(480, 270), QSize(560, 315), QSize(1280, 720) }) {
+            Gliv::CDisplayRenderer renderer;
+            QImage out;
+            const int runs = 200;
+            renderer.render(*f, { QRect(0, 0, w, h), target, Gliv::bayerBilinear }, out);
+            const qint64 t0 = threadCpuNs();
+            for (int i = 0; i < runs; ++i)
+                renderer.render(*f, { QRect(0, 0, w, h), target, Gliv::bayerBilinear }, out);
+            std::printf("render 1920x1080 %s to %dx%d: %.3f ms CPU per frame\n",
+                        f == frame ? "BayerRG8" : "Mono8", target.width(), target.height(),
+                        (threadCpuNs() - t0) / 1e6 / runs);
+        }
     return 0;
 }
 

@@ -70,6 +70,7 @@ private slots:
     void bayerAtReducedSizeMatchesReference();
     void bayerPatternsPutColoursInPlace();
     void monoAtReducedSizeAndZoomedIn();
+    void otherFormatsUseTheFullConversion();
     void paddedLinesAreSkipped();
     void geometryOfFitAndZoom();
     void pixelProbeReadsRawValues();
@@ -189,6 +190,29 @@ void TestVideoviewRender::monoAtReducedSizeAndZoomedIn()
     for (int y = 0; y < 16; ++y)
         for (int x = 0; x < 32; ++x)
             QCOMPARE(qRed(out.pixel(x, y)), int(raw[size_t(6 + y / 4) * w + 10 + x / 4]));
+}
+
+void TestVideoviewRender::otherFormatsUseTheFullConversion()
+{
+    // RGB8: the frame's own conversion, then the same scaling.
+    std::vector<uint8_t> rgb;
+    for (int i = 0; i < 16 * 8; ++i) {
+        rgb.push_back(250);
+        rgb.push_back(uint8_t(i));
+        rgb.push_back(5);
+    }
+    const CQtHybridFramePtr frame = makeFrame(PixelFormat::RGB8, 16, 8, rgb);
+    CDisplayRenderer renderer;
+    QImage out;
+    QVERIFY(renderer.render(*frame, { QRect(0, 0, 16, 8), QSize(16, 8) }, out));
+    QVERIFY(frame->isConverted());
+    QCOMPARE(out.pixel(3, 1), qRgb(250, 19, 5));
+    QVERIFY(renderer.render(*frame, { QRect(0, 0, 16, 8), QSize(4, 2) }, out));
+    QCOMPARE(qRed(out.pixel(0, 0)), 250);
+    QCOMPARE(qBlue(out.pixel(0, 0)), 5);
+    // A format nobody converts shows nothing.
+    const CQtHybridFramePtr unknown = makeFrame(0x12345678, 16, 8, rgb);
+    QVERIFY(!renderer.render(*unknown, { QRect(0, 0, 16, 8), QSize(4, 2) }, out));
 }
 
 void TestVideoviewRender::paddedLinesAreSkipped()

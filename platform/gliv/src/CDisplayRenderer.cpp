@@ -72,6 +72,27 @@ void ensure(std::vector<uint8_t>& buf, size_t bytes)
         buf.resize(bytes);
 }
 
+// Shrinks src into dst: an area average by a whole factor (OpenCV's fast
+// path, the few lines and columns beyond a whole block left out), then a
+// bilinear step for the rest, which is less than a factor of two.
+void shrink(const cv::Mat& src, cv::Mat& dst, std::vector<uint8_t>& scratch)
+{
+    const int k = std::min(src.cols / dst.cols, src.rows / dst.rows);
+    if (k < 2) {
+        cv::resize(src, dst, dst.size(), 0, 0, cv::INTER_LINEAR);
+        return;
+    }
+    const cv::Mat whole = src(cv::Rect(0, 0, src.cols / k * k, src.rows / k * k));
+    if (whole.cols / k == dst.cols && whole.rows / k == dst.rows) {
+        cv::resize(whole, dst, dst.size(), 0, 0, cv::INTER_AREA);
+        return;
+    }
+    ensure(scratch, size_t(whole.cols / k) * (whole.rows / k) * src.elemSize());
+    cv::Mat binned(whole.rows / k, whole.cols / k, src.type(), scratch.data());
+    cv::resize(whole, binned, binned.size(), 0, 0, cv::INTER_AREA);
+    cv::resize(binned, dst, dst.size(), 0, 0, cv::INTER_LINEAR);
+}
+
 // out as an RGB32 image of the size, keeping its pixels when they are ours alone.
 bool prepareOutput(QImage& out, const QSize& size)
 {
@@ -246,8 +267,10 @@ bool CDisplayRenderer::render(const CQtHybridFrame& frame, const SRenderRequest&
             cv::Mat dst = wrapOutput(out);
             ensure(m_scratchA, size_t(target.width()) * target.height());
             cv::Mat gray(target.height(), target.width(), CV_8UC1, m_scratchA.data());
-            const bool shrink = target.width() <= src.width() && target.height() <= src.height();
-            cv::resize(region, gray, gray.size(), 0, 0, shrink ? cv::INTER_AREA : upInterpolation(src, target));
+            if (target.width() <= src.width() && target.height() <= src.height())
+                shrink(region, gray, m_scratchB);
+            else
+                cv::resize(region, gray, gray.size(), 0, 0, upInterpolation(src, target));
             cv::cvtColor(gray, dst, cv::COLOR_GRAY2BGRA);
             return true;
         }
@@ -267,8 +290,10 @@ bool CDisplayRenderer::render(const CQtHybridFrame& frame, const SRenderRequest&
         cv::Mat dst = wrapOutput(out);
         ensure(m_scratchA, size_t(target.width()) * target.height() * 3);
         cv::Mat scaled(target.height(), target.width(), CV_8UC3, m_scratchA.data());
-        const bool shrink = target.width() <= src.width() && target.height() <= src.height();
-        cv::resize(region, scaled, scaled.size(), 0, 0, shrink ? cv::INTER_AREA : upInterpolation(src, target));
+        if (target.width() <= src.width() && target.height() <= src.height())
+            shrink(region, scaled, m_scratchB);
+        else
+            cv::resize(region, scaled, scaled.size(), 0, 0, upInterpolation(src, target));
         cv::cvtColor(scaled, dst, cv::COLOR_BGR2BGRA);
         return true;
     } catch (...) {
