@@ -80,8 +80,8 @@ CVideoForm::CVideoForm(int formId, QWidget* parent, bool attachToBus) : QWidget(
 
     connect(this, &CVideoForm::update_receive, this, &CVideoForm::OnUpdateReceive, Qt::QueuedConnection);
     if (attachToBus) {
-        CDeviceManager::getInstance()->attach(this);
-        m_attached = true;
+        m_busOwner = CDeviceManager::getInstance();
+        m_busOwner->attach(this);
     }
     retranslate();
     updateTitle();
@@ -89,8 +89,8 @@ CVideoForm::CVideoForm(int formId, QWidget* parent, bool attachToBus) : QWidget(
 
 CVideoForm::~CVideoForm()
 {
-    if (m_attached)
-        CDeviceManager::getInstance()->detach(this);
+    if (m_busOwner)
+        m_busOwner->detach(this);
     if (m_frameConnection)
         disconnect(m_frameConnection);
 }

@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QList>
 #include <QTimer>
+#include <QPointer>
 #include <QWidget>
 #include <memory>
 
@@ -20,6 +21,7 @@ class CBusyIndicator;
 class CVideoControlBar;
 class CVideoStatusBar;
 class CVideoTitleBar;
+class CDeviceManager;
 class QLabel;
 
 class CVideoForm : public QWidget, public CObserver
@@ -115,7 +117,9 @@ private:
     void retranslate();
 
     const int m_formId;
-    bool m_attached = false;
+    // The device manager whose subject this observes; a manager already
+    // gone at destruction is not created again just to detach.
+    QPointer<CDeviceManager> m_busOwner;
     CTavDevicePtr m_device;
     QMetaObject::Connection m_frameConnection;
     EN_VIDEO_LAYOUT m_layout = VIDEO_LAYOUT_1;

@@ -91,8 +91,8 @@ CVideoManagerForm::CVideoManagerForm(QWidget* parent, bool attachToBus) : QWidge
     connect(this, &CVideoManagerForm::update_receive, this, &CVideoManagerForm::OnUpdateReceive,
             Qt::QueuedConnection);
     if (attachToBus) {
-        CDeviceManager::getInstance()->attach(this);
-        m_attached = true;
+        m_busOwner = CDeviceManager::getInstance();
+        m_busOwner->attach(this);
     }
     retranslate();
     applyConfig();
@@ -101,8 +101,8 @@ CVideoManagerForm::CVideoManagerForm(QWidget* parent, bool attachToBus) : QWidge
 
 CVideoManagerForm::~CVideoManagerForm()
 {
-    if (m_attached)
-        CDeviceManager::getInstance()->detach(this);
+    if (m_busOwner)
+        m_busOwner->detach(this);
 }
 
 void CVideoManagerForm::Update(CTavMessagePtr msg)

@@ -6,6 +6,7 @@
 // configuration and pushed to every view.
 #include <QColor>
 #include <QList>
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 
@@ -13,6 +14,7 @@
 #include "CObserver.h"
 #include "CTavMessage.h"
 
+class CDeviceManager;
 class CMultiVideoForm;
 class CVideoFullScreenWnd;
 class QAbstractButton;
@@ -94,7 +96,9 @@ private:
     // Display rate as the stream thread's limit counts it.
     static int displayRateValue(const QString& value);
 
-    bool m_attached = false;
+    // The device manager whose subject this observes; a manager already
+    // gone at destruction is not created again just to detach.
+    QPointer<CDeviceManager> m_busOwner;
     CMultiVideoForm* m_multi;
     CVideoFullScreenWnd* m_fullScreen;
     QVBoxLayout* m_mainLayout;
