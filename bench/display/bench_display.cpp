@@ -309,12 +309,12 @@ int runCamera(const SOptions& o)
 {
     using namespace BenchSimCams;
     std::vector<std::unique_ptr<QProcess>> cams;
-    SCameraSpec spec;
-    spec.address = o.address;
-    spec.serial = QStringLiteral("BENCHDISP1");
-    spec.fps = 60.0;
-    spec.packetSize = 8000;
-    if (!startCameras({ spec }, cams, "bench_display")) {
+    SCameraSpec camera;
+    camera.address = o.address;
+    camera.serial = QStringLiteral("BENCHDISP1");
+    camera.fps = 60.0;
+    camera.packetSize = 8000;
+    if (!startCameras({ camera }, cams, "bench_display")) {
         stopCameras(cams);
         return 1;
     }
@@ -322,7 +322,7 @@ int runCamera(const SOptions& o)
     std::unique_ptr<CVideoManagerForm> manager(new CVideoManagerForm);
     manager->multiVideoForm()->setGridLayout(VIDEO_LAYOUT_1);
     manager->show();
-    if (!findDevices({ spec.serial }, devices, 20000, "bench_display")) {
+    if (!findDevices({ camera.serial }, devices, 20000, "bench_display")) {
         stopCameras(cams);
         return 1;
     }
