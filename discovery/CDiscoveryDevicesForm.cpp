@@ -112,10 +112,10 @@ void CDiscoveryDevicesForm::buildUi()
     m_btnRefresh = new QPushButton(m_frameDevList);
     m_btnRefresh->setObjectName(QStringLiteral("reflesh"));
     m_btnRefresh->setIcon(QIcon(QStringLiteral(":/Pic/Icon_DevList_Refresh.png")));
-    m_btnCollpaseDevice = new QPushButton(m_frameDevList);
+    m_btnCollpaseDevice = new QToolButton(m_frameDevList);
     m_btnCollpaseDevice->setObjectName(QStringLiteral("btnCollpaseDevice"));
     m_btnCollpaseDevice->setIcon(QIcon(QStringLiteral(":/Pic/Icon_Panel_Collapse_Left.png")));
-    m_btnCollpaseDevice->setFlat(true);
+    m_btnCollpaseDevice->setAutoRaise(true);
     m_deviceList = new QTreeWidget(m_frameDevList);
     m_deviceList->setObjectName(QStringLiteral("deviceList"));
     m_deviceList->setColumnCount(2);
@@ -166,11 +166,11 @@ void CDiscoveryDevicesForm::buildUi()
     contentsLayout->addWidget(m_frameDevList, 3);
     contentsLayout->addWidget(m_frameDevInfo, 2);
 
-    m_btnExpandDevice = new QPushButton(this);
+    m_btnExpandDevice = new QToolButton(this);
     m_btnExpandDevice->setObjectName(QStringLiteral("btnExpandDevice"));
     m_btnExpandDevice->setIcon(QIcon(QStringLiteral(":/Pic/Icon_Panel_Expand_Left.png")));
     m_btnExpandDevice->setFixedWidth(kCollapsedWidth);
-    m_btnExpandDevice->setFlat(true);
+    m_btnExpandDevice->setAutoRaise(true);
     m_btnExpandDevice->hide();
 
     auto* layout = new QHBoxLayout(this);
@@ -180,8 +180,8 @@ void CDiscoveryDevicesForm::buildUi()
     layout->addWidget(m_btnExpandDevice, 0, Qt::AlignTop);
 
     connect(m_btnRefresh, &QPushButton::clicked, this, &CDiscoveryDevicesForm::on_reflesh_clicked);
-    connect(m_btnCollpaseDevice, &QPushButton::clicked, this, &CDiscoveryDevicesForm::onBtnCollpaseClicked);
-    connect(m_btnExpandDevice, &QPushButton::clicked, this, &CDiscoveryDevicesForm::on_btnExpandDevice_clicked);
+    connect(m_btnCollpaseDevice, &QToolButton::clicked, this, &CDiscoveryDevicesForm::onBtnCollpaseClicked);
+    connect(m_btnExpandDevice, &QToolButton::clicked, this, &CDiscoveryDevicesForm::on_btnExpandDevice_clicked);
     connect(m_deviceList, &QTreeWidget::itemClicked, this, &CDiscoveryDevicesForm::on_deviceList_itemClicked);
     connect(m_deviceList, &QTreeWidget::itemDoubleClicked, this,
             &CDiscoveryDevicesForm::on_deviceList_itemDoubleClicked);
@@ -330,6 +330,11 @@ void CDiscoveryDevicesForm::on_OpenDeviceSuccess(CTavDevicePtr device)
 void CDiscoveryDevicesForm::on_CloseDeviceSuccess(CTavDevicePtr device)
 {
     on_OpenDeviceSuccess(device);
+    // The permission read while we held the camera is stale now; message 9
+    // brings the fresh one.
+    QTreeWidgetItem* item = getItemByDevice(device);
+    if (item && item->type() == treeItemGigEDevice)
+        device->refreshAccessPermission();
 }
 
 void CDiscoveryDevicesForm::onRefreshAccessStatus(CTavDevicePtr device)

@@ -21,6 +21,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class QTimer;
+class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 class CDiscoveryButtonsForm;
@@ -85,8 +86,8 @@ public:
     QTreeWidget* deviceList() const { return m_deviceList; }
     QTreeWidget* deviceInfo() const { return m_deviceInfo; }
     QPushButton* refreshButton() const { return m_btnRefresh; }
-    QPushButton* expandButton() const { return m_btnExpandDevice; }
-    QPushButton* collapseButton() const { return m_btnCollpaseDevice; }
+    QToolButton* expandButton() const { return m_btnExpandDevice; }
+    QToolButton* collapseButton() const { return m_btnCollpaseDevice; }
     QMenu* deviceMenu() const { return m_pDeviceMenu; }
     QMenu* rootMenu() const { return m_pRootMenu; }
     CWaitDlg* waitDialog() const { return m_pWaitDlg; }
@@ -208,8 +209,8 @@ private:
     QFrame* m_frameDevInfo;
     QLabel* m_lblDevInfo;
     QTreeWidget* m_deviceInfo;
-    QPushButton* m_btnExpandDevice;
-    QPushButton* m_btnCollpaseDevice;
+    QToolButton* m_btnExpandDevice;
+    QToolButton* m_btnCollpaseDevice;
     QWidget* m_contents;
 
     SRootRecord m_roots[cameraTypeCount];

@@ -11,6 +11,10 @@ CDiscoveryRootForm::CDiscoveryRootForm(QWidget* parent) : QFrame(parent)
     setObjectName(QStringLiteral("CDiscoveryRootForm"));
     m_checkBox = new QCheckBox(this);
     m_checkBox->setObjectName(QStringLiteral("checkBox_RootItem"));
+    // Roots line up whether their check box shows or not.
+    QSizePolicy policy = m_checkBox->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_checkBox->setSizePolicy(policy);
     m_label = new QLabel(this);
     m_label->setObjectName(QStringLiteral("label_RootItem"));
     auto* layout = new QHBoxLayout(this);

@@ -7,7 +7,9 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTextCodec>
+#include <QTranslator>
 #include <QMenu>
 #include <QProcess>
 #include <QToolButton>
@@ -26,6 +28,7 @@
 #include "CWaitDlg.h"
 #include "DeviceListTestSupport.h"
 #include "DiscoveryItemTypes.h"
+#include "StyleSheet.h"
 #include "Tavlog4cpp/CTavLog.h"
 
 static const bool g_ownHome = []() {
@@ -47,7 +50,9 @@ private slots:
     void connectionLimit();
     void copyDeviceInfo();
     void userIdShownAfterRefresh();
+    void languageSwitchAndLook();
     void persistentIpWrittenToCamera();
+    void saveGenICamXml();
     void collapseAndExpand();
     void vanishedCameraLeavesTree();
 
@@ -485,6 +490,107 @@ void TestDeviceList::persistentIpWrittenToCamera()
     QVERIFY2(mask.contains(QString::number(0xFFFFFF00u)) || mask.contains("255.255.255.0"), qPrintable(mask));
     QVERIFY2(gateway.contains(QString::number(0xC0A80701u)) || gateway.contains("192.168.7.1"), qPrintable(gateway));
     QVERIFY2(enabled.contains("true", Qt::CaseInsensitive) || enabled.endsWith("1"), qPrintable(enabled));
+}
+
+void TestDeviceList::saveGenICamXml()
+{
+    QTreeWidgetItem* item = itemOf(0);
+    CTavDevicePtr device = deviceOf(0);
+    QSignalSpy opened(m_form, &CDiscoveryDevicesForm::openDeviceSuccess);
+    m_form->setHoverItem(item);
+    m_form->buttonsOf(item)->getConnectBtn()->click();
+    QVERIFY(opened.wait(15000));
+    m_form->on_deviceList_itemClicked(item, 0);
+
+    QTemporaryDir dir;
+    const QString path = dir.filePath("camera.xml");
+    QString suggested;
+    m_form->setXmlFileChooser([&](QWidget*, const QString& name) {
+        suggested = name;
+        return path;
+    });
+    BoxAnswerer answerer;
+    QSignalSpy done(m_form, &CDiscoveryDevicesForm::cameraTaskFinished);
+    m_form->onActionSaveGenICamXml();
+    QVERIFY(done.wait(15000));
+    QCOMPARE(suggested, device->getDeviceSaveName() + ".xml");
+    QVERIFY(answerer.texts.isEmpty());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("RegisterDescription"));
+
+    // A place that cannot be written.
+    m_form->setXmlFileChooser([](QWidget*, const QString&) { return QString("/proc/no/such/dir/camera.xml"); });
+    m_form->onActionSaveGenICamXml();
+    QVERIFY(done.wait(15000));
+    QCOMPARE(answerer.texts, QStringList({"Download xml file failed."}));
+    // A cancelled file dialog does nothing.
+    m_form->setXmlFileChooser([](QWidget*, const QString&) { return QString(); });
+    m_form->onActionSaveGenICamXml();
+    QCOMPARE(CCameraTask::running(), 0);
+
+    QSignalSpy closed(m_form, &CDiscoveryDevicesForm::closeDeviceSuccess);
+    device->closeDevice(false);
+    QVERIFY(closed.wait(15000));
+}
+
+// Two cameras, one streaming, in English and in Chinese: the texts follow a
+// language switch at once, and both looks are saved for a person to check
+// (LUMIDOR_SCREENSHOT_DIR, else the test's working folder).
+void TestDeviceList::languageSwitchAndLook()
+{
+    QTreeWidgetItem* streaming = itemOf(0);
+    CTavDevicePtr device = deviceOf(0);
+    QSignalSpy opened(m_form, &CDiscoveryDevicesForm::openDeviceSuccess);
+    m_form->setHoverItem(streaming);
+    m_form->buttonsOf(streaming)->getConnectBtn()->click();
+    QVERIFY(opened.wait(15000));
+    QVERIFY(m_form->prepareDeviceMenu(streaming));
+    m_form->actionPlay()->trigger();
+    QVERIFY(waitIcon(0, CDiscoveryDevicesForm::iconAcquisition));
+    m_form->on_deviceList_itemClicked(streaming, 0);
+    m_form->setHoverItem(itemOf(1));
+    for (int i = 0; i < CDiscoveryDevicesForm::iconCount; ++i)
+        QVERIFY2(m_form->itemIconIndex(streaming) >= 0, "status icons are missing from the resources");
+
+    const QString dir = qEnvironmentVariableIsEmpty("LUMIDOR_SCREENSHOT_DIR")
+                            ? QDir::currentPath()
+                            : QString::fromLocal8Bit(qgetenv("LUMIDOR_SCREENSHOT_DIR"));
+    // In the application's own style.
+    const QString sheet = QString::fromLocal8Bit(qgetenv("LUMIDOR_SOURCE_DIR")) + "/res/Skins/Default/Vintrel/style.qss";
+    QVERIFY2(setStyleSheet<QApplication>(*qApp, sheet), qPrintable(sheet));
+    m_host->resize(340, 720);
+    m_form->resize(340, 720);
+    QTest::qWait(50);
+    QVERIFY(m_form->grab().save(dir + "/devicelist_en.png"));
+
+    QTranslator panel, widgets;
+    QVERIFY2(panel.load(":/i18n/discovery_zh_CN.qm"), "the compiled translation is not in the resources");
+    widgets.load(":/i18n/widgets_zh_CN.qm");
+    QCoreApplication::installTranslator(&panel);
+    QCoreApplication::installTranslator(&widgets);
+    QTest::qWait(20);
+    QCOMPARE(m_form->refreshButton()->text(), QString::fromUtf8("刷新"));
+    QCOMPARE(m_form->rootForm(0)->text(), QString("GigE"));
+    QVERIFY(m_form->prepareDeviceMenu(streaming));
+    QCOMPARE(m_form->actionConnect()->text(), QString::fromUtf8("断开连接"));
+    QCOMPARE(m_form->actionPlay()->text(), QString::fromUtf8("停止采集"));
+    QCOMPARE(m_form->infoRows(true).at(7).first, QString::fromUtf8("序列号"));
+    QCOMPARE(m_form->buttonsOf(itemOf(1))->getConnectBtn()->toolTip(), QString::fromUtf8("连接"));
+    QVERIFY(m_form->grab().save(dir + "/devicelist_zh.png"));
+
+    QCoreApplication::removeTranslator(&panel);
+    QCoreApplication::removeTranslator(&widgets);
+    QTest::qWait(20);
+    QCOMPARE(m_form->refreshButton()->text(), QString("refresh"));
+    QCOMPARE(m_form->infoRows(true).at(7).first, QString("Serial Number"));
+
+    qApp->setStyleSheet(QString());
+    m_form->actionPlay()->trigger();
+    QVERIFY(waitIcon(0, CDiscoveryDevicesForm::iconConnected));
+    QSignalSpy closed(m_form, &CDiscoveryDevicesForm::closeDeviceSuccess);
+    device->closeDevice(false);
+    QVERIFY(closed.wait(15000));
 }
 
 void TestDeviceList::collapseAndExpand()
