@@ -88,6 +88,7 @@ CDiscoveryDevicesForm::CDiscoveryDevicesForm(QWidget* parent) : QWidget(parent)
     m_pAutoRefreshTimer->start();
 
     CDeviceManager* manager = CDeviceManager::getInstance();
+    m_pManager = manager;
     manager->attach(this);
     // Discovery may have finished before the panel existed.
     QMap<QString, CTavDevicePtr> devices = manager->getAllDevices();
@@ -96,7 +97,9 @@ CDiscoveryDevicesForm::CDiscoveryDevicesForm(QWidget* parent) : QWidget(parent)
 
 CDiscoveryDevicesForm::~CDiscoveryDevicesForm()
 {
-    CDeviceManager::getInstance()->detach(this);
+    // The manager may have been shut down first; do not make a new one.
+    if (m_pManager)
+        m_pManager->detach(this);
 }
 
 void CDiscoveryDevicesForm::buildUi()
@@ -942,9 +945,11 @@ void CDiscoveryDevicesForm::connectItem(QTreeWidgetItem* target)
                        this, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Question) != QMessageBox::Ok)
             return;
     }
-    // The questions above are modal: the camera may have gone meanwhile.
+    // The questions above are modal: a refresh may have removed the row, or
+    // the camera, meanwhile.
+    target = getItemByKey(key);
     device = CDeviceManager::getInstance()->getDeviceByKey(key);
-    if (!device) {
+    if (!device || !target) {
         messageBox(tr("Connection failed. Device does not exist!\n"), this, QMessageBox::Ok, QMessageBox::Critical);
         return;
     }

@@ -24,6 +24,7 @@ class QTimer;
 class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
+class CDeviceManager;
 class CDiscoveryButtonsForm;
 class CDiscoveryRootForm;
 class CWaitDlg;
@@ -237,6 +238,7 @@ private:
 
     CWaitDlg* m_pWaitDlg;
     QTimer* m_pAutoRefreshTimer;
+    QPointer<CDeviceManager> m_pManager;
     int m_nExpandedWidth = 250;
     std::function<int()> m_openedDeviceCounter;
     std::function<QString(QWidget*, const QString&)> m_xmlFileChooser;

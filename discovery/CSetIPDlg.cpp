@@ -40,6 +40,8 @@ QLineEdit* makeEdit(QWidget* parent, const char* name, bool readOnly)
     auto* edit = new QLineEdit(parent);
     edit->setObjectName(QLatin1String(name));
     edit->setReadOnly(readOnly);
+    if (readOnly)
+        edit->setFocusPolicy(Qt::ClickFocus);   // the first field the keyboard reaches is the device IP
     edit->setMaxLength(readOnly ? 32767 : kAddressMaxLength);
     return edit;
 }
@@ -101,6 +103,11 @@ void CSetIPDlg::buildUi()
     m_btnCancel = new QPushButton(this);
     m_btnCancel->setObjectName(QStringLiteral("btnCancel"));
     m_lblDeviceStatus->setPixmap(QPixmap(QLatin1String(kNormalIcon)));
+    for (QLabel* section : {m_lblInterfaceSection, m_lblDeviceSection}) {
+        QFont font = section->font();
+        font.setBold(true);
+        section->setFont(font);
+    }
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(10);
@@ -207,6 +214,7 @@ bool CSetIPDlg::setInfo(const TSharedPtrGigEInterfaceInfo& info, const Vorlen::I
     m_txtDevSubnetMask->setText(fromSdk(camera.getSubnetMask()));
     m_txtDevGateway->setText(fromSdk(camera.getGateway()));
     updateSubnetWarning();
+    m_txtDevIP->setFocus();
     return true;
 }
 

@@ -19,6 +19,7 @@
 #include "CWaitDlg.h"
 #include "DeviceListTestSupport.h"
 #include "GvcpResponder.h"
+#include "StyleSheet.h"
 #include "Tavlog4cpp/CTavLog.h"
 #include "Vorlen/GenICam.h"
 
@@ -238,6 +239,20 @@ void TestDeviceListDialogs::ipDialogEditing()
     dialog.txtDevSubnetMask()->clear();
     QTest::keyClicks(dialog.txtDevSubnetMask(), "255.255.256.0");
     QCOMPARE(dialog.txtDevSubnetMask()->text(), QString("255.255.255.0"));
+
+    // Saved for a person to look at (LUMIDOR_SCREENSHOT_DIR, else the working folder).
+    const QString dir = qEnvironmentVariableIsEmpty("LUMIDOR_SCREENSHOT_DIR")
+                            ? QDir::currentPath()
+                            : QString::fromLocal8Bit(qgetenv("LUMIDOR_SCREENSHOT_DIR"));
+    const QString sheet = QString::fromLocal8Bit(qgetenv("LUMIDOR_SOURCE_DIR")) + "/res/Skins/Default/Vintrel/style.qss";
+    setStyleSheet<QApplication>(*qApp, sheet);
+    QTest::qWait(20);
+    QVERIFY(dialog.grab().save(dir + "/setip_dialog.png"));
+    CUnicastDlg unicast;
+    unicast.show();
+    QTest::qWait(20);
+    QVERIFY(unicast.grab().save(dir + "/unicast_dialog.png"));
+    qApp->setStyleSheet(QString());
 
     // The cursor never rests past the last allowed character.
     dialog.txtDevGateway()->setText("192.168.100.200");
