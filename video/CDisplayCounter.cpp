@@ -25,7 +25,7 @@ bool CDisplayCounter::isTimeToDisplay(unsigned long long timestamp)
 bool CDisplayCounter::isTimeToDisplay(unsigned long long timestamp, qint64 nowNs)
 {
     Q_UNUSED(timestamp);
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
 
     if (getDisplayRate() == 0)
         return false;
@@ -57,19 +57,19 @@ bool CDisplayCounter::isTimeToDisplay(unsigned long long timestamp, qint64 nowNs
 
 void CDisplayCounter::setDisplayFPS(int fps)
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     m_dDisplayInterval = fps < 1 ? 0.0 : 1000.0 / fps;
 }
 
 double CDisplayCounter::getDisplayInterval()
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     return m_dDisplayInterval;
 }
 
 void CDisplayCounter::reset()
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     m_nFirstFrameTime = 0;
     m_nLastFrameTime = 0;
 }

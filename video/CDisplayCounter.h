@@ -2,7 +2,7 @@
 // Display-rate limit of one stream: decides per frame whether the video view
 // gets it, so that at most one frame per 33.3 ms reaches the screen.
 #include <QElapsedTimer>
-#include <QMutex>
+#include <mutex>
 #include <QObject>
 #include <QString>
 #include <atomic>
@@ -37,7 +37,7 @@ public:
     static int displayRateFromSetting(const QString& value);
 
 private:
-    QMutex m_mutex;
+    std::mutex m_mutex;   // standard, so that ThreadSanitizer sees its hand-offs
     QElapsedTimer m_timer;
     qint64 m_nFirstFrameTime = 0;
     qint64 m_nLastFrameTime = 0;

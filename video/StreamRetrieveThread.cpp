@@ -46,26 +46,26 @@ StreamRetrieveThread::~StreamRetrieveThread()
 
 void StreamRetrieveThread::setStream(const Vorlen::Memory::TSharedPtr<CInternalStreamSource>& stream)
 {
-    QMutexLocker locker(&m_streamMutex);
+    std::lock_guard<std::mutex> locker(m_streamMutex);
     m_pStream = stream;
 }
 
 void StreamRetrieveThread::setDevice(const Vorlen::Memory::TSharedPtr<CInternalCamera>& camera)
 {
-    QMutexLocker locker(&m_streamMutex);
+    std::lock_guard<std::mutex> locker(m_streamMutex);
     m_pCamera = camera;
 }
 
 Vorlen::Memory::TSharedPtr<CInternalStreamSource> StreamRetrieveThread::streamSource()
 {
-    QMutexLocker locker(&m_streamMutex);
+    std::lock_guard<std::mutex> locker(m_streamMutex);
     return m_pStream;
 }
 
 void StreamRetrieveThread::Init()
 {
     {
-        QMutexLocker locker(&m_saveMutex);
+        std::lock_guard<std::mutex> locker(m_saveMutex);
         m_bForceRearm = true;
     }
     resetRecordStatistics();
@@ -175,7 +175,7 @@ void StreamRetrieveThread::addFrame(CFrame& frame)
     if (!m_bDisplay && !m_bSave && !m_bRecord)
     {
         frame.reset();
-        QMutexLocker locker(&m_recordMutex);
+        std::lock_guard<std::mutex> locker(m_recordMutex);
         ++m_nProcessedFrames;
         return;
     }
@@ -187,7 +187,7 @@ void StreamRetrieveThread::addFrame(CFrame& frame)
     {
         frame.reset();
         m_statistic.setError(QLatin1String(kNotSupportedImageFormat));
-        QMutexLocker locker(&m_recordMutex);
+        std::lock_guard<std::mutex> locker(m_recordMutex);
         ++m_nProcessedFrames;
         return;
     }
@@ -236,7 +236,7 @@ void StreamRetrieveThread::addFrame(CFrame& frame)
     }
     emit newFrame(hybrid, display, save, record);
 
-    QMutexLocker locker(&m_recordMutex);
+    std::lock_guard<std::mutex> locker(m_recordMutex);
     ++m_nProcessedFrames;
     if (record)
         ++m_nRecordedFrames;
@@ -264,7 +264,7 @@ void StreamRetrieveThread::refreshSettings(bool rearmSave)
 
 void StreamRetrieveThread::publishSettings(SStreamSettings settings, bool rearmSave)
 {
-    QMutexLocker locker(&m_publishMutex);
+    std::lock_guard<std::mutex> locker(m_publishMutex);
     const unsigned long long generation = m_settings.get()->saveGeneration;
     settings.saveGeneration = rearmSave ? generation + 1 : generation;
     m_displayCounter.setDisplayRate(settings.displayRate);
@@ -295,7 +295,7 @@ bool StreamRetrieveThread::isTimeToSaveImage(const SStreamSettings& settings, un
     if (!m_bSaveImageEnable)
         return false;
 
-    QMutexLocker locker(&m_saveMutex);
+    std::lock_guard<std::mutex> locker(m_saveMutex);
     if (m_bForceRearm || settings.saveGeneration != m_nArmedGeneration)
     {
         // New rule or value, or a new stream: start over.
@@ -350,14 +350,14 @@ bool StreamRetrieveThread::isTimeToSaveImage(const SStreamSettings& settings, un
 
 void StreamRetrieveThread::getRecordStatistics(unsigned long long& processed, unsigned long long& recorded)
 {
-    QMutexLocker locker(&m_recordMutex);
+    std::lock_guard<std::mutex> locker(m_recordMutex);
     processed = m_nProcessedFrames;
     recorded = m_nRecordedFrames;
 }
 
 void StreamRetrieveThread::resetRecordStatistics()
 {
-    QMutexLocker locker(&m_recordMutex);
+    std::lock_guard<std::mutex> locker(m_recordMutex);
     m_nProcessedFrames = 0;
     m_nRecordedFrames = 0;
 }

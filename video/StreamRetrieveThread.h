@@ -5,7 +5,7 @@
 // copy is made.
 #include <QElapsedTimer>
 #include <QMetaType>
-#include <QMutex>
+#include <mutex>
 #include <QSharedPointer>
 #include <QThread>
 #include <atomic>
@@ -86,13 +86,14 @@ public:
         m_statistic.getStatistic(receiveFps, displayFps, totalFrames, bandwidth);
     }
 
-    // One frame of the loop: count, decide, convert and emit. Public so that
+    // One frame of the loop: count, decide, build and emit. Public so that
     // the per-frame rules can be exercised without a camera. The frame's
     // camera buffer is released as soon as it has been copied or dropped.
     void addFrame(Vorlen::GenICam::CFrame& frame);
 
-    // Called on this thread with the time in ns each frame conversion took
-    // (measurement hook for the benchmarks); set it before start().
+    // Called on this thread with the time in ns each hybrid frame took to
+    // build: the raw copy, plus the full conversion for a frame that is saved
+    // or recorded (measurement hook for the benchmarks); set it before start().
     void setConversionTimeObserver(std::function<void(qint64)> observer) { m_conversionObserver = std::move(observer); }
 
 public slots:
@@ -124,7 +125,8 @@ private:
     void publishSettings(SStreamSettings settings, bool rearmSave);
     bool isTimeToSaveImage(const SStreamSettings& settings, unsigned long long imageSize, qint64 nowMs);
 
-    QMutex m_streamMutex;   // guards m_pStream/m_pCamera against setStream during run
+    // Standard mutexes throughout, so that ThreadSanitizer sees every hand-off.
+    std::mutex m_streamMutex;   // guards m_pStream/m_pCamera against setStream during run
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> m_pStream;
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalCamera> m_pCamera;
     std::atomic<bool> m_bRunning{false};
@@ -148,10 +150,10 @@ private:
 
     // Settings copied from the configuration; the loop's only source.
     CSettingsSnapshot<SStreamSettings> m_settings;
-    QMutex m_publishMutex;          // one publisher at a time (generation count)
+    std::mutex m_publishMutex;          // one publisher at a time (generation count)
 
     // Save throttle state; the rule and its value come from the snapshot.
-    QMutex m_saveMutex;
+    std::mutex m_saveMutex;
     QElapsedTimer m_clock;          // monotonic clock of the throttle
     unsigned long long m_nArmedGeneration = 0;   // snapshot generation the state belongs to
     bool m_bForceRearm = true;      // Init(): start over at the next frame
@@ -161,7 +163,7 @@ private:
     qint64 m_nSaveWaitMs = 0;
 
     // Record statistics.
-    QMutex m_recordMutex;
+    std::mutex m_recordMutex;
     unsigned long long m_nProcessedFrames = 0;
     unsigned long long m_nRecordedFrames = 0;
 

@@ -1,5 +1,8 @@
 #include "StreamStatistic.h"
 
+#include <chrono>
+#include <thread>
+
 #include "Vorlen/GenICam/CFrame.h"
 
 namespace {
@@ -16,6 +19,18 @@ StreamStatistic::StreamStatistic(QObject* parent)
     m_timer.start();
 }
 
+bool StreamStatistic::lockWithin30Ms()
+{
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(30);
+    while (!m_mutex.try_lock())
+    {
+        if (std::chrono::steady_clock::now() >= deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return true;
+}
+
 void StreamStatistic::getStatistic(QString& receiveFps, QString& displayFps, unsigned long long& totalFrames,
                                    QString& bandwidth)
 {
@@ -29,7 +44,7 @@ void StreamStatistic::getStatistic(QString& receiveFps, QString& displayFps, uns
 {
     // The status bar polls this from the GUI thread: never wait long for the
     // retrieval thread.
-    if (!m_mutex.tryLock(30))
+    if (!lockWithin30Ms())
         return;
 
     update();
@@ -48,7 +63,7 @@ void StreamStatistic::getStatistic(QString& receiveFps, QString& displayFps, uns
 
 void StreamStatistic::reset()
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     m_receivedFrames.clear();
     m_displayedFrames.clear();
     m_totalFrames = 0;
@@ -61,13 +76,13 @@ void StreamStatistic::reset()
 
 void StreamStatistic::setError(const QString& error)
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     m_error = error;
 }
 
 void StreamStatistic::setErrorCount(unsigned long long count)
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     m_errorCount = count;
 }
 
@@ -78,7 +93,7 @@ void StreamStatistic::rcvNewFrame(const Vorlen::GenICam::CFrame& frame)
 
 void StreamStatistic::rcvNewFrame(unsigned long long imageSize, qint64 nowNs)
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     if (m_receivedFrames.size() > kMaxEntries - 1)
         m_receivedFrames.removeFirst();
     m_receivedFrames.append(qMakePair(imageSize, nowNs));
@@ -92,7 +107,7 @@ void StreamStatistic::increaseDisplayFrame()
 
 void StreamStatistic::increaseDisplayFrame(qint64 nowNs)
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     if (m_displayedFrames.size() > kMaxEntries - 1)
         m_displayedFrames.removeFirst();
     m_displayedFrames.append(nowNs);
@@ -100,7 +115,7 @@ void StreamStatistic::increaseDisplayFrame(qint64 nowNs)
 
 void StreamStatistic::setDisplayFPS(int fps)
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     m_displayFps = fps;
 }
 

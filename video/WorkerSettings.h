@@ -21,10 +21,9 @@
 // method of CConfiguration afterwards, or the workers keep the old values.
 // Later workers (image save, record, event monitor) follow the same three
 // steps with a record of their own; StreamRetrieveThread is the example.
-#include <QMutex>
-#include <QMutexLocker>
 #include <QString>
 #include <memory>
+#include <mutex>
 
 #include "CConfiguration.h"
 #include "Gliv/CQtHybridFrame.h"
@@ -39,7 +38,7 @@ public:
     // Any thread: the current record; it stays valid while held.
     std::shared_ptr<const T> get() const
     {
-        QMutexLocker locker(&m_mutex);
+        std::lock_guard<std::mutex> locker(m_mutex);
         return m_current;
     }
 
@@ -47,13 +46,13 @@ public:
     void set(const T& value)
     {
         std::shared_ptr<const T> next = std::make_shared<const T>(value);
-        QMutexLocker locker(&m_mutex);
+        std::lock_guard<std::mutex> locker(m_mutex);
         m_current.swap(next);
         // The old record (now in `next`) is released after the lock.
     }
 
 private:
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;   // standard, so that ThreadSanitizer sees its hand-offs
     std::shared_ptr<const T> m_current;
 };
 

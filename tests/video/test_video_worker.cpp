@@ -233,6 +233,9 @@ private slots:
         std::vector<Vorlen::Memory::TSharedPtr<CInternalStreamSource>> streams;
         std::vector<std::unique_ptr<StreamRetrieveThread>> threads;
         std::vector<SReceived> received(n);
+        // Receives the frames; frames still queued for it when the test
+        // ends are dropped with it, before `received` goes.
+        QObject receiver;
         for (int i = 0; i < n; ++i)
         {
             CInternalCameraPtr camera = openCamera(addresses[i], "WORK" + std::to_string(i + 1));
@@ -247,7 +250,7 @@ private slots:
             t->setSaveImageEnable(true);
             t->Init();
             SReceived* r = &received[i];
-            connect(t, &StreamRetrieveThread::newFrame, this,
+            connect(t, &StreamRetrieveThread::newFrame, &receiver,
                     [r](CQtHybridFramePtr f, bool display, bool, bool) {
                         ++r->frames;
                         r->displayed += display ? 1 : 0;

@@ -88,6 +88,8 @@ uint64_t missingPacketsOf(const GrabSession& s, ArvBuffer* buffer)
 // session, which lives until its stream (and this thread) is gone.
 void streamCallback(void* userData, ArvStreamCallbackType type, ArvBuffer* buffer)
 {
+    if (type == ARV_STREAM_CALLBACK_TYPE_START_BUFFER && buffer)
+        bufferTakeOver(buffer);
     if (type != ARV_STREAM_CALLBACK_TYPE_BUFFER_DONE || !buffer || !userData)
         return;
     const GrabSession& s = *static_cast<const GrabSession*>(userData);
@@ -98,6 +100,7 @@ void streamCallback(void* userData, ArvStreamCallbackType type, ArvBuffer* buffe
     if (status == ARV_BUFFER_STATUS_SUCCESS)
         arv_buffer_get_data(buffer, &size);
     s.callbackStats->onBufferDone(status, size, monotonicNs(), missingPacketsOf(s, buffer));
+    bufferHandOff(buffer);   // on its way to the output queue
 }
 
 // Control-lost handler data: the session by weak pointer, freed with the handler.
@@ -406,6 +409,7 @@ bool CInternalStreamSource::SImpl::start(unsigned long maxImagesArg, EGrabStrate
         for (unsigned int i = 0; i < bufferCount; ++i) {
             ArvBuffer* buffer = arv_buffer_new_allocate(payload);
             session->marks.mark(buffer);
+            bufferHandOff(buffer);
             arv_stream_push_buffer(stream, buffer);
         }
         {
@@ -545,6 +549,7 @@ bool CInternalStreamSource::SImpl::getFrame(CFrame& frame, unsigned int timeoutM
             buffer = arv_stream_try_pop_buffer(s.stream);
         if (!buffer)
             break;
+        bufferTakeOver(buffer);
 
         uint64_t blockId = s.unwrapBlockId(arv_buffer_get_frame_id(buffer));
         noteBlockId(s, blockId, arv_buffer_get_timestamp(buffer), loss);
@@ -556,6 +561,7 @@ bool CInternalStreamSource::SImpl::getFrame(CFrame& frame, unsigned int timeoutM
         if (s.strategy == grabStrategyLatestImage) {
             // Only the newest complete frame is wanted: older ones go back.
             while (ArvBuffer* newer = arv_stream_try_pop_buffer(s.stream)) {
+                bufferTakeOver(newer);
                 const uint64_t newerId = s.unwrapBlockId(arv_buffer_get_frame_id(newer));
                 noteBlockId(s, newerId, arv_buffer_get_timestamp(newer), loss);
                 if (arv_buffer_get_status(newer) != ARV_BUFFER_STATUS_SUCCESS) {

@@ -100,6 +100,7 @@ void StreamCore::recycle(ArvBuffer* buffer, uint64_t gen)
     std::lock_guard<std::mutex> lock(mutex);
     if (grabbing && session && session->stream && gen == generation) {
         session->marks.mark(buffer);
+        bufferHandOff(buffer);
         arv_stream_push_buffer(session->stream, buffer);
     } else
         g_object_unref(buffer);

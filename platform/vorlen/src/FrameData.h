@@ -11,8 +11,35 @@
 #include <vector>
 #include "Vorlen/GenICam/CFrame.h"
 
+#if defined(__SANITIZE_THREAD__)
+extern "C" void __tsan_acquire(void* addr);
+extern "C" void __tsan_release(void* addr);
+#endif
+
 namespace Vorlen {
 namespace GenICam {
+
+// Buffers pass between our threads and Aravis' stream thread through GLib
+// queues, whose futex-based locks ThreadSanitizer cannot see. These mark the
+// hand-offs: handOff before a buffer leaves a thread, takeOver when it
+// arrives. Nothing without ThreadSanitizer.
+inline void bufferHandOff(ArvBuffer* buffer)
+{
+#if defined(__SANITIZE_THREAD__)
+    __tsan_release(buffer);
+#else
+    (void)buffer;
+#endif
+}
+
+inline void bufferTakeOver(ArvBuffer* buffer)
+{
+#if defined(__SANITIZE_THREAD__)
+    __tsan_acquire(buffer);
+#else
+    (void)buffer;
+#endif
+}
 
 class StreamStatisticsCounter;
 struct GrabSession;
