@@ -21,6 +21,7 @@
 #include "CConfiguration.h"
 #include "CDeviceInfoRows.h"
 #include "CDeviceManager.h"
+#include "CDiscoveryDevicesThread.h"
 #include "CDiscoveryButtonsForm.h"
 #include "CDiscoveryRootForm.h"
 #include "CSetDevUserIDDlg.h"
@@ -86,6 +87,10 @@ CDiscoveryDevicesForm::CDiscoveryDevicesForm(QWidget* parent) : QWidget(parent)
     m_pAutoRefreshTimer->setInterval(kAutoRefreshIntervalMs);
     connect(m_pAutoRefreshTimer, &QTimer::timeout, this, &CDiscoveryDevicesForm::onAutoRefreshTimeout);
     m_pAutoRefreshTimer->start();
+    m_pDiscoveryRetryTimer = new QTimer(this);
+    m_pDiscoveryRetryTimer->setSingleShot(true);
+    m_pDiscoveryRetryTimer->setInterval(100);
+    connect(m_pDiscoveryRetryTimer, &QTimer::timeout, this, &CDiscoveryDevicesForm::startPendingDiscovery);
 
     CDeviceManager* manager = CDeviceManager::getInstance();
     m_pManager = manager;
@@ -478,7 +483,32 @@ void CDiscoveryDevicesForm::setCurrentDeviceItem(QTreeWidgetItem* item)
 void CDiscoveryDevicesForm::on_reflesh_clicked()
 {
     m_btnRefresh->setEnabled(false);
-    CDeviceManager::getInstance()->refreshDeviceMap(QString(), 0);
+    requestDiscovery(QString());
+}
+
+void CDiscoveryDevicesForm::requestDiscovery(const QString& ip)
+{
+    // A unicast probe waiting for its turn is not replaced by a plain refresh
+    // (that pass would not probe it).
+    if (!m_bDiscoveryPending || !ip.isEmpty())
+        m_strPendingIp = ip;
+    m_bDiscoveryPending = true;
+    startPendingDiscovery();
+}
+
+void CDiscoveryDevicesForm::startPendingDiscovery()
+{
+    if (!m_bDiscoveryPending)
+        return;
+    // The worker forgets a request that comes while a pass runs: hand it over
+    // once the worker is idle, without waiting here.
+    if (CDiscoveryDevicesThread::getInstance()->isDisconvrying()) {
+        m_pDiscoveryRetryTimer->start();
+        return;
+    }
+    m_bDiscoveryPending = false;
+    CDeviceManager::getInstance()->refreshDeviceMap(m_strPendingIp, 0);
+    m_strPendingIp.clear();
 }
 
 void CDiscoveryDevicesForm::onAutoRefreshTimeout()
@@ -1136,7 +1166,7 @@ void CDiscoveryDevicesForm::modifyIP(QTreeWidgetItem* item)
     if (!dialog.setInfo(info, camera->getKey()))
         return;
     if (dialog.exec() == QDialog::Accepted)
-        CDeviceManager::getInstance()->refreshDeviceMap(QString(), 0);
+        requestDiscovery(QString());
 }
 
 void CDiscoveryDevicesForm::onActionSetDevUserIDTriggered()
@@ -1218,7 +1248,7 @@ void CDiscoveryDevicesForm::onActionUnicastTriggered()
     config->saveConfigToUserXml();
     const QString ip = QString::fromStdString(IPIntToStr(IPStrToInt(dialog.getEditValue().toStdString())));
     m_btnRefresh->setEnabled(false);
-    CDeviceManager::getInstance()->refreshDeviceMap(ip, 0);
+    requestDiscovery(ip);
 }
 
 // ------------------------------------------------------------------ collapse

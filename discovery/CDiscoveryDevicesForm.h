@@ -202,6 +202,10 @@ private:
     int cameraTypeOf(QTreeWidgetItem* item) const;
     void showWait(const QString& text);
     void closeWait();
+    // Asks the discovery worker for a pass (ip: "" or one address to probe)
+    // as soon as it is idle.
+    void requestDiscovery(const QString& ip);
+    void startPendingDiscovery();
 
     QFrame* m_frameDevList;
     QLabel* m_lblDevList;
@@ -239,6 +243,9 @@ private:
     CWaitDlg* m_pWaitDlg;
     QTimer* m_pAutoRefreshTimer;
     QPointer<CDeviceManager> m_pManager;
+    QTimer* m_pDiscoveryRetryTimer = nullptr;
+    bool m_bDiscoveryPending = false;
+    QString m_strPendingIp;
     int m_nExpandedWidth = 250;
     std::function<int()> m_openedDeviceCounter;
     std::function<QString(QWidget*, const QString&)> m_xmlFileChooser;
