@@ -239,8 +239,9 @@ void CDiscoveryDevicesForm::retranslateUi()
     retranslateMenu();
     // Labels of the information rows and the inline buttons' tool tips.
     refleshDeviceInfo(m_pCurrentItem);
-    if (m_pHoverItem)
-        refleshItemButtons(m_pHoverItem);
+    for (const SRootRecord& root : m_roots)
+        for (int i = 0; root.item && i < root.item->childCount(); ++i)
+            refleshItemButtons(root.item->child(i));
 }
 
 void CDiscoveryDevicesForm::retranslateMenu()
@@ -631,7 +632,8 @@ bool CDiscoveryDevicesForm::isValidIp(QTreeWidgetItem* item)
 bool CDiscoveryDevicesForm::isUSB3Interface(QTreeWidgetItem* item)
 {
     const QString speed = getUSBSpeed(item);
-    // A USB3 Vision camera can run on a SuperSpeed or (slowly) a high-speed port.
+    // A USB3 Vision camera can run on a SuperSpeed (or SuperSpeedPlus) port,
+    // or slowly on a high-speed one; not on anything slower.
     return speed.contains(QLatin1String("Super")) || speed.contains(QLatin1String("High"));
 }
 
@@ -675,7 +677,7 @@ void CDiscoveryDevicesForm::loadItemIcon(QTreeWidgetItem* item)
     } else if (item->type() == treeItemUsbDevice) {
         if (!isUSB3Interface(item))
             icon = iconError;
-        else if (getUSBSpeed(item) != QLatin1String("Super"))
+        else if (!getUSBSpeed(item).startsWith(QLatin1String("Super")))
             icon = iconWarn;
     }
     item->setIcon(0, m_icons[icon]);
@@ -969,7 +971,7 @@ void CDiscoveryDevicesForm::connectItem(QTreeWidgetItem* target)
                        this, QMessageBox::Ok, QMessageBox::Critical);
             return;
         }
-        if (getUSBSpeed(target) != QLatin1String("Super") &&
+        if (!getUSBSpeed(target).startsWith(QLatin1String("Super")) &&
             messageBox(tr("Current physical link is not USB3.0. Connection maybe fail!\nAre you sure you want to "
                           "continue?"),
                        this, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Question) != QMessageBox::Ok)
