@@ -154,8 +154,8 @@ void TestDeviceList::treeBuiltAndRefreshKeepsItems()
     QCOMPARE(first->toolTip(0), first->text(0));
     QCOMPARE(CDiscoveryDevicesForm::getDeviceKey(first), deviceOf(0)->getDeviceKey());
     // Key order of the device manager.
-    QVERIFY(gige->indexOfChild(first) < gige->indexOfChild(second) ==
-            (deviceOf(0)->getDeviceKey() < deviceOf(1)->getDeviceKey()));
+    QCOMPARE(gige->indexOfChild(first) < gige->indexOfChild(second),
+             deviceOf(0)->getDeviceKey() < deviceOf(1)->getDeviceKey());
     QVERIFY(m_form->rootForm(0)->isCheckBoxVisible());
     QVERIFY(!m_form->rootForm(1)->isCheckBoxVisible());   // no USB camera
     QVERIFY(m_form->rootForm(0)->isChecked());
