@@ -20,11 +20,16 @@ void CSetIpThread::startSetIp(QString key, QString ip, QString mask, QString gat
     m_strMask = mask;
     m_strGateway = gateway;
     m_bPending = true;
+    m_wake.wakeAll();
 }
 
 void CSetIpThread::stop()
 {
-    m_bStop = true;
+    {
+        QMutexLocker lock(&m_mutex);
+        m_bStop = true;
+        m_wake.wakeAll();   // the join below then takes no longer than a write under way
+    }
     if (isRunning())
         wait();
 }
@@ -60,8 +65,10 @@ void CSetIpThread::run()
     while (!m_bStop) {
         m_mutex.lock();
         if (!m_bPending) {
+            // Idle: look again after 100 ms, or at once when woken.
+            if (!m_bStop)
+                m_wake.wait(&m_mutex, 100);
             m_mutex.unlock();
-            msleep(100);
             continue;
         }
         const QString key = m_strKey, ip = m_strIp, mask = m_strMask, gateway = m_strGateway;

@@ -5,6 +5,7 @@
 #include <QMutex>
 #include <QString>
 #include <QThread>
+#include <QWaitCondition>
 #include <atomic>
 
 class CSetIpThread : public QThread
@@ -29,6 +30,7 @@ private:
     static bool writePersistentIp(const QString& key, const QString& ip, const QString& mask, const QString& gateway);
 
     QMutex m_mutex;
+    QWaitCondition m_wake;
     QString m_strKey;
     QString m_strIp;
     QString m_strMask;
