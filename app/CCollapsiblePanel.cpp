@@ -50,6 +50,11 @@ void CCollapsiblePanel::setContent(QWidget* content)
     m_content->setVisible(!m_collapsed);
 }
 
+void CCollapsiblePanel::setStripVisible(bool visible)
+{
+    m_strip->setVisible(visible);
+}
+
 void CCollapsiblePanel::setCollapsed(bool collapsed)
 {
     if (m_collapsed == collapsed)

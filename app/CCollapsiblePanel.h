@@ -32,10 +32,15 @@ public:
     int expandedWidth() const { return m_expandedWidth; }
     void setExpandedWidth(int width) { m_expandedWidth = width; }
     QToolButton* toggleButton() const { return m_toggle; }
+    // For content that folds itself (it has its own fold button): the strip
+    // and its toggle are hidden and the panel only follows the content's width.
+    void setStripVisible(bool visible);
 
 public slots:
     void setCollapsed(bool collapsed);
     void toggle() { setCollapsed(!m_collapsed); }
+    // Takes this width in the splitter, from or back to the video area.
+    void resizeInSplitter(int width);
 
 signals:
     void collapsedChanged(bool collapsed);
@@ -45,7 +50,6 @@ protected:
 
 private:
     void updateToggle();
-    void resizeInSplitter(int width);
 
     ESide m_side;
     QHBoxLayout* m_layout;

@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include <QShowEvent>
+
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
@@ -162,6 +164,7 @@ void MainWindow::setVideoPanel(QWidget* panel)
         return;
     const QList<int> sizes = m_splitter->sizes();
     m_splitter->replaceWidget(m_splitter->indexOf(old), m_videoArea);
+    m_videoArea->show();
     m_splitter->setStretchFactor(1, 1);
     m_splitter->setSizes(sizes);
     delete old;
@@ -270,6 +273,24 @@ void MainWindow::retranslate()
         m_closeWait->setTitle(tr("Exit"));
         m_closeWait->setText(tr("Closing cameras, please wait..."));
     }
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (m_splitterSized)
+        return;
+    // The panels placed after construction bring their own size hints; at the
+    // first show the side panels get their widths and the video area the rest.
+    m_splitterSized = true;
+    auto widthOf = [](CCollapsiblePanel* panel) {
+        return panel->isCollapsed() ? int(CCollapsiblePanel::kStripWidth)
+                                    : qMax(panel->expandedWidth(), panel->minimumSizeHint().width());
+    };
+    const int left = widthOf(m_leftPanel);
+    const int right = widthOf(m_rightPanel);
+    const int total = m_splitter->width();
+    m_splitter->setSizes({left, qMax(0, total - left - right), right});
 }
 
 void MainWindow::changeEvent(QEvent* event)

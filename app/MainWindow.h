@@ -75,6 +75,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private slots:
@@ -124,6 +125,7 @@ private:
     CWaitDlg* m_closeWait = nullptr;
     QPointer<CHelpDlg> m_helpDlg;
     bool m_closingDevices = false;
+    bool m_splitterSized = false;   // side panels given their widths at the first show
     bool m_devicesClosed = false;
     int m_cameraCount = -1;
 };

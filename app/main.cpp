@@ -3,6 +3,7 @@
 
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
+#include "CMainWindowPanels.h"
 #include "CTavMessage.h"
 #include "MainWindow.h"
 #include "StartupUtils.h"
@@ -36,7 +37,8 @@ int main(int argc, char* argv[])
     CConfiguration::getInstance();
 
     MainWindow* window = new MainWindow(commandLine, nullptr);
-    window->show();
+    new CMainWindowPanels(window);
+    window->showMaximized();
     const int result = app.exec();
     delete window;
     // The long-lived objects go while the application is still whole, in one

@@ -107,13 +107,15 @@ void CPropertyFeaturesForm::buildUi()
     m_btnTranslate->setObjectName("btnTranslate");
     m_btnTranslate->setCheckable(true);
     m_btnTranslate->setChecked(true);
+    // Level and search on one row, the page's buttons on the next, so the
+    // panel stays narrow enough to leave the video area its room.
     bar->addWidget(m_cbVisibility);
     bar->addWidget(m_lineEditKey, 1);
-    bar->addWidget(m_btnExpand);
-    bar->addWidget(m_btnReset);
-    bar->addWidget(m_btnSave);
-    bar->addWidget(m_btnTranslate);
     layout->addLayout(bar);
+    auto* buttons = new QHBoxLayout();
+    for (QPushButton* button : {m_btnExpand, m_btnReset, m_btnSave, m_btnTranslate})
+        buttons->addWidget(button, 1);
+    layout->addLayout(buttons);
 
     auto* splitter = new QSplitter(Qt::Vertical, this);
     m_browser = new QtTreePropertyBrowser(splitter);
@@ -927,6 +929,16 @@ void CPropertyFeaturesForm::onUnregisterSink()
 void CPropertyFeaturesForm::on_btnTranslate_clicked()
 {
     m_bTranslated = !m_bTranslated;
+    m_btnTranslate->setChecked(m_bTranslated);
+    transParam();
+}
+
+void CPropertyFeaturesForm::setFeatureLanguage(int language)
+{
+    const bool translated = language != 0;
+    if (translated == m_bTranslated)
+        return;
+    m_bTranslated = translated;
     m_btnTranslate->setChecked(m_bTranslated);
     transParam();
 }

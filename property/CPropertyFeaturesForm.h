@@ -94,6 +94,8 @@ public:
     // with raw feature names when the translate switch is off.
     void transParam(const QString& rootName = QStringLiteral("Root"));
     bool isTranslated() const { return m_bTranslated; }
+    // Feature-name language chosen in the main window: 0 raw names, else translated.
+    void setFeatureLanguage(int language);
     // Names of every feature row, in tree order.
     QStringList featureNames() const;
 

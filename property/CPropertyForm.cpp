@@ -17,7 +17,7 @@
 #include "CPropertySettingsForm.h"
 #include "CSaveFeaturesDlg.h"
 #include "CTavDevice.h"
-#include "FeatureTransTables.h"
+#include "ParamTransTables.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
 namespace {
@@ -147,6 +147,12 @@ void CPropertyForm::onLanChanged(int language)
     for (CPropertyFeaturesForm* page : qAsConst(m_features))
         page->retranslateUi();
     emit signalLanChanged(language);
+}
+
+void CPropertyForm::onFeatureLanChanged(int language)
+{
+    for (CPropertyFeaturesForm* page : qAsConst(m_features))
+        page->setFeatureLanguage(language);
 }
 
 void CPropertyForm::addDevicePages(const CTavDevicePtr& device)

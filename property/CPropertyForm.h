@@ -84,6 +84,8 @@ public slots:
     void onOpenConfig(CTavDevicePtr device);
     void onSaveConfig(CTavDevicePtr device);
     void onLanChanged(int language);
+    // Feature-name language of the main window (0 raw names, else translated).
+    void onFeatureLanChanged(int language);
 
 protected:
     void enterEvent(QEvent* event) override;
