@@ -445,6 +445,19 @@ void TestDeviceList::userIdShownAfterRefresh()
     int length = 0;
     QVERIFY(device->getParaStringValue("DeviceUserID", value, length));
     QCOMPARE(value, QString("Line A"));
+
+    // A name outside ASCII: a new row reads the camera's bytes as Latin-1, a
+    // row that is only updated reads them as UTF-8 (kept as it has always been).
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    QVERIFY(device->setParaStringValue("DeviceUserID", QString::fromUtf8("Kamera é")));
+    QMap<QString, CTavDevicePtr> none;
+    m_form->updateDeviceList(none);
+    QVERIFY(!m_form->getItemByKey(device->getDeviceKey()));
+    QMap<QString, CTavDevicePtr> all = CDeviceManager::getInstance()->getAllDevices();
+    m_form->updateDeviceList(all);
+    QCOMPARE(itemOf(1)->text(0), QString::fromLatin1("Kamera \xC3\xA9 (LUMDL002)"));
+    m_form->updateDeviceList(all);
+    QCOMPARE(itemOf(1)->text(0), QString::fromUtf8("Kamera é (LUMDL002)"));
     QVERIFY(device->setParaStringValue("DeviceUserID", QString()));
 
     QSignalSpy closed(m_form, &CDiscoveryDevicesForm::closeDeviceSuccess);
