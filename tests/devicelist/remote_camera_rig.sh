@@ -35,6 +35,11 @@ case "$action" in
 esac
 
 command -v ip >/dev/null || fail "ip is missing (package iproute2)"
+# Namespaces left by an earlier run that died (named after its process id).
+for ns in $(ip netns list 2>/dev/null | awk '{print $1}' | grep -E '^lumi[0-9]+_[rc]$' || true); do
+  pid="${ns#lumi}"; pid="${pid%_*}"
+  kill -0 "$pid" 2>/dev/null || ip netns del "$ns" 2>/dev/null || true
+done
 trap 'down' ERR
 ip netns add "$router" 2>/dev/null || fail "cannot create the namespace $router (needs root: ip netns add)"
 ip netns add "$camera" || fail "cannot create the namespace $camera"
