@@ -126,24 +126,31 @@ void destroyLostBox(gpointer userData, GClosure*)
 // Data lost during one getFrame call, reported as its last error.
 struct SLoss
 {
-    bool failedBlock = false;      // a block closed incomplete or in error
+    uint64_t failedBlocks = 0;     // blocks closed incomplete or in error
     uint64_t missingBlocks = 0;    // block ids skipped
     char text[160] = {};
 
     void blockFailed(const char* description)
     {
-        failedBlock = true;
+        ++failedBlocks;
         std::snprintf(text, sizeof(text), "%s", description);
     }
     void blocksMissing(uint64_t n, const char* description)
     {
         missingBlocks += n;
-        if (!failedBlock)
+        if (failedBlocks == 0)
             std::snprintf(text, sizeof(text), "%s", description);
     }
-    // Blocks dropped for want of a free buffer also leave gaps in the block
-    // ids; those are overrides (the application held its buffers), not loss.
-    bool shown(uint64_t newUnderruns) const { return failedBlock || missingBlocks > newUnderruns; }
+    bool any() const { return failedBlocks + missingBlocks > 0; }
+    // Blocks dropped for want of a free buffer leave gaps in the block ids,
+    // and the block under way when a buffer came free again arrives cut at
+    // its start: those are overrides (the application held its buffers),
+    // not loss.
+    bool shown(uint64_t newUnderruns) const
+    {
+        const uint64_t explained = newUnderruns > 0 ? newUnderruns + 1 : 0;
+        return failedBlocks + missingBlocks > explained;
+    }
 };
 
 struct CInternalStreamSource::SImpl
@@ -645,7 +652,7 @@ bool CInternalStreamSource::SImpl::getFrame(CFrame& frame, unsigned int timeoutM
             publish(arg);
             LOG_ERROR("stream channel %u: the camera does not answer any more", unsigned(channel));
         }
-    } else if (loss.failedBlock || loss.missingBlocks > 0) {
+    } else if (loss.any()) {
         // Underruns are taken into account with the next frame; peek only.
         guint64 underruns = 0;
         arv_stream_get_statistics(s.stream, nullptr, nullptr, &underruns);
