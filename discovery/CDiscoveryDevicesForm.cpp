@@ -868,13 +868,13 @@ void CDiscoveryDevicesForm::removeButtonInItem(QTreeWidgetItem* item)
         m_deviceList->removeItemWidget(item, 1);
 }
 
-void CDiscoveryDevicesForm::removeAllItemWidgetExceptCurrentItem()
+void CDiscoveryDevicesForm::removeAllItemWidgetExceptCurrentItem(QTreeWidgetItem* keep)
 {
     for (const SRootRecord& root : m_roots) {
         if (!root.item)
             continue;
         for (int i = 0; i < root.item->childCount(); ++i)
-            if (root.item->child(i) != m_pCurrentItem)
+            if (root.item->child(i) != m_pCurrentItem && root.item->child(i) != keep)
                 removeButtonInItem(root.item->child(i));
     }
 }
@@ -890,11 +890,11 @@ void CDiscoveryDevicesForm::on_deviceList_itemEntered(QTreeWidgetItem* item, int
     if (!item || !isDeviceItemType(item->type()))
         return;
     m_pHoverItem = item;
+    removeAllItemWidgetExceptCurrentItem(item);
     if (buttonsOf(item)) {
         refleshItemButtons(item);
         return;
     }
-    removeAllItemWidgetExceptCurrentItem();
     auto* form = new CDiscoveryButtonsForm(m_deviceList);
     m_deviceList->setItemWidget(item, 1, form);
     connect(form->getConnectBtn(), &QToolButton::clicked, this, &CDiscoveryDevicesForm::on_connectDevice);

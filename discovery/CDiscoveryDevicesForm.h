@@ -192,7 +192,8 @@ private:
     void refleshDisconnectStatInfo(CDiscoveryButtonsForm* form, bool gige);
     void refleshIpValidStatInfo(CDiscoveryButtonsForm* form);
     void refleshUsbDisconnectStatInfo(CDiscoveryButtonsForm* form);
-    void removeAllItemWidgetExceptCurrentItem();
+    // Also spares keep (the row under the mouse, whose buttons stay).
+    void removeAllItemWidgetExceptCurrentItem(QTreeWidgetItem* keep = nullptr);
     void removeButtonInItem(QTreeWidgetItem* item);
     void disableBtns(QTreeWidgetItem* item);
     void connectItem(QTreeWidgetItem* target);

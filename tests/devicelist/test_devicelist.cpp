@@ -192,6 +192,11 @@ void TestDeviceList::treeBuiltAndRefreshKeepsItems()
     QCOMPARE(m_form->buttonsOf(second), secondButtons);
     QCOMPARE(gige->childCount(), 2);
 
+    // Back on the selected row: the other row's buttons go, its own stay.
+    m_form->setHoverItem(first);
+    QCOMPARE(m_form->buttonsOf(first), firstButtons);
+    QVERIFY(!m_form->buttonsOf(second));
+
     // The automatic refresh: every 10 s while enabled, never while a pass runs.
     QCOMPARE(m_form->autoRefreshTimer()->interval(), 10000);
     QVERIFY(m_form->autoRefreshTimer()->isActive());
