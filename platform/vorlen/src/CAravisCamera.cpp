@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <thread>
+#include <vector>
 
 #include "AravisSystem.h"
 #include "EventHub.h"
@@ -181,10 +182,18 @@ struct CAravisCamera::SPrivate
     std::condition_variable watchdogWake;
     bool watchdogStop = false;
 
-    // A lost camera's Aravis object: releasing it waits for Aravis' own
-    // heartbeat thread to give up, so it is released by the next disconnect
-    // or connect (on the caller's worker), never on the event thread.
-    ArvCamera* lostCamera = nullptr;
+    // Releases of lost cameras' Aravis objects under way. Releasing one
+    // waits for Aravis' own heartbeat thread to give up, so it runs on a
+    // thread of its own, never on the event thread, and lets the device go
+    // as soon as the camera no longer needs it (a stream may still hold
+    // it). Finished releases are joined at the next loss, connect or
+    // disconnect, the rest when the camera object goes. Guarded by gcMutex.
+    struct SRelease
+    {
+        std::thread thread;
+        std::shared_ptr<std::atomic<bool>> done;
+    };
+    std::vector<SRelease> releases;
 };
 
 CAravisCamera::CAravisCamera(const SDiscoveryInfo& info) : p(new SPrivate)
@@ -198,17 +207,36 @@ CAravisCamera::~CAravisCamera()
         std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
         if (p->connected)
             releaseConnection(true);
-        releaseLostCamera();
+        joinReleases(true);
     }
     delete p;
 }
 
-void CAravisCamera::releaseLostCamera()
+void CAravisCamera::releaseLostCamera(ArvCamera* camera)
 {
     // Caller holds gcMutex.
-    if (p->lostCamera) {
-        g_object_unref(p->lostCamera);
-        p->lostCamera = nullptr;
+    joinReleases(false);
+    SPrivate::SRelease release;
+    release.done = std::make_shared<std::atomic<bool>>(false);
+    std::shared_ptr<std::atomic<bool>> done = release.done;
+    release.thread = std::thread([camera, done] {
+        g_object_unref(camera);
+        done->store(true);
+    });
+    p->releases.push_back(std::move(release));
+}
+
+void CAravisCamera::joinReleases(bool all)
+{
+    // Caller holds gcMutex; the release threads never take it.
+    auto it = p->releases.begin();
+    while (it != p->releases.end()) {
+        if (all || it->done->load()) {
+            it->thread.join();
+            it = p->releases.erase(it);
+        } else {
+            ++it;
+        }
     }
 }
 
@@ -345,7 +373,7 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
 {
     std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
     const SDiscoveryInfo info = discoveryInfo();
-    releaseLostCamera();
+    joinReleases(false);
     if (p->connected) {
         setLastError(ERR_ALREADY_CONNECTED, info.key.c_str());
         return false;
@@ -485,10 +513,8 @@ void CAravisCamera::releaseConnection(bool cameraAlive)
         g_object_unref(camera);
     } else {
         // Releasing a vanished camera waits for its control channel to time
-        // out; that must not hold up the event thread. The next disconnect
-        // or connect releases it.
-        releaseLostCamera();
-        p->lostCamera = camera;
+        // out; that must not hold up the event thread.
+        releaseLostCamera(camera);
     }
 }
 
@@ -499,7 +525,7 @@ bool CAravisCamera::disConnect()
         releaseConnection(true);
         LOG_DEBUG("disconnected %s", getKey().c_str());
     }
-    releaseLostCamera();
+    joinReleases(false);
     clearLastError();
     return true;
 }

@@ -93,7 +93,8 @@ public:
 
 private:
     void releaseConnection(bool cameraAlive);
-    void releaseLostCamera();
+    void releaseLostCamera(ArvCamera* camera);
+    void joinReleases(bool all);
     void startWatchdog(uint32_t cameraIp, uint64_t generation);
     void stopWatchdog();
 
