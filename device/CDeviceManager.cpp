@@ -209,6 +209,8 @@ void CDeviceManager::on_discoveryDevicesFinished(bool ok)
                 Vorlen::Memory::TSharedPtr<ICamera> handle = camera;
                 device->setDevice(handle);
             }
+            // The camera answered again: its user id may have changed.
+            device->refreshUserId();
         }
         else
         {

@@ -4,6 +4,8 @@
 #include <QHostAddress>
 #include <QThread>
 
+#include <cstring>
+
 #include "AccessStatusThread.h"
 #include "CConfiguration.h"
 #include "CDeviceConnectThread.h"
@@ -289,6 +291,9 @@ bool CTavDevice::connectOnWorker(const SLinkSettings& link)
     }
 
     m_bConnected = true;
+    // The name shown for the device carries the user id: read it here, so
+    // the panels never ask the camera for it.
+    readUserIdFromCamera();
     emitStatus(MSG_DEVICE_CONNECTED);
 
     if (isGigE())
@@ -375,8 +380,19 @@ void CTavDevice::subscribeEvents()
         LOG_ERROR("subscribeConnectArgs fail. [%s]", errorText().constData());
 
     if (!events->subscribeParamUpdate([weak, key](const SParamUpdataArg& arg) {
-            if (const std::shared_ptr<CTavDevice> device = weak.lock())
-                emit device->device_param_update(arg, key);
+            const std::shared_ptr<CTavDevice> device = weak.lock();
+            if (!device)
+                return;
+            // A user id written elsewhere (the feature panel) refreshes the cache.
+            for (const CString& name : arg.paramNames)
+            {
+                if (name == CString("DeviceUserID"))
+                {
+                    device->refreshUserId();
+                    break;
+                }
+            }
+            emit device->device_param_update(arg, key);
         }))
         LOG_ERROR("subscribeParamUpdate fail. [%s]", errorText().constData());
 
@@ -480,6 +496,7 @@ bool CTavDevice::disconnectOnWorker(bool offline)
             LOG_ERROR("disConnect [%s] fail. [%s]", camera->getKey().c_str(), errorText().constData());
     }
     m_bConnected = false;
+    setCachedUserId(CString());
     return ok;
 }
 
@@ -898,6 +915,9 @@ bool CTavDevice::setParaStringValue(const char* name, QString value)
         LOG_ERROR("set %s value fail. [%s]", name, errorText().constData());
         return false;
     }
+    // The caller already waits on the camera: read back what it kept.
+    if (std::strcmp(name, "DeviceUserID") == 0)
+        readUserIdFromCamera();
     return true;
 }
 
@@ -947,14 +967,48 @@ bool CTavDevice::generateDeviceNameByUserID(CString& name)
     CString userId;
     if (m_bConnected)
     {
-        CStringNode node(m_spCamera, "DeviceUserID");
-        if (node.isValid() && node.isReadable())
-            node.getValue(userId);
+        QMutexLocker locker(&m_userIdMutex);
+        userId = m_strUserId;
     }
     if (userId.empty())
         return generateDeviceName(name);
     name = userId + CString(" (") + m_spCamera->getSerialNumber() + CString(")");
     return true;
+}
+
+QString CTavDevice::cachedUserId() const
+{
+    QMutexLocker locker(&m_userIdMutex);
+    return QString::fromLocal8Bit(m_strUserId.c_str());
+}
+
+void CTavDevice::setCachedUserId(const CString& userId)
+{
+    QMutexLocker locker(&m_userIdMutex);
+    m_strUserId = userId;
+}
+
+bool CTavDevice::readUserIdFromCamera()
+{
+    CString userId;
+    CStringNode node(m_spCamera, "DeviceUserID");
+    if (node.isValid() && node.isReadable() && !node.getValue(userId))
+        LOG_ERROR("get DeviceUserID value fail. [%s]", errorText().constData());
+    QMutexLocker locker(&m_userIdMutex);
+    if (m_strUserId == userId)
+        return false;
+    m_strUserId = userId;
+    return true;
+}
+
+void CTavDevice::refreshUserId()
+{
+    if (!m_bConnected)
+        return;
+    postJob([this]() {
+        if (m_bConnected)
+            readUserIdFromCamera();
+    });
 }
 
 QString CTavDevice::getDeviceSaveName()

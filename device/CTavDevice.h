@@ -118,9 +118,15 @@ public:
     // ---- names
     // "<model> (<serial>)".
     bool generateDeviceName(Vorlen::Infra::CString& name);
-    // "<user id> (<serial>)" when the camera carries a user id, else as
-    // generateDeviceName.
+    // "<user id> (<serial>)" when the connected camera carries a user id,
+    // else as generateDeviceName. Uses the user id the worker read at the
+    // connection (and again after a change); never asks the camera.
     bool generateDeviceNameByUserID(Vorlen::Infra::CString& name);
+    // The cached user id (empty when not connected or not read yet).
+    QString cachedUserId() const;
+    // Asks the worker to read the user id again (after a discovery pass);
+    // a connected device only.
+    void refreshUserId();
     // "<model>_<serial>", safe as a file-name stem.
     QString getDeviceSaveName();
 
@@ -196,6 +202,10 @@ private:
     void openStreamOnWorker(const SStreamSettings& settings);
     void closeStreamOnWorker();
     bool disconnectOnWorker(bool offline);
+    // Reads DeviceUserID from the camera into the cache (not on the GUI
+    // thread); true when the cached value changed.
+    bool readUserIdFromCamera();
+    void setCachedUserId(const Vorlen::Infra::CString& userId);
     void setStreamObjects(const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource>& stream,
                           const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager>& events);
     static SLinkSettings linkSettings();
@@ -215,6 +225,8 @@ private:
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> m_ptrStream;
 
     mutable QMutex m_objectMutex;   // m_ptrEventManager and m_ptrStream: written by the worker
+    mutable QMutex m_userIdMutex;   // m_strUserId: written off the GUI thread, read by the name functions
+    Vorlen::Infra::CString m_strUserId;
 
     StreamRetrieveThread* m_pStreamThread = nullptr;
     CDeviceConnectThread* m_pConnectThread = nullptr;

@@ -5,6 +5,7 @@
 #include <arv.h>
 #include "FakeCameraRig.h"
 #include <QSignalSpy>
+#include <cstring>
 #include <QtTest>
 
 #include "CConfiguration.h"
@@ -36,8 +37,13 @@ private slots:
     void refusedWhenAnotherClientHoldsControl();
     void busMessagesFromDeviceSignals();
     void streamNeedsConnection();
+    void nameUsesCachedUserId();
 
 private:
+    // Puts a user id straight into the simulated camera's memory, behind
+    // the device's back.
+    void setCameraUserId(const char* text);
+
     FakeCameraRig m_rig;
     BusRecorder m_bus;
     CTavDevicePtr m_device;
@@ -325,6 +331,65 @@ void TestDeviceConnect::streamNeedsConnection()
     // The save name is a usable file-name stem ending in the serial number.
     const QString save = m_device->getDeviceSaveName();
     QVERIFY2(save.endsWith("_LUMCONN1") && !save.contains('/') && !save.contains(' '), qPrintable(save));
+}
+
+void TestDeviceConnect::setCameraUserId(const char* text)
+{
+    char buffer[16] = {};
+    std::strncpy(buffer, text, sizeof(buffer) - 1);
+    arv_fake_camera_write_memory(m_rig.fake(0), 0xe8, sizeof(buffer), buffer);
+}
+
+void TestDeviceConnect::nameUsesCachedUserId()
+{
+    auto name = [this]() {
+        Vorlen::Infra::CString text;
+        return m_device->generateDeviceNameByUserID(text) ? QString::fromUtf8(text.c_str()) : QString("<failed>");
+    };
+    Vorlen::Infra::CString modelName;
+    QVERIFY(m_device->generateDeviceName(modelName));
+    const QString plain = QString::fromUtf8(modelName.c_str());
+    QVERIFY(plain.endsWith("(LUMCONN1)"));
+
+    setCameraUserId("Line-A");
+    QCOMPARE(name(), plain);   // not connected: no user id
+
+    // Read by the worker before message 2, so the list shows it at once.
+    QVERIFY(m_device->openDevice(false));
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key));
+    QCOMPARE(name(), QString("Line-A (LUMCONN1)"));
+    QTRY_VERIFY(!m_device->isConnecting());
+
+    // The name never asks the camera: a change behind the device's back
+    // shows only once the device was asked to read it again.
+    setCameraUserId("Line-B");
+    QCOMPARE(name(), QString("Line-A (LUMCONN1)"));
+    m_device->refreshUserId();
+    QVERIFY(m_device->waitForWorker(10000));
+    QCOMPARE(name(), QString("Line-B (LUMCONN1)"));
+
+    // A write through the device reads back what the camera kept.
+    QVERIFY(m_device->setParaStringValue("DeviceUserID", "Line-C"));
+    QCOMPARE(name(), QString("Line-C (LUMCONN1)"));
+    QCOMPARE(m_device->cachedUserId(), QString("Line-C"));
+
+    // A write through a parameter node (as the feature panel does) reaches
+    // the cache by the camera's update event.
+    Vorlen::GenICam::CStringNode node(m_device->getDevice(), "DeviceUserID");
+    QVERIFY(node.setValue(Vorlen::Infra::CString("Line-D")));
+    QTRY_COMPARE(name(), QString("Line-D (LUMCONN1)"));
+
+    // A discovery pass reads it again for a connected device.
+    setCameraUserId("Line-E");
+    QVERIFY(rediscover());
+    QVERIFY(m_device->waitForWorker(10000));
+    QCOMPARE(name(), QString("Line-E (LUMCONN1)"));
+
+    QVERIFY(m_device->closeDevice(false));
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
+    QCOMPARE(name(), plain);
+    QVERIFY(m_device->cachedUserId().isEmpty());
+    setCameraUserId("");
 }
 
 QTEST_GUILESS_MAIN(TestDeviceConnect)
