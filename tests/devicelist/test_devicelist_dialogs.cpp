@@ -10,6 +10,7 @@
 #include <QTextCodec>
 #include <QTreeWidget>
 #include <QtTest>
+#include <random>
 
 #include "CConfiguration.h"
 #include "CDiscoveryDevicesForm.h"
@@ -69,6 +70,7 @@ private slots:
     void ipDialogHelpers();
     void ipDialogEditing();
     void ipDialogRefusesBadInput();
+    void typedGarbageNeverReachesTheCamera();
     void forceIpThroughTheTree();
     void forceIpFailuresKeepTheDialogOpen();
     void remoteCameraFromTheGigERoot();
@@ -103,6 +105,8 @@ void TestDeviceListDialogs::initTestCase()
     m_form = new CDiscoveryDevicesForm(m_host);
     m_form->resize(320, 600);
     m_host->show();
+    // The automatic refresh is driven by hand where a test wants it, never by the clock.
+    m_form->autoRefreshTimer()->stop();
     QVERIFY(rediscover(kResponderIp));
     QTRY_VERIFY_WITH_TIMEOUT(responderItem() != nullptr, 15000);
 }
@@ -308,6 +312,74 @@ void TestDeviceListDialogs::ipDialogRefusesBadInput()
     QVERIFY(m_responder->forced().empty());
 }
 
+// Generated texts, many close to addresses: whatever is typed, a FORCEIP
+// packet leaves only with the full dotted quads that were typed.
+void TestDeviceListDialogs::typedGarbageNeverReachesTheCamera()
+{
+    CTavDevicePtr device = deviceBySerial("RESP1");
+    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
+    BoxAnswerer answerer(QMessageBox::Ok);
+    std::mt19937 rng(4242u);
+    const char pieces[][6] = {"10", "0", "255", "1", "300", "01", "9", "", "x", " ", "-1", "1e2", "192", "168"};
+    auto text = [&]() {
+        QString t;
+        const int parts = 1 + int(rng() % 5);
+        for (int p = 0; p < parts; ++p) {
+            if (p)
+                t += (rng() % 10) ? "." : "..";
+            t += pieces[rng() % (sizeof(pieces) / sizeof(pieces[0]))];
+        }
+        return t;
+    };
+    auto quadValue = [](const QString& t, quint32& v) {
+        const QStringList parts = t.split('.');
+        if (parts.size() != 4)
+            return false;
+        v = 0;
+        for (const QString& p : parts) {
+            bool ok = false;
+            const uint n = p.toUInt(&ok);
+            if (!ok || p.isEmpty() || p.size() > 3 || n > 255 || p.contains(' '))
+                return false;
+            v = (v << 8) | n;
+        }
+        return true;
+    };
+    int sent = 0;
+    for (int n = 0; n < 200; ++n) {
+        const size_t before = m_responder->forced().size();
+        CSetIPDlg dialog(true, nullptr);
+        QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
+        dialog.cbSetPersistentIP()->setChecked(false);
+        dialog.show();
+        // The mask is often right, so that the address itself is what is tested.
+        const QString ip = (n % 4 == 0) ? QString("10.0.%1.9").arg(n % 256) : text();
+        const QString mask = (n % 3) ? QString("255.0.0.0") : text();
+        const QString gateway = (n % 2 || n % 4 == 0) ? QString() : text();
+        fill(&dialog, ip, mask, gateway);
+        dialog.btnOk()->click();
+        QTRY_VERIFY_WITH_TIMEOUT(!dialog.isBusy(), 15000);
+        const auto forced = m_responder->forced();
+        if (forced.size() == before)
+            continue;
+        ++sent;
+        quint32 ipValue = 0, maskValue = 0, gwValue = 0;
+        const QString context = QString("sent for '%1' '%2' '%3'").arg(ip, mask, gateway);
+        QVERIFY2(quadValue(ip, ipValue) && quadValue(mask, maskValue), qPrintable(context));
+        QVERIFY2(gateway.isEmpty() || quadValue(gateway, gwValue), qPrintable(context));
+        QCOMPARE(forced.back().ip, ipValue);
+        QCOMPARE(forced.back().mask, maskValue);
+        QCOMPARE(forced.back().gateway, gwValue);
+    }
+    QVERIFY2(sent > 0, "no generated case was valid: the generator tests nothing");
+    // The library now takes the camera for one at the forced address; the
+    // next discovery shows it where it really is.
+    QVERIFY(rediscover());
+    QTRY_VERIFY_WITH_TIMEOUT(Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(
+                                 deviceBySerial("RESP1")->getDevice()),
+                             15000);
+}
+
 void TestDeviceListDialogs::forceIpThroughTheTree()
 {
     QTreeWidgetItem* item = responderItem();
@@ -321,17 +393,18 @@ void TestDeviceListDialogs::forceIpThroughTheTree()
         sawWait = dialog->waitDialog()->isVisible() && dialog->isBusy();
     });
     QSignalSpy finished(CDeviceManager::getInstance(), &CDeviceManager::discoveryDevicesFinished);
+    const size_t before = m_responder->forced().size();
     m_form->setCurrentDeviceItem(item);
     m_form->on_ActionForceIpTriggered();   // returns once the dialog has closed
     QVERIFY(sawWait);
     QCOMPARE(answerer.texts, QStringList({"The network segment of the device is different from NIC's. Are you sure "
                                           "you want to continue?"}));
     const auto forced = m_responder->forced();
-    QCOMPARE(int(forced.size()), 1);
-    QCOMPARE(forced[0].mac, kResponderMac);
-    QCOMPARE(forced[0].ip, 0x0A000009u);
-    QCOMPARE(forced[0].mask, 0xFF000000u);
-    QCOMPARE(forced[0].gateway, 0x0A000001u);
+    QCOMPARE(forced.size(), before + 1);
+    QCOMPARE(forced.back().mac, kResponderMac);
+    QCOMPARE(forced.back().ip, 0x0A000009u);
+    QCOMPARE(forced.back().mask, 0xFF000000u);
+    QCOMPARE(forced.back().gateway, 0x0A000001u);
     // An accepted dialog makes the tree rediscover.
     QVERIFY(finished.wait(20000));
     QVERIFY(!CConfiguration::getInstance()->setPersistentIP);   // OK stored the check box

@@ -129,6 +129,8 @@ void TestDeviceListUnicast::initTestCase()
     m_form = new CDiscoveryDevicesForm(m_host);
     m_form->resize(320, 600);
     m_host->show();
+    // The automatic refresh is driven by hand where a test wants it, never by the clock.
+    m_form->autoRefreshTimer()->stop();
 }
 
 void TestDeviceListUnicast::cleanupTestCase()
