@@ -154,6 +154,23 @@ void CFeatureControlWorker::stop()
     m_wake.wakeAll();
 }
 
+void CFeatureControlWorker::retire()
+{
+    setParent(nullptr);
+    QMutexLocker lock(&m_mutex);
+    m_bRunning = false;
+    m_requests.clear();
+    // A loop that has ended (or never started) leaves nothing to wait for
+    // but the last instructions of run(), which the destructor's wait covers.
+    if (m_bLoopDone || !isRunning())
+    {
+        deleteLater();
+        return;
+    }
+    m_bRetired = true;
+    m_wake.wakeAll();
+}
+
 int CFeatureControlWorker::pendingCount()
 {
     QMutexLocker lock(&m_mutex);
@@ -175,6 +192,12 @@ void CFeatureControlWorker::run()
             request = m_requests.dequeue();
         }
         handle(request);
+    }
+    {
+        QMutexLocker lock(&m_mutex);
+        m_bLoopDone = true;
+        if (m_bRetired)
+            deleteLater();
     }
     LOG_DEBUG("CFeatureControlWorker run end");
 }

@@ -64,6 +64,10 @@ public:
     void requestExecute(const QString& name);
     // Ends the loop after the request under way; waiting requests are dropped.
     void stop();
+    // For an owner that goes away: stops the worker and lets it delete
+    // itself once the request under way (a camera round trip) has ended,
+    // so the owner never waits for the camera. Nothing is reported after.
+    void retire();
     int pendingCount();
 
 signals:
@@ -91,4 +95,6 @@ private:
     QMutex m_mutex;
     QWaitCondition m_wake;
     std::atomic<bool> m_bRunning{true};
+    bool m_bRetired = false;   // guarded by m_mutex
+    bool m_bLoopDone = false;  // guarded by m_mutex
 };

@@ -44,8 +44,9 @@ CSaveFeaturesDlg::CSaveFeaturesDlg(CTavDevicePtr device, QWidget* parent)
 CSaveFeaturesDlg::~CSaveFeaturesDlg()
 {
     CDeviceManager::getInstance()->detach(this);
-    m_worker->stop();
-    m_worker->wait();
+    // A user-set command under way may take seconds: the worker finishes it
+    // and goes on its own.
+    m_worker->retire();
 }
 
 void CSaveFeaturesDlg::initUI()

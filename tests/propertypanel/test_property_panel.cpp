@@ -12,9 +12,12 @@
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QPointer>
 #include <QtTest>
 
+#include "CAravisCamera.h"
 #include "CDeviceManager.h"
+#include "CFeatureControlWorker.h"
 #include "CDeviceParamFile.h"
 #include "CParamFileController.h"
 #include "CParamFileNodeMap.h"
@@ -57,6 +60,7 @@ private slots:
     void paramFileRoundTripBetweenCameras();
     void paramFileReportsWhatDidNotLoad();
     void paramFileStopsWhenCameraIsLost();
+    void workerRetiresWithoutWaiting();
     void screenshots();
 
 private:
@@ -234,8 +238,18 @@ void TestPropertyPanel::userSets()
     QVERIFY(write(dev, "UserSetDefault", "Default"));
     CSaveFeaturesDlg dlg(dev);
     dlg.setMessageHandler([this](const QString& t) { m_shown.append({t, 0, QString()}); });
+    // The worker reads the four features one after the other and each control
+    // follows its own result: wait until every one has been shown.
     QSignalSpy shown(&dlg, &CSaveFeaturesDlg::paramShown);
-    QTRY_VERIFY_WITH_TIMEOUT(dlg.selectorCombo()->count() == 3 && dlg.saveButton()->isEnabled(), 5000);
+    const auto allShown = [&]() {
+        QSet<QString> names;
+        for (const QList<QVariant>& args : shown)
+            names.insert(args.at(0).toString());
+        return names.size() == 4;
+    };
+    QVERIFY(QTest::qWaitFor(allShown, 15000));
+    QCOMPARE(dlg.selectorCombo()->count(), 3);
+    QVERIFY(dlg.saveButton()->isEnabled());
     QCOMPARE(dlg.selectorCombo()->currentData().toString(), QString("UserSet1"));
     QCOMPARE(dlg.selectorCombo()->itemText(0), CSaveFeaturesDlg::transParam("Default"));
     QVERIFY(dlg.selectorCombo()->isEnabled());
@@ -532,6 +546,45 @@ void TestPropertyPanel::paramFileStopsWhenCameraIsLost()
     QCOMPARE(finished.last().at(1).toInt(), 0);
     QVERIFY(QString::fromUtf8(readAll(report)).contains("could not be connected"));
     QVERIFY(b->openDevice(true));
+}
+
+void TestPropertyPanel::workerRetiresWithoutWaiting()
+{
+    // A worker in the middle of a camera round trip: the camera's lock is
+    // held here, so its read cannot finish.
+    Vorlen::GenICam::CAravisCamera* camera = Vorlen::GenICam::toAravisCamera(m_dev[0]->getDevice());
+    QVERIFY(camera);
+    QObject owner;
+    auto* worker = new CFeatureControlWorker(m_dev[0]->getDevice(), &owner);
+    QPointer<CFeatureControlWorker> alive(worker);
+    QSignalSpy read(worker, &CFeatureControlWorker::stateRead);
+    worker->start();
+    {
+        std::unique_lock<std::recursive_mutex> cameraLock(camera->gcMutex());
+        worker->requestRead({QStringLiteral("Width"), QStringLiteral("Height")});
+        QTRY_COMPARE(worker->pendingCount(), 1);   // Width taken, Height waiting
+
+        // Retiring returns while the read still waits for the camera (a
+        // wait here would never end: this thread holds the camera).
+        worker->retire();
+        QVERIFY(alive);
+        QVERIFY(!worker->parent());
+        QCOMPARE(worker->pendingCount(), 0);
+    }
+    // The read under way ends, nothing after it runs, the worker goes.
+    QTRY_VERIFY(alive.isNull());
+    QVERIFY(read.count() <= 1);
+
+    // A worker that never ran, and one whose loop has ended, go at once.
+    QPointer<CFeatureControlWorker> idle(new CFeatureControlWorker(m_dev[0]->getDevice(), &owner));
+    idle->retire();
+    QTRY_VERIFY(idle.isNull());
+    QPointer<CFeatureControlWorker> ended(new CFeatureControlWorker(m_dev[0]->getDevice(), &owner));
+    ended->start();
+    ended->stop();
+    QVERIFY(ended->wait(10000));
+    ended->retire();
+    QTRY_VERIFY(ended.isNull());
 }
 
 void TestPropertyPanel::screenshots()
