@@ -18,7 +18,7 @@
 #include "CSlider.h"
 #include "CSpinBox.h"
 #include "CTavDevice.h"
-#include "FeatureTransTables.h"
+#include "ParamTransTables.h"
 #include "Utils.h"
 
 namespace {
@@ -76,8 +76,9 @@ CFeatureControlPage::CFeatureControlPage(CTavDevicePtr device, const char* conte
 CFeatureControlPage::~CFeatureControlPage()
 {
     CDeviceManager::getInstance()->detach(this);
-    m_worker->stop();
-    m_worker->wait();
+    // A write or read under way finishes on the worker, which then goes on
+    // its own: closing the page never waits for the camera.
+    m_worker->retire();
     qDeleteAll(m_rows);
 }
 
