@@ -29,7 +29,8 @@ QToolButton* makeButton(QWidget* parent, const char* name, const char* icon, boo
     b->setIconSize(QSize(20, 20));
     b->setCheckable(checkable);
     b->setAutoRaise(true);
-    b->setToolButtonStyle(checkable ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    // Tabs carry their text under the icon so four of them fit a narrow panel.
+    b->setToolButtonStyle(checkable ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
     return b;
 }
 }

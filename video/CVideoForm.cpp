@@ -28,6 +28,10 @@ CVideoForm::CVideoForm(int formId, QWidget* parent, bool attachToBus) : QWidget(
     setObjectName(QStringLiteral("videoForm%1").arg(formId));
     setAcceptDrops(true);
     setFocusPolicy(Qt::ClickFocus);
+    // Sixteen views share the centre of a small screen: a view takes the cell
+    // it is given and its bars clip, rather than widening the window.
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    setMinimumSize(96, 72);
     registerMessageMetaTypes();
 
     m_titleBar = new CVideoTitleBar(formId, this);
