@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QEvent>
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -114,7 +115,7 @@ void CPropertyFeaturesForm::buildUi()
     layout->addLayout(bar);
     auto* buttons = new QHBoxLayout();
     for (QPushButton* button : {m_btnExpand, m_btnReset, m_btnSave, m_btnTranslate})
-        buttons->addWidget(button, 1);
+        buttons->addWidget(button);
     layout->addLayout(buttons);
 
     auto* splitter = new QSplitter(Qt::Vertical, this);
@@ -980,6 +981,10 @@ void CPropertyFeaturesForm::retranslateWidgets()
     m_cbVisibility->setItemText(2, tr("Guru"));
     m_lineEditKey->setPlaceholderText(tr("Search features"));
     m_btnExpand->setText(m_bExpanded ? tr("Collapse All") : tr("Expand All"));
+    // Wide enough for either text, so toggling never clips or shifts the row.
+    const QFontMetrics metrics(m_btnExpand->font());
+    m_btnExpand->setMinimumWidth(
+        qMax(metrics.horizontalAdvance(tr("Collapse All")), metrics.horizontalAdvance(tr("Expand All"))) + 36);
     m_btnReset->setText(tr("Reset"));
     m_btnSave->setText(tr("Save"));
     m_btnTranslate->setText(tr("Translate"));
