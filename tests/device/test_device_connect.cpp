@@ -4,7 +4,6 @@
 // GLib headers come before Qt's: Qt defines "signals" as a keyword.
 #include <arv.h>
 #include "FakeCameraRig.h"
-#include <QSignalSpy>
 #include <cstring>
 #include <QtTest>
 
@@ -13,6 +12,7 @@
 #include "CDeviceResetThread.h"
 #include "CTavDevice.h"
 #include "DeviceTestSupport.h"
+#include "QueuedSignalSpy.h"
 
 // Configuration files go to the test's own home (CTest sets HOME per test).
 static const bool g_ownHome = []() {
@@ -193,7 +193,7 @@ void TestDeviceConnect::resetAndLinkSettingChanges()
     QVERIFY(selector.setValueBySymbol("UserSet1"));
     QVERIFY(userSetDefault.setValueBySymbol("UserSet2"));
     CDeviceResetThread reset;
-    QSignalSpy resetDone(&reset, &CDeviceResetThread::device_reset);
+    QueuedSignalSpy resetDone(&reset, &CDeviceResetThread::device_reset);
     reset.setDevice(m_device);
     reset.start();
     QVERIFY(resetDone.wait(15000));

@@ -2,7 +2,6 @@
 // lost while streaming and found again, and the map across discovery passes.
 // GLib headers come before Qt's: Qt defines "signals" as a keyword.
 #include "FakeCameraRig.h"
-#include <QSignalSpy>
 #include <QtTest>
 
 #include "CConfiguration.h"
@@ -10,6 +9,7 @@
 #include "CDisconnectAllThread.h"
 #include "CTavDevice.h"
 #include "DeviceTestSupport.h"
+#include "QueuedSignalSpy.h"
 
 // Configuration files go to the test's own home (CTest sets HOME per test).
 static const bool g_ownHome = []() {
@@ -115,8 +115,8 @@ void TestDeviceManager::disconnectAllClosesEveryDevice()
                                Qt::DirectConnection));
 
     CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
-    QSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
-    QSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
+    QueuedSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
+    QueuedSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
     closer->start();
     QVERIFY(finished.wait(15000));
     QCOMPARE(begin.count(), 1);

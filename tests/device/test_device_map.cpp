@@ -12,6 +12,7 @@
 #include "CDiscoveryDevicesThread.h"
 #include "CTavDevice.h"
 #include "DeviceTestSupport.h"
+#include "QueuedSignalSpy.h"
 
 // Configuration files go to the test's own home (CTest sets HOME per test).
 static const bool g_ownHome = []() {
@@ -279,7 +280,7 @@ void TestDeviceMap::disconnectAllGivesUp()
                          ++pauses;
                          fakeNow += ms;
                      });
-    QSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
+    QueuedSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
     closer->start();
     QVERIFY(finished.wait(30000));
     QVERIFY(closer->wait(5000));
@@ -310,7 +311,7 @@ void TestDeviceMap::disconnectAllWaitsForAConnection()
 
     // A device still connecting is closed once connected, and waited for.
     CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
-    QSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
+    QueuedSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
     closer->start();
     QVERIFY(finished.wait(15000));
     QVERIFY(closer->wait(5000));
@@ -329,7 +330,7 @@ void TestDeviceMap::managerGoesAfterDisconnectAll()
     // The program ends while the disconnect-all worker is still waiting for
     // the devices: the manager it polls must outlive it.
     CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
-    QSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
+    QueuedSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
     closer->start();
     QTRY_COMPARE_WITH_TIMEOUT(begin.count(), 1, 5000);
     CDeviceManager::destroyInstance();

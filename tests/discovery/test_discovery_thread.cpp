@@ -1,13 +1,13 @@
 // Semantics of the discovery worker against a recording stand-in for the
 // camera library: request coalescing, the unicast list, the result rule.
 #include <QSemaphore>
-#include <QSignalSpy>
 #include <QStringList>
 #include <QtTest>
 #include <memory>
 #include <set>
 
 #include "CDiscoveryDevicesThread.h"
+#include "QueuedSignalSpy.h"
 
 using namespace Vorlen::GenICam;
 
@@ -117,7 +117,8 @@ struct Fixture
 
     std::shared_ptr<RecordingSystem> system;
     std::unique_ptr<CDiscoveryDevicesThread> thread;
-    QSignalSpy spy;
+    // The worker emits on its own thread.
+    QueuedSignalSpy spy;
 };
 }
 

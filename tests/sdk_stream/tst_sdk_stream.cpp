@@ -154,7 +154,10 @@ private slots:
 
     void cleanup()
     {
-        if (m_camera && m_camera->isConnected())
+        // Also after a loss: disconnecting joins the finished thread that
+        // released the lost camera's Aravis object. The camera object itself
+        // lives as long as the process, so nothing else would join it.
+        if (m_camera)
             m_camera->disConnect();
         m_camera.reset();
         m_rig.stopAll();
