@@ -264,7 +264,7 @@ void TestPropertyPanel::userSets()
     // Waits for the named feature's result and returns its ok flag.
     const auto finished = [&](const QString& name) {
         int at = -1;
-        QTest::qWaitFor([&]() {
+        (void)QTest::qWaitFor([&]() {
             for (int i = 0; i < done.size() && at < 0; ++i)
                 if (done.at(i).at(0).toString() == name)
                     at = i;
