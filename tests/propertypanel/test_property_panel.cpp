@@ -18,6 +18,7 @@
 #include "CAravisCamera.h"
 #include "CDeviceManager.h"
 #include "CFeatureControlWorker.h"
+#include "QueuedSignalSpy.h"
 #include "CDeviceParamFile.h"
 #include "CParamFileController.h"
 #include "CParamFileNodeMap.h"
@@ -557,7 +558,7 @@ void TestPropertyPanel::workerRetiresWithoutWaiting()
     QObject owner;
     auto* worker = new CFeatureControlWorker(m_dev[0]->getDevice(), &owner);
     QPointer<CFeatureControlWorker> alive(worker);
-    QSignalSpy read(worker, &CFeatureControlWorker::stateRead);
+    QueuedSignalSpy read(worker, &CFeatureControlWorker::stateRead);
     worker->start();
     {
         std::unique_lock<std::recursive_mutex> cameraLock(camera->gcMutex());
