@@ -229,18 +229,31 @@ def write_cpp():
     for name, disp, desc, _, _ in features:
         out.append("    {%s,\n     %s,\n     %s},\n" % (noop(name), noop(disp), noop(desc)))
     out.append("};\n\n")
-    out.append("// Enumeration value tables: the feature name, then its symbols, then nullptr.\n")
-    out.append("const char* const kValueTexts[] = {\n")
+    # Enumerations that share one list of symbols (the pixel-format selectors,
+    # say) share one array.
+    lists = []
+    list_index = {}
     for feat, syms in value_tables:
-        out.append("    %s,\n" % c_str(feat))
-        row = "       "
+        key = tuple(syms)
+        if key not in list_index:
+            list_index[key] = len(lists)
+            lists.append(syms)
+    out.append("// Lists of enumeration symbols, each closed by nullptr.\n")
+    for i, syms in enumerate(lists):
+        out.append("const char* const kSymbols%d[] = {\n" % i)
+        row = "   "
         for s in syms:
             item = " %s," % noop(s)
             if len(row) + len(item) > 110:
                 out.append(row + "\n")
-                row = "       "
+                row = "   "
             row += item
-        out.append(row + " nullptr,\n")
+        out.append(row + " nullptr};\n")
+    out.append("\nstruct SValueTable\n{\n    const char* feature;\n    const char* const* symbols;\n};\n\n")
+    out.append("// Enumeration value tables: the feature name and its list of symbols.\n")
+    out.append("const SValueTable kValueTables[] = {\n")
+    for feat, syms in value_tables:
+        out.append("    {%s, kSymbols%d},\n" % (c_str(feat), list_index[tuple(syms)]))
     out.append("};\n\n")
     out.append("QString translated(const char* text)\n{\n"
                '    return QCoreApplication::translate("CPropertyForm", text);\n}\n\n'
@@ -253,16 +266,11 @@ def write_cpp():
                "        g_mapNameToDispTrans.insert(name, translated(f.display));\n"
                "        g_mapNameToDespTrans.insert(name, translated(f.description));\n"
                "    }\n"
-               "    const char* const* p = kValueTexts;\n"
-               "    const char* const* end = kValueTexts + sizeof(kValueTexts) / sizeof(kValueTexts[0]);\n"
-               "    while (p != end) {\n"
-               "        const QString feature = QString::fromLatin1(*p++);\n"
+               "    for (const SValueTable& table : kValueTables) {\n"
                "        QMap<QString, QString> values;\n"
-               "        for (; p != end && *p; ++p)\n"
+               "        for (const char* const* p = table.symbols; *p; ++p)\n"
                "            values.insert(QString::fromLatin1(*p), translated(*p));\n"
-               "        if (p != end)\n"
-               "            ++p; // the nullptr closing this table\n"
-               "        g_mapNameToValueTransMap.insert(feature, values);\n"
+               "        g_mapNameToValueTransMap.insert(QString::fromLatin1(table.feature), values);\n"
                "    }\n"
                "}\n\n"
                "void clearParamTransTables()\n{\n"
