@@ -68,14 +68,10 @@ void TestLumidorWindow::initTestCase()
     m_window->resize(1400, 860);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
-    auto allFound = [&]() {
-        for (int i = 0; i < kCameras; ++i)
-            if (!findDeviceBySerial(serialOf(i)))
-                return false;
-        return true;
-    };
-    QVERIFY2(QTest::qWaitFor(allFound, 15000) || (rediscover() && QTest::qWaitFor(allFound, 15000)),
-             "the simulated cameras were not discovered");
+    QStringList serials;
+    for (int i = 0; i < kCameras; ++i)
+        serials << serialOf(i);
+    QVERIFY2(waitForSerials(serials), "the simulated cameras were not discovered");
     for (int i = 0; i < kCameras; ++i)
         m_devices[i] = findDeviceBySerial(serialOf(i));
 }

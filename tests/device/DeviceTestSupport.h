@@ -132,3 +132,16 @@ inline bool rediscover(int timeoutMs = 15000)
     manager->refreshDeviceMap(QString(), 0);
     return spy.wait(timeoutMs);
 }
+
+// Waits until the device manager lists a camera of every serial, asking for
+// one more discovery pass when the first ones miss some.
+inline bool waitForSerials(const QStringList& serials, int timeoutMs = 15000)
+{
+    auto allFound = [&serials]() {
+        for (const QString& serial : serials)
+            if (!findDeviceBySerial(serial))
+                return false;
+        return true;
+    };
+    return QTest::qWaitFor(allFound, timeoutMs) || (rediscover(timeoutMs) && QTest::qWaitFor(allFound, timeoutMs));
+}

@@ -61,14 +61,10 @@ void TestVideoviewLive::initTestCase()
     m_manager->resize(900, 700);
     m_manager->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_manager.get()));
-    auto allFound = [&]() {
-        for (int i = 0; i < kCameras; ++i)
-            if (!findDeviceBySerial(serialOf(i)))
-                return false;
-        return true;
-    };
-    QVERIFY2(QTest::qWaitFor(allFound, 15000) || (rediscover() && QTest::qWaitFor(allFound, 15000)),
-             "the simulated cameras were not discovered");
+    QStringList serials;
+    for (int i = 0; i < kCameras; ++i)
+        serials << serialOf(i);
+    QVERIFY2(waitForSerials(serials), "the simulated cameras were not discovered");
     for (int i = 0; i < kCameras; ++i)
         m_devices[i] = findDeviceBySerial(serialOf(i));
 }
