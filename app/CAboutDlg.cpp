@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "CDialogTitleBar.h"
+#include "FramelessDialogLayout.h"
 #include "Vorlen/GenICam/CSystem.h"
 
 #ifndef LUMIDOR_VERSION
@@ -35,19 +36,7 @@ CAboutDlg::CAboutDlg(QWidget* parent)
     top->setSpacing(16);
     top->addWidget(m_iconLabel);
     top->addWidget(m_textLabel, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(m_okButton);
-    auto* body = new QVBoxLayout;
-    body->setContentsMargins(18, 14, 18, 14);
-    body->setSpacing(14);
-    body->addLayout(top);
-    body->addLayout(buttons);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->setSpacing(0);
-    layout->addWidget(m_titleBar);
-    layout->addLayout(body);
+    layOutFramelessDialog(this, m_titleBar, top, {m_okButton});
     retranslate();
 }
 

@@ -16,6 +16,7 @@
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDialogTitleBar.h"
+#include "FramelessDialogLayout.h"
 #include "CSetIpThread.h"
 #include "CTavDevice.h"
 #include "CWaitDlg.h"
@@ -137,20 +138,7 @@ void CSetIPDlg::buildUi()
     grid->addWidget(m_lblHint, row++, 0, 1, 2);
     grid->addWidget(m_cbSetPersistentIP, row++, 0, 1, 2);
 
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(m_btnOk);
-    buttons->addWidget(m_btnCancel);
-    auto* body = new QVBoxLayout;
-    body->setContentsMargins(16, 12, 16, 12);
-    body->setSpacing(12);
-    body->addLayout(grid);
-    body->addLayout(buttons);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_titleBar);
-    layout->addLayout(body);
+    layOutFramelessDialog(this, m_titleBar, grid, {m_btnOk, m_btnCancel});
     setMinimumWidth(380);
 
     connect(m_btnOk, &QPushButton::clicked, this, &CSetIPDlg::on_btnOk_clicked);

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "CDialogTitleBar.h"
+#include "FramelessDialogLayout.h"
 
 CSingleFieldDlg::CSingleFieldDlg(QWidget* parent) : QDialog(parent)
 {
@@ -23,20 +24,7 @@ CSingleFieldDlg::CSingleFieldDlg(QWidget* parent) : QDialog(parent)
     auto* field = new QHBoxLayout;
     field->addWidget(m_label);
     field->addWidget(m_lineEdit, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(m_btnOk);
-    buttons->addWidget(m_btnCancel);
-    auto* body = new QVBoxLayout;
-    body->setContentsMargins(16, 12, 16, 12);
-    body->setSpacing(12);
-    body->addLayout(field);
-    body->addLayout(buttons);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_titleBar);
-    layout->addLayout(body);
+    layOutFramelessDialog(this, m_titleBar, field, {m_btnOk, m_btnCancel});
     setMinimumWidth(360);
 
     connect(m_btnOk, &QPushButton::clicked, this, &CSingleFieldDlg::on_btnOk_clicked);

@@ -11,6 +11,7 @@
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDialogTitleBar.h"
+#include "FramelessDialogLayout.h"
 #include "CTavDevice.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 #include "Utils.h"
@@ -75,7 +76,7 @@ void CSaveFeaturesDlg::initUI()
         b->setEnabled(false);
 
     auto* grid = new QGridLayout();
-    grid->setContentsMargins(18, 14, 18, 8);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(8);
     grid->addWidget(m_lblSelector, 0, 0);
@@ -86,16 +87,7 @@ void CSaveFeaturesDlg::initUI()
     grid->addWidget(m_btnUserSetSave, 2, 1);
     grid->addWidget(m_lblDefault, 3, 0);
     grid->addWidget(m_cbUserSetDefault, 3, 1);
-    auto* bottom = new QHBoxLayout();
-    bottom->setContentsMargins(18, 4, 18, 14);
-    bottom->addStretch(1);
-    bottom->addWidget(m_btnClose);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->setSpacing(0);
-    layout->addWidget(m_titleBar);
-    layout->addLayout(grid);
-    layout->addLayout(bottom);
+    layOutFramelessDialog(this, m_titleBar, grid, {m_btnClose});
 
     // User choices only (activated); the controls are filled with signals blocked.
     connect(m_cbUserSetSelector, QOverload<int>::of(&QComboBox::activated), this,

@@ -1,0 +1,13 @@
+#pragma once
+// The house layout of a frameless dialog: the title bar on top, then the
+// dialog's content and a row of buttons aligned to the right, with the usual
+// margins. Every small dialog of the application is laid out by it.
+#include <QList>
+
+class QDialog;
+class QLayout;
+class QPushButton;
+class CDialogTitleBar;
+
+void layOutFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* content,
+                           const QList<QPushButton*>& buttons);
