@@ -1,23 +1,26 @@
 #pragma once
 // Reads a GigE camera's access permission (which host controls it) off the
-// GUI thread; works without control of the camera.
+// GUI thread; works without control of the camera. A refresh asked for
+// while a read runs is carried out after it, once however often it was
+// asked. The device retires the thread instead of waiting for the camera.
 #include <QMetaType>
 #include <QMutex>
-#include <QThread>
 
+#include "CRetiringThread.h"
 #include "Vorlen/GenICam/ICamera.h"
 #include "Vorlen/Memory/TSharedPtr.h"
 
 Q_DECLARE_METATYPE(Vorlen::GenICam::ECameraAccessPermission)
 
-class AccessStatusThread : public QThread
+class AccessStatusThread : public CRetiringThread
 {
     Q_OBJECT
 public:
     explicit AccessStatusThread(QObject* parent = nullptr);
     ~AccessStatusThread() override;
 
-    // Starts a read unless one is running; false when none was started.
+    // Starts a read, or asks for one more after the read under way.
+    // False once the thread was stopped.
     bool RefreshAccessStatus(Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalCamera> camera);
 
 signals:
@@ -26,8 +29,12 @@ signals:
 
 protected:
     void run() override;
+    void requestStop() override;
 
 private:
     QMutex m_mutex;
-    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalCamera> m_spCamera;
+    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalCamera> m_spCamera;   // guarded by m_mutex
+    bool m_bPending = false;   // guarded by m_mutex: a read is asked for
+    bool m_bStopped = false;   // guarded by m_mutex
+    bool m_bLooping = false;   // guarded by m_mutex: run() will look at m_bPending again
 };

@@ -52,7 +52,10 @@ CTavDevice::~CTavDevice()
     m_pConnectThread->wait();
     m_pStreamThread->stop();
     m_pStreamThread->wait();
-    m_pAccessStatusThread->wait();
+    // A permission read under way may take one answer timeout: the thread
+    // deletes itself when it returns, and its result goes nowhere.
+    m_pAccessStatusThread->retire();
+    m_pAccessStatusThread = nullptr;
 
     unsubscribeEvents();
     const TSharedPtr<CInternalStreamSource> stream = getStreamSource();

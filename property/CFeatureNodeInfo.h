@@ -4,6 +4,7 @@
 // never reads a node itself. Texts are the camera's own; translation happens
 // when a row is built.
 #include <QList>
+#include <QMetaType>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -80,3 +81,4 @@ public:
     // Whether the last failed call of this thread means the camera is gone.
     static bool lastErrorMeansDeviceLost();
 };
+Q_DECLARE_METATYPE(CFeatureNodeInfo)

@@ -1,20 +1,35 @@
 #pragma once
-// Builds the feature tree of a features form once, off the GUI thread.
-#include <QMutex>
-#include <QThread>
+// Reads the feature tree of a features page once, off the GUI thread, and
+// hands it over by a queued signal. It knows nothing of the page: a page
+// that closes retires it, and the tree then goes nowhere.
+#include <QMetaType>
+#include <memory>
 
-class CPropertyFeaturesForm;
+#include "CFeatureFormCamera.h"
+#include "CRetiringThread.h"
 
-class CLoadPropertiesThread : public QThread
+using CFeatureTreePtr = std::shared_ptr<const CFeatureNodeInfo>;
+Q_DECLARE_METATYPE(CFeatureTreePtr)
+
+class CLoadPropertiesThread : public CRetiringThread
 {
     Q_OBJECT
 public:
-    explicit CLoadPropertiesThread(CPropertyFeaturesForm* form);
+    // sink receives the camera-side changes once the tree is loaded.
+    CLoadPropertiesThread(const CFeatureFormCamera::Ptr& camera, const CFeatureFormCamera::ChangeSink& sink,
+                          QObject* parent = nullptr);
+    ~CLoadPropertiesThread() override;
+
+signals:
+    // ok false: the load stopped (camera gone, page closing); tree partial.
+    void loaded(CFeatureTreePtr tree, bool ok);
 
 protected:
     void run() override;
+    // The load checks the shared camera's closing flag after every node.
+    void requestStop() override {}
 
 private:
-    CPropertyFeaturesForm* m_pForm;   // not owned
-    QMutex m_mutex;
+    CFeatureFormCamera::Ptr m_camera;
+    CFeatureFormCamera::ChangeSink m_sink;
 };

@@ -46,10 +46,8 @@ private:
 } // namespace
 
 CPropertyFeaturesForm::CPropertyFeaturesForm(CTavDevicePtr device, QWidget* parent)
-    : QWidget(parent), m_device(device)
+    : QWidget(parent), m_device(device), m_cameraSide(std::make_shared<CFeatureFormCamera>(device))
 {
-    if (m_device)
-        m_camera = m_device->getDevice();
     m_messageHandler = [this](const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::Icon icon) {
         return messageBox(text, this, buttons, icon);
     };
@@ -58,19 +56,21 @@ CPropertyFeaturesForm::CPropertyFeaturesForm(CTavDevicePtr device, QWidget* pare
 
 CPropertyFeaturesForm::~CPropertyFeaturesForm()
 {
-    m_bStopping = true;
+    // No change notice reaches the update worker after this; workers stop
+    // at their next check. A worker inside a camera call is not waited for:
+    // it deletes itself when the call returns, and its result, queued to
+    // this page, is dropped with the page's connections.
     onUnregisterSink();
-    m_pUpdateThread->setRunningFlag(false);
-    m_pCmdThread->setRunningFlag(false);
-    m_pWriteThread->stop();
-    m_pLoadThread->wait();
-    m_pUpdateThread->wait();
-    m_pCmdThread->wait();
-    m_pWriteThread->wait();
-    delete m_pLoadThread;
-    delete m_pUpdateThread;
-    delete m_pCmdThread;
-    delete m_pWriteThread;
+    for (CRetiringThread* worker : std::initializer_list<CRetiringThread*>{m_pLoadThread, m_pUpdateThread,
+                                                                           m_pCmdThread, m_pWriteThread})
+    {
+        disconnect(worker, nullptr, this, nullptr);
+        worker->retire();
+    }
+    m_pLoadThread = nullptr;
+    m_pUpdateThread = nullptr;
+    m_pCmdThread = nullptr;
+    m_pWriteThread = nullptr;
     // Rows go before their managers, the tree before the rows.
     delete m_browser;
     m_browser = nullptr;
@@ -181,8 +181,6 @@ void CPropertyFeaturesForm::init()
     connect(m_pushButtonFactory, &QtPushButtonFactory::onClick, this,
             &CPropertyFeaturesForm::onCommandPropertyClicked, Qt::QueuedConnection);
 
-    connect(this, &CPropertyFeaturesForm::propertyLoadFinish, this, &CPropertyFeaturesForm::OnPropertyLoadFinish,
-            Qt::QueuedConnection);
     connect(m_cbVisibility, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &CPropertyFeaturesForm::on_cbVisibility_currentIndexChanged);
     connect(m_lineEditKey, &QLineEdit::textChanged, this, &CPropertyFeaturesForm::on_lineEditKey_textChanged);
@@ -200,12 +198,25 @@ void CPropertyFeaturesForm::init()
     restoreConfig();
     retranslateWidgets();
 
-    m_pCmdThread = new CCommandParamDoneStatusThread(this);
-    connect(m_pCmdThread, &CCommandParamDoneStatusThread::setDone, this, &CPropertyFeaturesForm::OnPropertyDone,
+    m_pCmdThread = new CCommandParamDoneStatusThread(m_cameraSide);
+    connect(m_pCmdThread, &CCommandParamDoneStatusThread::setDone, this, &CPropertyFeaturesForm::onCommandDone,
             Qt::QueuedConnection);
-    m_pUpdateThread = new CUpdateParamThread(this);
+    connect(m_pCmdThread, &CCommandParamDoneStatusThread::abandoned, this,
+            &CPropertyFeaturesForm::onCommandAbandoned, Qt::QueuedConnection);
+    m_pUpdateThread = new CUpdateParamThread(m_cameraSide);
+    connect(m_pUpdateThread, &CUpdateParamThread::nodeRead, this, &CPropertyFeaturesForm::applyNodeInfo,
+            Qt::QueuedConnection);
     m_pWriteThread = new CWriteParamThread();
-    m_pLoadThread = new CLoadPropertiesThread(this);
+    connect(
+        m_pWriteThread, &CWriteParamThread::jobDone, this,
+        [](const CWriteContinuation& continuation) { continuation(); }, Qt::QueuedConnection);
+    // Camera-side changes arrive on the library's event thread; the page
+    // unsubscribes before it retires the update worker.
+    CUpdateParamThread* update = m_pUpdateThread;
+    m_pLoadThread = new CLoadPropertiesThread(
+        m_cameraSide, [update](const QList<QString>& names) { update->appendPropertyList(names); });
+    connect(m_pLoadThread, &CLoadPropertiesThread::loaded, this, &CPropertyFeaturesForm::onTreeLoaded,
+            Qt::QueuedConnection);
     m_pCmdThread->start(QThread::InheritPriority);
     m_pUpdateThread->start(QThread::InheritPriority);
     m_pWriteThread->start(QThread::InheritPriority);
@@ -221,78 +232,7 @@ int CPropertyFeaturesForm::showMessage(const QString& text, QMessageBox::Standar
     return m_messageHandler ? m_messageHandler(text, buttons, icon) : int(QMessageBox::Ok);
 }
 
-bool CPropertyFeaturesForm::workersMayRun() const
-{
-    return !m_bStopping && m_device && m_device->isConnected();
-}
-
 // ---------------------------------------------------------------- loading
-
-void CPropertyFeaturesForm::getProperty()
-{
-    LOG_DEBUG("begin getProperty");
-    auto tree = std::make_shared<CFeatureNodeInfo>();
-    bool ok = false;
-    {
-        QMutexLocker lock(&m_mutex);
-        ok = loadProperties(*tree);
-        if (ok && workersMayRun() && !m_bSubscribed)
-        {
-            m_eventManager = Vorlen::Memory::TSharedPtr<CInternalEventManager>(new CInternalEventManager(m_camera));
-            if (m_eventManager->subscribeParamUpdate([this](const SParamUpdataArg& arg) { onParametersUpdate(arg); }))
-                m_bSubscribed = true;
-            else
-                LOG_ERROR("subscribeParamUpdate failed. [%s]", GetErrorDesc().toLocal8Bit().constData());
-        }
-    }
-    {
-        QMutexLocker lock(&m_handoffMutex);
-        m_loadedTree = tree;
-        m_loadOk = ok;
-    }
-    LOG_DEBUG("end getProperty");
-    emit propertyLoadFinish();
-}
-
-bool CPropertyFeaturesForm::loadProperties(CFeatureNodeInfo& root)
-{
-    LOG_DEBUG("Start to load properties.");
-    if (!workersMayRun())
-        return false;
-    Vorlen::Memory::TSharedPtr<Node> rootNode(new Node(m_camera, "Root"));
-    root = CFeatureNodeInfo::read(rootNode.get());
-    Vorlen::Infra::TVector<Vorlen::Memory::TSharedPtr<Node>> children;
-    if (!rootNode->getChildren(children))
-    {
-        LOG_ERROR("Get children params failed!");
-        return false;
-    }
-    if (children.empty())
-    {
-        LOG_DEBUG("SubParams is empty!");
-        return true;
-    }
-    int nodesRead = 0;
-    auto perNode = [this, &nodesRead]() {
-        ++nodesRead;
-        if (m_loadProbe && !m_loadProbe(nodesRead))
-            return false;
-        return workersMayRun();
-    };
-    for (const auto& child : children)
-    {
-        if (!child || !child->isValid() || child->getVisibility() > Node::visibilityGuru)
-            continue;
-        CFeatureNodeInfo info;
-        if (!CFeatureNodeInfo::readTree(child, info, perNode))
-        {
-            LOG_ERROR("load properties stopped after %d nodes: the camera is gone or the page closes.", nodesRead);
-            return false;
-        }
-        root.children.push_back(std::move(info));
-    }
-    return true;
-}
 
 void CPropertyFeaturesForm::indexRows(const CFeatureNodeInfo& node)
 {
@@ -305,15 +245,8 @@ void CPropertyFeaturesForm::indexRows(const CFeatureNodeInfo& node)
     }
 }
 
-void CPropertyFeaturesForm::OnPropertyLoadFinish()
+void CPropertyFeaturesForm::onTreeLoaded(CFeatureTreePtr tree, bool ok)
 {
-    std::shared_ptr<CFeatureNodeInfo> tree;
-    bool ok = false;
-    {
-        QMutexLocker lock(&m_handoffMutex);
-        tree.swap(m_loadedTree);
-        ok = m_loadOk;
-    }
     if (!ok || !tree)
     {
         m_bLoading = false;
@@ -337,12 +270,11 @@ void CPropertyFeaturesForm::OnPropertyLoadFinish()
             pending = p->subProperties() + pending;
         }
         m_rows = rows;
-        QMutexLocker lock(&m_rowsMutex);
-        m_rowsForWorkers = rows;
     }
     retranslateWidgets();
     showGenParam();
     m_bLoading = false;
+    emit propertyLoadFinish();
     emit showGenParamFinish(m_device);
 }
 
@@ -564,30 +496,6 @@ void CPropertyFeaturesForm::updatePropertyDisp(const CFeatureNodeInfo& node, QtP
     CFeatureTreeBuilder::updatePropertyDisp(node, property, m_managers);
 }
 
-void CPropertyFeaturesForm::UpdateParameter(QString name)
-{
-    CFeatureNodeInfo info;
-    {
-        QMutexLocker lock(&m_mutex);
-        if (!workersMayRun())
-            return;
-        Node node(m_camera, name.toLocal8Bit().constData());
-        info = CFeatureNodeInfo::read(&node);
-    }
-    if (info.valid)
-        QMetaObject::invokeMethod(this, [this, info]() { applyNodeInfo(info); }, Qt::QueuedConnection);
-}
-
-void CPropertyFeaturesForm::onParametersUpdate(const SParamUpdataArg& arg)
-{
-    if (m_bStopping)
-        return;
-    QList<QString> names;
-    for (const Vorlen::Infra::CString& s : arg.paramNames)
-        names.append(QString::fromLocal8Bit(s.c_str()));
-    m_pUpdateThread->appendPropertyList(names);
-}
-
 void CPropertyFeaturesForm::updateGrabStatus()
 {
     QList<QtProperty*> shown;
@@ -616,14 +524,13 @@ void CPropertyFeaturesForm::onPropertyBrowserItemChanged(QtBrowserItem* item)
 void CPropertyFeaturesForm::queueWrite(QtProperty* property, const WriteWork& work)
 {
     const QString name = property->whatsThis();
-    m_pWriteThread->addJob([this, name, work]() {
+    const CFeatureFormCamera::Ptr camera = m_cameraSide;
+    // The job holds the camera side only; its continuation runs on this
+    // page, delivered only while the page exists.
+    m_pWriteThread->addJob([this, camera, name, work]() -> CWriteContinuation {
         SWriteResult result;
         result.name = name;
-        {
-            QMutexLocker lock(&m_mutex);
-            if (!workersMayRun())
-                return;
-            Node node(m_camera, name.toLocal8Bit().constData());
+        const bool ran = camera->withNode(name, [&](Node& node) {
             if (!node.isWriteable())
             {
                 LOG_ERROR("param is not writeable. name: [%s]", name.toLocal8Bit().constData());
@@ -635,8 +542,10 @@ void CPropertyFeaturesForm::queueWrite(QtProperty* property, const WriteWork& wo
             }
             // What the camera holds now, whatever became of the write.
             result.info = CFeatureNodeInfo::read(&node);
-        }
-        QMetaObject::invokeMethod(this, [this, result]() { applyWriteResult(result); }, Qt::QueuedConnection);
+        });
+        if (!ran)
+            return CWriteContinuation();
+        return [this, result]() { applyWriteResult(result); };
     });
 }
 
@@ -782,23 +691,20 @@ void CPropertyFeaturesForm::onCommandPropertyClicked(QtProperty* property, bool)
     if (!property || !m_bLoaded)
         return;
     const QString name = property->whatsThis();
-    m_pWriteThread->addJob([this, name]() {
+    const CFeatureFormCamera::Ptr camera = m_cameraSide;
+    m_pWriteThread->addJob([this, camera, name]() -> CWriteContinuation {
         bool ok = false, done = true;
         QString message;
-        {
-            QMutexLocker lock(&m_mutex);
-            if (!workersMayRun())
-                return;
-            Node node(m_camera, name.toLocal8Bit().constData());
+        const bool ran = camera->withNode(name, [&](Node& node) {
             ok = node.execute();
             if (!ok)
                 message = GetErrorDesc();
             else
                 done = !node.isReadable() || node.isDone();
-        }
-        QMetaObject::invokeMethod(
-            this, [this, name, ok, done, message]() { onCommandExecuted(name, ok, done, message); },
-            Qt::QueuedConnection);
+        });
+        if (!ran)
+            return CWriteContinuation();
+        return [this, name, ok, done, message]() { onCommandExecuted(name, ok, done, message); };
     });
 }
 
@@ -820,58 +726,18 @@ void CPropertyFeaturesForm::onCommandExecuted(const QString& name, bool ok, bool
     m_pCmdThread->addProperty(name);
 }
 
-QtProperty* CPropertyFeaturesForm::rowForWorker(const QString& name)
+void CPropertyFeaturesForm::onCommandDone(const QString& name, const CFeatureNodeInfo& info)
 {
-    QMutexLocker lock(&m_rowsMutex);
-    return m_rowsForWorkers.value(name);
-}
-
-bool CPropertyFeaturesForm::UpdateCmdDoneStatus(QString name)
-{
-    CFeatureNodeInfo info;
-    {
-        QMutexLocker lock(&m_mutex);
-        if (!workersMayRun())
-        {
-            QMetaObject::invokeMethod(this, [this, name]() { onCommandAbandoned(name); }, Qt::QueuedConnection);
-            return true;
-        }
-        Node node(m_camera, name.toLocal8Bit().constData());
-        if (node.getType() != Node::featureTypeCommand)
-            return true;
-        bool done = false;
-        if (!node.isDone(done))
-        {
-            if (CFeatureNodeInfo::lastErrorMeansDeviceLost())
-            {
-                QMetaObject::invokeMethod(this, [this, name]() { onCommandAbandoned(name); },
-                                          Qt::QueuedConnection);
-                return true;
-            }
-            return false;
-        }
-        if (!done)
-            return false;
-        info = CFeatureNodeInfo::read(&node);
-    }
-    emit m_pCmdThread->setDone(rowForWorker(name));
-    QMetaObject::invokeMethod(this, [this, info]() { applyNodeInfo(info); }, Qt::QueuedConnection);
-    return true;
-}
-
-void CPropertyFeaturesForm::OnPropertyDone(QtProperty* property)
-{
-    if (!property)
-        return;
-    m_pushButtonFactory->setDone(property, true);
-    emit commandFinished(property->whatsThis());
+    if (QtProperty* property = m_rows.value(name))
+        m_pushButtonFactory->setDone(property, true);
+    applyNodeInfo(info);
+    emit commandFinished(name);
 }
 
 void CPropertyFeaturesForm::onCommandAbandoned(const QString& name)
 {
     // The camera went away while the command ran: the button comes back, but
     // nothing is reported as finished.
-    LOG_WARN("command abandoned, the device is gone. name: [%s]", name.toLocal8Bit().constData());
     if (QtProperty* property = m_rows.value(name))
         m_pushButtonFactory->setDone(property, true);
 }
@@ -919,10 +785,7 @@ void CPropertyFeaturesForm::on_btnSave_clicked()
 
 void CPropertyFeaturesForm::onUnregisterSink()
 {
-    if (!m_eventManager)
-        return;
-    m_eventManager->unsubscribeParamUpdate();
-    m_eventManager.reset();
+    m_cameraSide->close();
 }
 
 // ---------------------------------------------------------------- language

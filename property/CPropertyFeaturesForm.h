@@ -5,8 +5,10 @@
 // Camera traffic runs on the page's workers: the loader reads the whole node
 // tree, the update worker refreshes rows by name, the write worker carries
 // out the user's edits and reads the values back, the command worker polls
-// running commands. Results come back to the GUI thread queued; the GUI
-// thread only builds and changes rows.
+// running commands. They share the camera side (CFeatureFormCamera), never
+// the page; results come back to the GUI thread by queued signals whose
+// receiver is the page, so a closed page gets none. Closing retires the
+// workers instead of waiting for a camera call under way.
 #include <QHash>
 #include <QMessageBox>
 #include <QMutex>
@@ -16,7 +18,9 @@
 #include <memory>
 
 #include "CFeatureNodeInfo.h"
+#include "CFeatureFormCamera.h"
 #include "CFeatureTreeBuilder.h"
+#include "CLoadPropertiesThread.h"
 #include "CTavMessage.h"
 #include "Vorlen/GenICam.h"
 
@@ -33,7 +37,6 @@ class QtEnumEditorFactory;
 class QtLineEditFactory;
 class QtPushButtonFactory;
 class DecoratedDoubleSpinBoxFactory;
-class CLoadPropertiesThread;
 class CUpdateParamThread;
 class CCommandParamDoneStatusThread;
 class CWriteParamThread;
@@ -53,17 +56,6 @@ public:
 
     CTavDevicePtr device() const { return m_device; }
 
-    // ---- on the workers
-    // Loader: reads the node tree under the form's mutex, subscribes to
-    // parameter updates and announces propertyLoadFinish().
-    void getProperty();
-    // Refreshes one feature's row from the camera.
-    void UpdateParameter(QString name);
-    // True when the command has finished (or can no longer finish: device
-    // gone, not a command); the name then leaves the command worker's list.
-    bool UpdateCmdDoneStatus(QString name);
-    // Camera-side changes (library event thread): the names go to the update worker.
-    void onParametersUpdate(const Vorlen::GenICam::SParamUpdataArg& arg);
     // IPv4 or MAC text to the integer node; false with message set on bad
     // text or a refused write.
     static bool setSpecialIntValue(Vorlen::GenICam::CInternalParameterNode* node, const QString& text,
@@ -102,7 +94,8 @@ public:
     void setMessageHandler(const MessageHandler& handler) { m_messageHandler = handler; }
     // Called on the loader after each node read; returning false stops the
     // load as a lost camera would (tests use it to cut the camera mid-load).
-    void setLoadProbe(const std::function<bool(int nodesRead)>& probe) { m_loadProbe = probe; }
+    // Set before the load starts (it starts on the event loop's next pass).
+    void setLoadProbe(const std::function<bool(int nodesRead)>& probe) { m_cameraSide->setLoadProbe(probe); }
 
     QtTreePropertyBrowser* browser() const { return m_browser; }
     QComboBox* visibilityCombo() const { return m_cbVisibility; }
@@ -112,8 +105,11 @@ public:
     const CFeatureTreeBuilder::SManagers& managers() const { return m_managers; }
     CUpdateParamThread* updateThread() const { return m_pUpdateThread; }
     CCommandParamDoneStatusThread* commandThread() const { return m_pCmdThread; }
+    CWriteParamThread* writeThread() const { return m_pWriteThread; }
+    CLoadPropertiesThread* loadThread() const { return m_pLoadThread; }
 
 signals:
+    // The tree is built and shown (showGenParamFinish follows).
     void propertyLoadFinish();
     // The load stopped (camera gone, page closing): no tree is shown.
     void propertyLoadAborted();
@@ -131,7 +127,7 @@ signals:
     void commandFinished(QString name);
 
 public slots:
-    void OnPropertyLoadFinish();
+    void onTreeLoaded(CFeatureTreePtr tree, bool ok);
     void onPropertyBrowserItemChanged(QtBrowserItem* item);
     void onBoolPropertyValueChanged(QtProperty* property, int value);
     void onIntPropertyValueChanged(QtProperty* property, double value);
@@ -140,7 +136,7 @@ public slots:
     void onStringPropertyValueChanged(QtProperty* property, const QString& value);
     void onEnumPropertyValueChanged(QtProperty* property, int value);
     void onCommandPropertyClicked(QtProperty* property, bool checked);
-    void OnPropertyDone(QtProperty* property);
+    void onCommandDone(const QString& name, const CFeatureNodeInfo& info);
     void onDeviceReset(int result);
     void onVisibilityChanged(int level);
     void onRestoreCfg();
@@ -169,21 +165,17 @@ private:
     void init();
     void buildUi();
     void retranslateWidgets();
-    bool loadProperties(CFeatureNodeInfo& root);
-    bool workersMayRun() const;
     void queueWrite(QtProperty* property, const WriteWork& work);
     void applyWriteResult(const SWriteResult& result);
     void applyNodeInfo(const CFeatureNodeInfo& info);
     void onCommandExecuted(const QString& name, bool ok, bool done, const QString& message);
     void onCommandAbandoned(const QString& name);
     void indexRows(const CFeatureNodeInfo& node);
-    QtProperty* rowForWorker(const QString& name);
     int showMessage(const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::Icon icon);
     void setComboLevel(int level);
 
     CTavDevicePtr m_device;
-    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera> m_camera;
-    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager> m_eventManager;
+    CFeatureFormCamera::Ptr m_cameraSide;
 
     QtTreePropertyBrowser* m_browser = nullptr;
     QComboBox* m_cbVisibility = nullptr;
@@ -207,29 +199,18 @@ private:
     QtProperty* m_rootProperty = nullptr;
     QHash<QString, QtProperty*> m_rows;              // GUI thread
     QHash<QString, CFeatureNodeInfo> m_infos;        // GUI thread: last record of each row
-    QHash<QString, QtProperty*> m_rowsForWorkers;    // guarded by m_rowsMutex
-    QMutex m_rowsMutex;
 
     CLoadPropertiesThread* m_pLoadThread = nullptr;
     CUpdateParamThread* m_pUpdateThread = nullptr;
     CCommandParamDoneStatusThread* m_pCmdThread = nullptr;
     CWriteParamThread* m_pWriteThread = nullptr;
 
-    // Serialises tree building, refreshes, command polling and writes (workers only).
-    QMutex m_mutex;
-    QMutex m_handoffMutex;
-    std::shared_ptr<CFeatureNodeInfo> m_loadedTree;   // guarded by m_handoffMutex
-    bool m_loadOk = false;                            // guarded by m_handoffMutex
-
     std::atomic<bool> m_bLoading{true};
     bool m_bLoaded = false;
-    bool m_bSubscribed = false;                       // loader thread only
-    std::atomic<bool> m_bStopping{false};
     bool m_bApplying = false;       // rows changed by the page itself, not by the user
     bool m_bSyncingCombo = false;   // combo set from the shared level, nothing to save
     bool m_bTranslated = true;
     bool m_bExpanded = false;
 
     MessageHandler m_messageHandler;
-    std::function<bool(int)> m_loadProbe;
 };

@@ -1,14 +1,28 @@
 #include "CUpdateParamThread.h"
 
-#include "CPropertyFeaturesForm.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
-CUpdateParamThread::CUpdateParamThread(CPropertyFeaturesForm* form) : m_pForm(form) {}
+namespace {
+const int kInfoTypeId = qRegisterMetaType<CFeatureNodeInfo>("CFeatureNodeInfo");
+}
+
+CUpdateParamThread::CUpdateParamThread(const CFeatureFormCamera::Ptr& camera, QObject* parent)
+    : CRetiringThread(parent), m_camera(camera)
+{
+    Q_UNUSED(kInfoTypeId);
+}
+
+CUpdateParamThread::~CUpdateParamThread()
+{
+    requestStop();
+    wait();
+}
 
 void CUpdateParamThread::SetPropertyList(const QList<QString>& names)
 {
     QMutexLocker lock(&m_mutex);
     m_listProperty = names;
+    m_wake.wakeAll();
 }
 
 void CUpdateParamThread::appendPropertyList(const QList<QString>& names)
@@ -17,6 +31,7 @@ void CUpdateParamThread::appendPropertyList(const QList<QString>& names)
     for (const QString& name : names)
         if (!m_listProperty.contains(name))
             m_listProperty.append(name);
+    m_wake.wakeAll();
 }
 
 QString CUpdateParamThread::getProperty()
@@ -31,18 +46,31 @@ int CUpdateParamThread::pendingCount()
     return m_listProperty.size();
 }
 
+void CUpdateParamThread::requestStop()
+{
+    QMutexLocker lock(&m_mutex);
+    m_bStopped = true;
+    m_listProperty.clear();
+    m_wake.wakeAll();
+}
+
 void CUpdateParamThread::run()
 {
     LOG_DEBUG("CUpdateParamThread run begin");
-    while (m_bRunning)
+    for (;;)
     {
-        const QString name = getProperty();
-        if (!name.isEmpty())
+        QString name;
         {
-            m_pForm->UpdateParameter(name);
-            continue;
+            QMutexLocker lock(&m_mutex);
+            while (!m_bStopped && m_listProperty.isEmpty())
+                m_wake.wait(&m_mutex);
+            if (m_bStopped)
+                break;
+            name = m_listProperty.takeFirst();
         }
-        msleep(5);
+        const CFeatureNodeInfo info = m_camera->readNode(name);
+        if (info.valid)
+            emit nodeRead(info);
     }
     LOG_DEBUG("CUpdateParamThread run end");
 }

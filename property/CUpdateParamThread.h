@@ -1,34 +1,41 @@
 #pragma once
-// Refreshes features of a features form by name, in order, off the GUI thread.
+// Refreshes features of a features page by name, in order, off the GUI
+// thread; each record read goes out by a queued signal. It knows nothing of
+// the page: a page that closes retires it.
 #include <QList>
 #include <QMutex>
 #include <QString>
-#include <QThread>
-#include <atomic>
+#include <QWaitCondition>
 
-class CPropertyFeaturesForm;
+#include "CFeatureFormCamera.h"
+#include "CRetiringThread.h"
 
-class CUpdateParamThread : public QThread
+class CUpdateParamThread : public CRetiringThread
 {
     Q_OBJECT
 public:
-    explicit CUpdateParamThread(CPropertyFeaturesForm* form);
+    explicit CUpdateParamThread(const CFeatureFormCamera::Ptr& camera, QObject* parent = nullptr);
+    ~CUpdateParamThread() override;
 
     // The list replaces the pending names as a whole.
     void SetPropertyList(const QList<QString>& names);
-    // Adds names not already pending, after the pending ones.
+    // Adds names not already pending, after the pending ones (any thread).
     void appendPropertyList(const QList<QString>& names);
     // Next pending name, or an empty string.
     QString getProperty();
-    void setRunningFlag(bool running) { m_bRunning = running; }
     int pendingCount();
+
+signals:
+    void nodeRead(CFeatureNodeInfo info);
 
 protected:
     void run() override;
+    void requestStop() override;
 
 private:
-    CPropertyFeaturesForm* m_pForm;   // not owned
-    QList<QString> m_listProperty;
+    CFeatureFormCamera::Ptr m_camera;
+    QList<QString> m_listProperty;   // guarded by m_mutex
+    bool m_bStopped = false;         // guarded by m_mutex
     QMutex m_mutex;
-    std::atomic<bool> m_bRunning{true};
+    QWaitCondition m_wake;
 };

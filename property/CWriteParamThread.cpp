@@ -2,9 +2,22 @@
 
 #include "Tavlog4cpp/TavLogMacros.h"
 
-CWriteParamThread::CWriteParamThread(QObject* parent) : QThread(parent) {}
+namespace {
+const int kContinuationTypeId = qRegisterMetaType<CWriteContinuation>("CWriteContinuation");
+}
 
-void CWriteParamThread::addJob(const std::function<void()>& job)
+CWriteParamThread::CWriteParamThread(QObject* parent) : CRetiringThread(parent)
+{
+    Q_UNUSED(kContinuationTypeId);
+}
+
+CWriteParamThread::~CWriteParamThread()
+{
+    stop();
+    wait();
+}
+
+void CWriteParamThread::addJob(const Job& job)
 {
     QMutexLocker lock(&m_mutex);
     m_jobs.enqueue(job);
@@ -30,7 +43,7 @@ void CWriteParamThread::run()
     LOG_DEBUG("CWriteParamThread run begin");
     for (;;)
     {
-        std::function<void()> job;
+        Job job;
         {
             QMutexLocker lock(&m_mutex);
             while (m_bRunning && m_jobs.isEmpty())
@@ -39,7 +52,9 @@ void CWriteParamThread::run()
                 break;
             job = m_jobs.dequeue();
         }
-        job();
+        const CWriteContinuation continuation = job();
+        if (continuation)
+            emit jobDone(continuation);
     }
     LOG_DEBUG("CWriteParamThread run end");
 }

@@ -1,18 +1,22 @@
 // The features page against an in-process simulated camera: the rows the
 // builders make, writes with their checks and read-back, commands held by
 // the camera, camera-side updates, re-labelling without rebuilding, the
-// search and level, and a camera that goes away while the tree loads.
+// search and level, a camera that goes away while the tree loads, and a
+// page closed while its workers wait on the camera.
 // GLib headers come before Qt's: Qt defines "signals" as a keyword.
 #include <arv.h>
 #include "FakeCameraRig.h"
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTextEdit>
 #include <QTreeWidget>
 #include <QtTest>
 
+#include "CAravisCamera.h"
 #include "CCommandParamDoneStatusThread.h"
+#include "CWriteParamThread.h"
 #include "CConfiguration.h"
 #include "CUpdateParamThread.h"
 #include "CDeviceManager.h"
@@ -54,6 +58,7 @@ private slots:
     void searchAndSharedLevel();
     void relabelWithoutRebuilding();
     void cameraGoneWhileLoading();
+    void closingNeverWaitsForTheCamera();
 
 private:
     CPropertyFeaturesForm* newForm();
@@ -477,6 +482,71 @@ void TestFeaturesForm::cameraGoneWhileLoading()
     QVERIFY(!form->isLoadingGenParams());
     QVERIFY(form->featureNames().isEmpty());
     form.reset();
+}
+
+void TestFeaturesForm::closingNeverWaitsForTheCamera()
+{
+    Vorlen::GenICam::CAravisCamera* camera = Vorlen::GenICam::toAravisCamera(m_device->getDevice());
+    QVERIFY(camera);
+
+    // A loaded page with every worker busy: a command the camera holds, a
+    // refused write stuck behind this thread's hold on the camera, a
+    // refresh waiting. Closing returns while this thread holds the camera
+    // (any wait for a worker would never end).
+    {
+        CPropertyFeaturesForm* form = newForm();
+        QSignalSpy shown(form, &CPropertyFeaturesForm::showGenParamFinish);
+        QVERIFY(shown.wait(20000));
+        QtProperty* hold = form->findProperty("TestHoldCommand");
+        QVERIFY(hold);
+        form->managers().command->click(hold, false);
+        QTRY_VERIFY_WITH_TIMEOUT(!hold->isDone(), 5000);
+        QPointer<QThread> workers[] = {form->loadThread(), form->updateThread(), form->commandThread(),
+                                       form->writeThread()};
+        {
+            std::unique_lock<std::recursive_mutex> cameraLock(camera->gcMutex());
+            // Width 321 breaks its increment: a delivered result would show a message.
+            form->managers().integer->setValue(form->findProperty("Width"), 321);
+            QTRY_COMPARE(form->writeThread()->pendingCount(), 0);   // taken, inside the camera call
+            form->updateThread()->appendPropertyList({"Height", "Gain"});
+            delete form;
+            for (const QPointer<QThread>& worker : workers)
+                if (worker)
+                    QVERIFY(!worker->parent());
+        }
+        for (const QPointer<QThread>& worker : workers)
+            QTRY_VERIFY_WITH_TIMEOUT(worker.isNull(), 10000);
+        QTest::qWait(50);   // anything still queued would arrive now
+        QVERIFY2(m_messages.isEmpty(), qPrintable(m_messages.value(0).text));
+        // Release the command for the pages after this one.
+        const guint32 zero = 0;
+        arv_fake_camera_write_memory(m_rig.fake(m_cam), 0x4000, 4, &zero);
+    }
+
+    // A page closed while its tree loads: the loader stops at the next node
+    // once the camera answers again, and no tree is delivered.
+    {
+        auto nodes = std::make_shared<std::atomic<int>>(0);
+        auto* form = new CPropertyFeaturesForm(m_device);
+        form->setLoadProbe([nodes](int read) {
+            *nodes = read;
+            return true;
+        });
+        QPointer<QThread> loader(form->loadThread());
+        QTRY_VERIFY_WITH_TIMEOUT(*nodes > 0, 20000);
+        int atClose = 0;
+        {
+            std::unique_lock<std::recursive_mutex> cameraLock(camera->gcMutex());
+            atClose = *nodes;
+            delete form;
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(loader.isNull(), 10000);
+        QVERIFY2(*nodes <= atClose + 1, qPrintable(QString("%1 nodes read after closing").arg(*nodes - atClose)));
+    }
+
+    // The first page still works: its own workers were never touched.
+    QVERIFY(m_form->isLoaded());
+    QVERIFY(m_messages.isEmpty());
 }
 
 QTEST_MAIN(TestFeaturesForm)
