@@ -23,12 +23,18 @@ CParamFileController::CParamFileController(QWidget* dialogParent, QObject* paren
 CParamFileController::~CParamFileController()
 {
     CDeviceManager::getInstance()->detach(this);
+    // A worker under way may be inside a feature write: it stops at the next
+    // feature and deletes itself. Its report (a load ends as stopped, never
+    // as loaded) is dropped with this controller's connections, so nothing
+    // is announced and no device takes the file as its current one.
     for (CParamFileThread* t : {static_cast<CParamFileThread*>(m_load), static_cast<CParamFileThread*>(m_save)})
         if (t)
         {
-            t->stop();
-            t->wait();
+            disconnect(t, nullptr, this, nullptr);
+            t->retire();
         }
+    m_load = nullptr;
+    m_save = nullptr;
     delete m_wait;
 }
 

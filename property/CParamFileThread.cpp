@@ -2,7 +2,13 @@
 
 #include "CTavDevice.h"
 
-CParamFileThread::CParamFileThread(const QString& path, QObject* parent) : QThread(parent), m_path(path) {}
+CParamFileThread::CParamFileThread(const QString& path, QObject* parent) : CRetiringThread(parent), m_path(path) {}
+
+CParamFileThread::~CParamFileThread()
+{
+    stop();
+    wait();
+}
 
 bool CParamFileThread::keepGoing(const CTavDevicePtr& device) const
 {

@@ -62,6 +62,7 @@ private slots:
     void paramFileReportsWhatDidNotLoad();
     void paramFileStopsWhenCameraIsLost();
     void workerRetiresWithoutWaiting();
+    void paramFileLoadCutByClosing();
     void screenshots();
 
 private:
@@ -586,6 +587,48 @@ void TestPropertyPanel::workerRetiresWithoutWaiting()
     QVERIFY(ended->wait(10000));
     ended->retire();
     QTRY_VERIFY(ended.isNull());
+}
+
+void TestPropertyPanel::paramFileLoadCutByClosing()
+{
+    // A load whose worker waits on the camera (held here) when its
+    // controller closes: closing returns at once, the worker stops and goes,
+    // and nothing is reported as loaded.
+    const CTavDevicePtr dev = m_dev[0];
+    QVERIFY(dev->isConnected());
+    Vorlen::GenICam::CAravisCamera* camera = Vorlen::GenICam::toAravisCamera(dev->getDevice());
+    QVERIFY(camera);
+    const QString path = m_dir.filePath("cut.txt");
+    QByteArray text = QByteArray(CDeviceParamFile::magic()) + "\n";
+    for (int i = 0; i < 50; ++i)
+        text += "ReverseX=" + QByteArray::number(i % 2) + "\n";
+    QVERIFY(writeAll(path, text));
+    const QString report = m_dir.filePath("cut-report.log");
+    QFile::remove(report);
+    const QString fileBefore = dev->getCurFile();
+    auto shown = std::make_shared<QStringList>();
+
+    auto* ctl = new CParamFileController(nullptr);
+    ctl->setEnvironment(readyEnv());
+    ctl->setReportPath(report);
+    ctl->setMessageHandler([shown](const QString& t, QMessageBox::Icon, const QString&) { shown->append(t); });
+    QPointer<CParamFileLoadThread> worker;
+    {
+        std::unique_lock<std::recursive_mutex> cameraLock(camera->gcMutex());
+        QVERIFY(ctl->loadFile(dev->getDeviceKey(), path));
+        worker = ctl->findChild<CParamFileLoadThread*>();
+        QVERIFY(worker);
+        delete ctl;   // a wait here would never end: this thread holds the camera
+        QVERIFY(worker);
+        QVERIFY(!worker->parent());
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(worker.isNull(), 30000);
+    QTest::qWait(50);   // anything still queued would arrive now
+    QVERIFY2(shown->isEmpty(), qPrintable(shown->value(0)));
+    QCOMPARE(dev->getCurFile(), fileBefore);
+    // The report, when written, tells of a stopped load.
+    if (QFile::exists(report))
+        QVERIFY(QString::fromUtf8(readAll(report)).contains("stopped", Qt::CaseInsensitive));
 }
 
 void TestPropertyPanel::screenshots()
