@@ -62,22 +62,25 @@ void AccessStatusThread::run()
             camera = m_spCamera;
         }
 
-        ECameraAccessPermission permission = accessPermissionUnknown;
-        if (camera.get() == nullptr)
-        {
-            LOG_ERROR("m_spCamera.get() is NULL!");
-        }
-        else
-        {
-            CInternalGigECameraInfo info(camera);
-            if (!info.getAccessPermission(permission))
-            {
-                LOG_ERROR("getAccessPermission [%s] fail. [%s]", camera->getKey().c_str(),
-                          GetErrorDesc().toLocal8Bit().constData());
-                permission = accessPermissionUnknown;
-            }
-        }
-        emit signalRefreshAccessStatus(permission);
+        emit signalRefreshAccessStatus(readPermission(camera));
     }
     LOG_DEBUG("AccessStatusThread run end");
+}
+
+ECameraAccessPermission AccessStatusThread::readPermission(const Vorlen::Memory::TSharedPtr<CInternalCamera>& camera)
+{
+    ECameraAccessPermission permission = accessPermissionUnknown;
+    if (camera.get() == nullptr)
+    {
+        LOG_ERROR("m_spCamera.get() is NULL!");
+        return permission;
+    }
+    CInternalGigECameraInfo info(camera);
+    if (!info.getAccessPermission(permission))
+    {
+        LOG_ERROR("getAccessPermission [%s] fail. [%s]", camera->getKey().c_str(),
+                  GetErrorDesc().toLocal8Bit().constData());
+        permission = accessPermissionUnknown;
+    }
+    return permission;
 }

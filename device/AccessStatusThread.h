@@ -30,6 +30,10 @@ signals:
 protected:
     void run() override;
     void requestStop() override;
+    // One camera round trip (no camera: accessPermissionUnknown); tests
+    // put a blocking one in.
+    virtual Vorlen::GenICam::ECameraAccessPermission readPermission(
+        const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalCamera>& camera);
 
 private:
     QMutex m_mutex;

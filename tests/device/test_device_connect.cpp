@@ -5,8 +5,12 @@
 #include <arv.h>
 #include "FakeCameraRig.h"
 #include <cstring>
+#include <QPointer>
+#include <QSemaphore>
 #include <QtTest>
+#include <atomic>
 
+#include "AccessStatusThread.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDeviceResetThread.h"
@@ -38,6 +42,7 @@ private slots:
     void busMessagesFromDeviceSignals();
     void streamNeedsConnection();
     void nameUsesCachedUserId();
+    void accessRefreshDuringReadIsCarriedOut();
 
 private:
     // Puts a user id straight into the simulated camera's memory, behind
@@ -49,6 +54,27 @@ private:
     CTavDevicePtr m_device;
     QString m_key;
 };
+
+namespace {
+// A permission read that waits until the test lets it answer.
+class CBlockingAccessThread : public AccessStatusThread
+{
+public:
+    QSemaphore entered, release;
+    std::atomic<int> reads{0};
+    ECameraAccessPermission answer = accessPermissionOpen;
+
+protected:
+    ECameraAccessPermission readPermission(const Vorlen::Memory::TSharedPtr<CInternalCamera>&) override
+    {
+        ++reads;
+        const ECameraAccessPermission read = answer;   // what the camera said when asked
+        entered.release();
+        release.acquire();
+        return read;
+    }
+};
+} // namespace
 
 void TestDeviceConnect::initTestCase()
 {
@@ -390,6 +416,60 @@ void TestDeviceConnect::nameUsesCachedUserId()
     QCOMPARE(name(), plain);
     QVERIFY(m_device->cachedUserId().isEmpty());
     setCameraUserId("");
+}
+
+void TestDeviceConnect::accessRefreshDuringReadIsCarriedOut()
+{
+    const Vorlen::Memory::TSharedPtr<CInternalCamera> camera = m_device->getInternalDevice();
+    // Asked again twice while a read runs: one more read follows it.
+    {
+        CBlockingAccessThread thread;
+        QueuedSignalSpy answered(&thread, &AccessStatusThread::signalRefreshAccessStatus);
+        QVERIFY(thread.RefreshAccessStatus(camera));
+        QVERIFY(thread.entered.tryAcquire(1, 10000));
+        thread.answer = accessPermissionControl;   // the second read sees the change
+        QVERIFY(thread.RefreshAccessStatus(camera));
+        QVERIFY(thread.RefreshAccessStatus(camera));
+        thread.release.release();
+        QVERIFY(thread.entered.tryAcquire(1, 10000));
+        thread.release.release();
+        QTRY_COMPARE_WITH_TIMEOUT(answered.count(), 2, 10000);
+        QVERIFY(thread.wait(10000));
+        QCOMPARE(thread.reads.load(), 2);
+        QCOMPARE(answered.at(0).at(0).value<ECameraAccessPermission>(), accessPermissionOpen);
+        QCOMPARE(answered.at(1).at(0).value<ECameraAccessPermission>(), accessPermissionControl);
+        // An idle thread starts again.
+        QVERIFY(thread.RefreshAccessStatus(camera));
+        QVERIFY(thread.entered.tryAcquire(1, 10000));
+        thread.release.release();
+        QTRY_COMPARE_WITH_TIMEOUT(answered.count(), 3, 10000);
+    }
+    // Retired inside a read: returns at once, the pending read is dropped,
+    // the thread goes once the read returns and its answer reaches nobody.
+    {
+        auto* owner = new QObject;
+        auto* thread = new CBlockingAccessThread;
+        thread->setParent(owner);
+        QPointer<AccessStatusThread> alive(thread);
+        bool delivered = false;
+        connect(thread, &AccessStatusThread::signalRefreshAccessStatus, owner, [&]() { delivered = true; },
+                Qt::QueuedConnection);
+        QVERIFY(thread->RefreshAccessStatus(camera));
+        QVERIFY(thread->entered.tryAcquire(1, 10000));
+        QVERIFY(thread->RefreshAccessStatus(camera));
+        QSemaphore* release = &thread->release;
+        std::atomic<int>* reads = &thread->reads;
+        // As the device's destructor: the thread, its child, is retired and
+        // then the owner goes.
+        thread->retire();
+        delete owner;
+        QVERIFY(alive);
+        QVERIFY(!thread->RefreshAccessStatus(camera));
+        QCOMPARE(reads->load(), 1);
+        release->release();
+        QTRY_VERIFY_WITH_TIMEOUT(alive.isNull(), 10000);
+        QVERIFY(!delivered);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestDeviceConnect)

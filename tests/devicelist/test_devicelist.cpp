@@ -4,6 +4,7 @@
 // user ID, a camera that goes away, and the persistent IP worker.
 // GLib headers come before Qt's: Qt defines "signals" as a keyword.
 #include "FakeCameraRig.h"
+#include "QueuedSignalSpy.h"
 #include <QClipboard>
 #include <QLineEdit>
 #include <QStandardPaths>
@@ -479,7 +480,7 @@ void TestDeviceList::persistentIpWrittenToCamera()
         QFAIL("arv-tool-0.8 is missing (package aravis-tools): it reads the written values back");
     CTavDevicePtr device = deviceOf(1);
     CSetIpThread worker;
-    QSignalSpy ended(&worker, &CSetIpThread::signalSetIpEnd);
+    QueuedSignalSpy ended(&worker, &CSetIpThread::signalSetIpEnd);
     worker.start();
     worker.startSetIp(device->getDeviceKey(), "192.168.7.20", "255.255.255.0", "192.168.7.1");
     QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 15000);

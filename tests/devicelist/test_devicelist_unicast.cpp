@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include "CConfiguration.h"
+#include "QueuedSignalSpy.h"
 #include "CDiscoveryDevicesForm.h"
 #include "CDiscoveryDevicesThread.h"
 #include "CUnicastDlg.h"
@@ -193,7 +194,7 @@ void TestDeviceListUnicast::silentAddressIsReported()
 {
     MainWindow window{QString()};
     BoxAnswerer answerer;
-    QSignalSpy result(CDiscoveryDevicesThread::getInstance(), &CDiscoveryDevicesThread::discoveryDevicesFinished);
+    QueuedSignalSpy result(CDiscoveryDevicesThread::getInstance(), &CDiscoveryDevicesThread::discoveryDevicesFinished);
     QVERIFY(addRemote("10.77.2.9"));
     QTRY_COMPARE_WITH_TIMEOUT(answerer.texts, QStringList({"Add remote device failed."}), 10000);
     QVERIFY(!result.isEmpty());
