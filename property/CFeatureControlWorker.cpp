@@ -18,7 +18,7 @@ bool SFeatureState::isBool() const { return type == int(CInternalParameterNode::
 bool SFeatureState::isCommand() const { return type == int(CInternalParameterNode::featureTypeCommand); }
 
 CFeatureControlWorker::CFeatureControlWorker(const Vorlen::Memory::TSharedPtr<ICamera>& camera, QObject* parent)
-    : QThread(parent), m_camera(camera)
+    : CRetiringThread(parent), m_camera(camera)
 {
     Q_UNUSED(kMetaTypeId);
 }
@@ -154,23 +154,6 @@ void CFeatureControlWorker::stop()
     m_wake.wakeAll();
 }
 
-void CFeatureControlWorker::retire()
-{
-    setParent(nullptr);
-    QMutexLocker lock(&m_mutex);
-    m_bRunning = false;
-    m_requests.clear();
-    // A loop that has ended (or never started) leaves nothing to wait for
-    // but the last instructions of run(), which the destructor's wait covers.
-    if (m_bLoopDone || !isRunning())
-    {
-        deleteLater();
-        return;
-    }
-    m_bRetired = true;
-    m_wake.wakeAll();
-}
-
 int CFeatureControlWorker::pendingCount()
 {
     QMutexLocker lock(&m_mutex);
@@ -192,12 +175,6 @@ void CFeatureControlWorker::run()
             request = m_requests.dequeue();
         }
         handle(request);
-    }
-    {
-        QMutexLocker lock(&m_mutex);
-        m_bLoopDone = true;
-        if (m_bRetired)
-            deleteLater();
     }
     LOG_DEBUG("CFeatureControlWorker run end");
 }

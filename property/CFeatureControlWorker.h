@@ -15,6 +15,7 @@
 #include <QWaitCondition>
 #include <atomic>
 
+#include "CRetiringThread.h"
 #include "Vorlen/GenICam.h"
 
 // What a control needs to know about one feature.
@@ -43,7 +44,7 @@ struct SFeatureState
 };
 Q_DECLARE_METATYPE(SFeatureState)
 
-class CFeatureControlWorker : public QThread
+class CFeatureControlWorker : public CRetiringThread
 {
     Q_OBJECT
 public:
@@ -64,10 +65,8 @@ public:
     void requestExecute(const QString& name);
     // Ends the loop after the request under way; waiting requests are dropped.
     void stop();
-    // For an owner that goes away: stops the worker and lets it delete
-    // itself once the request under way (a camera round trip) has ended,
-    // so the owner never waits for the camera. Nothing is reported after.
-    void retire();
+    // An owner that goes away calls retire(): the worker stops and deletes
+    // itself once the request under way (a camera round trip) has ended.
     int pendingCount();
 
 signals:
@@ -79,6 +78,7 @@ signals:
 
 protected:
     void run() override;
+    void requestStop() override { stop(); }
 
 private:
     enum EKind { kindRead, kindWrite, kindExecute };
@@ -95,6 +95,4 @@ private:
     QMutex m_mutex;
     QWaitCondition m_wake;
     std::atomic<bool> m_bRunning{true};
-    bool m_bRetired = false;   // guarded by m_mutex
-    bool m_bLoopDone = false;  // guarded by m_mutex
 };
