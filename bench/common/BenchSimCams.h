@@ -19,7 +19,7 @@
 namespace BenchSimCams {
 
 // A simulated camera process and how it was started.
-struct SCameraSpec
+struct SCameraSetup
 {
     QString address;
     QString serial;
@@ -53,9 +53,9 @@ inline QString simcamPath()
     return QCoreApplication::applicationDirPath() + "/lumidor-simcam";
 }
 
-// Starts one process per spec and waits until each has announced itself.
+// Starts one process per camera setup and waits until each has announced itself.
 // On failure prints why, and the processes started so far stay in out.
-inline bool startCameras(const std::vector<SCameraSpec>& specs, std::vector<std::unique_ptr<QProcess>>& out,
+inline bool startCameras(const std::vector<SCameraSetup>& setups, std::vector<std::unique_ptr<QProcess>>& out,
                          const char* who)
 {
     const QString simcam = simcamPath();
@@ -64,7 +64,7 @@ inline bool startCameras(const std::vector<SCameraSpec>& specs, std::vector<std:
         std::fprintf(stderr, "%s: %s not found\n", who, qPrintable(simcam));
         return false;
     }
-    for (const SCameraSpec& s : specs)
+    for (const SCameraSetup& s : setups)
     {
         if (s.address != "127.0.0.1" && !hasAddress(s.address))
         {

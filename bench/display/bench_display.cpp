@@ -309,7 +309,7 @@ int runCamera(const SOptions& o)
 {
     using namespace BenchSimCams;
     std::vector<std::unique_ptr<QProcess>> cams;
-    SCameraSpec camera;
+    SCameraSetup camera;
     camera.address = o.address;
     camera.serial = QStringLiteral("BENCHDISP1");
     camera.fps = 60.0;

@@ -179,27 +179,27 @@ int main(int argc, char** argv)
             firstAddress = qBound(1, args[i + 1].toInt(), 250);
     }
 
-    std::vector<SCameraSpec> specs;
+    std::vector<SCameraSetup> setups;
     QStringList serials;
     for (int i = 0; i < cameras; ++i)
     {
-        SCameraSpec s;
+        SCameraSetup s;
         s.address = QString("127.0.0.%1").arg(firstAddress + i);
         s.serial = QString("STALL%1").arg(i + 1, 2, 10, QChar('0'));
         s.fps = fps;
-        specs.push_back(s);
+        setups.push_back(s);
         serials.append(s.serial);
     }
     std::vector<std::unique_ptr<QProcess>> processes;
-    if (!startCameras(specs, processes, "bench_gui_stall"))
+    if (!startCameras(setups, processes, "bench_gui_stall"))
     {
         stopCameras(processes);
         return 1;
     }
 
     CConfiguration* cfg = CConfiguration::getInstance();
-    std::printf("bench_gui_stall: %d camera(s) %dx%d %s at %.0f fps, heartbeat %u ms\n", cameras, specs[0].width,
-                specs[0].height, qPrintable(specs[0].pixelFormat), fps, unsigned(cfg->iHeartbeatIval));
+    std::printf("bench_gui_stall: %d camera(s) %dx%d %s at %.0f fps, heartbeat %u ms\n", cameras, setups[0].width,
+                setups[0].height, qPrintable(setups[0].pixelFormat), fps, unsigned(cfg->iHeartbeatIval));
 
     std::vector<CTavDevicePtr> devices;
     if (!findDevices(serials, devices, 20000, "bench_gui_stall"))
