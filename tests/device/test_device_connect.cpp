@@ -62,7 +62,7 @@ class CBlockingAccessThread : public AccessStatusThread
 public:
     QSemaphore entered, release;
     std::atomic<int> reads{0};
-    ECameraAccessPermission answer = accessPermissionOpen;
+    std::atomic<ECameraAccessPermission> answer{accessPermissionOpen};
 
 protected:
     ECameraAccessPermission readPermission(const Vorlen::Memory::TSharedPtr<CInternalCamera>&) override
