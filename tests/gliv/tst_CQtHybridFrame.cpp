@@ -139,6 +139,7 @@ class TestHybridFrame : public QObject
 
 private slots:
     void rawCopyAndMono8Padding();
+    void rawBuffersReused();
     void monoWideScaledAndClamped();
     void monoPacked();
     void bayerAllPatternsAndPackings();
@@ -149,6 +150,27 @@ private slots:
     void jpegPayload();
     void invalidInputAndChunk();
 };
+
+// A stream in steady state allocates no frame-size memory: the raw buffer of
+// a released frame is handed to the next frame of that size, never to one
+// still held, and each frame keeps its own pixels.
+void TestHybridFrame::rawBuffersReused()
+{
+    const uint32_t w = 96, h = 64;   // a size no other test uses
+    Bytes first(w * h, 0x11), second(w * h, 0x22);
+    const unsigned char* released = nullptr;
+    {
+        FramePtr a = makeFrame(PF::Mono8, w, h, first);
+        released = a->getRawData();
+    }
+    FramePtr b = makeFrame(PF::Mono8, w, h, second);
+    QCOMPARE(b->getRawData(), released);
+    FramePtr c = makeFrame(PF::Mono8, w, h, first);
+    QVERIFY(c->getRawData() != b->getRawData());
+    QCOMPARE(int(b->getRawData()[0]), 0x22);
+    QCOMPARE(int(c->getRawData()[w * h - 1]), 0x11);
+    QCOMPARE(b->getRawDataSize(), uint64_t(w * h));
+}
 
 void TestHybridFrame::rawCopyAndMono8Padding()
 {

@@ -1,4 +1,8 @@
 #include "Gliv/CQtHybridFrame.h"
+
+#include <cstring>
+
+#include "Gliv/CRawBufferPool.h"
 #include "Gliv/PixelFormats.h"
 #include "PixelUnpack.h"
 
@@ -219,17 +223,18 @@ CQtHybridFrame::CQtHybridFrame(const SFrameInfo& info)
     m_info.rawData = nullptr;
     if (info.rawData && info.imageSize > 0 && info.imageSize <= uint64_t(INT_MAX)) {
         try {
-            m_raw = QByteArray(reinterpret_cast<const char*>(info.rawData), int(info.imageSize));
-            m_info.rawData = reinterpret_cast<const unsigned char*>(m_raw.constData());
+            m_raw = CRawBufferPool::instance().acquire(size_t(info.imageSize));
+            std::memcpy(m_raw->data(), info.rawData, size_t(info.imageSize));
+            m_info.rawData = m_raw->data();
         } catch (...) {
-            m_raw.clear();
+            m_raw.reset();
             m_info.imageSize = 0;
         }
     } else {
         m_info.imageSize = 0;
     }
     SLayout layout;
-    m_layoutValid = m_info.payloadType != payloadTypeJpeg && checkLayout(m_info, size_t(m_raw.size()), layout);
+    m_layoutValid = m_info.payloadType != payloadTypeJpeg && checkLayout(m_info, getRawDataSize(), layout);
 }
 
 CQtHybridFrame::~CQtHybridFrame() = default;
@@ -264,8 +269,8 @@ void CQtHybridFrame::convert() const
     m_convertedHeight = 0;
     m_converted.clear();
 
-    const uint8_t* raw = reinterpret_cast<const uint8_t*>(m_raw.constData());
-    const size_t rawSize = size_t(m_raw.size());
+    const uint8_t* raw = getRawData();
+    const size_t rawSize = size_t(getRawDataSize());
     if (rawSize == 0)
         return;
 
@@ -399,12 +404,12 @@ EConvertedPixelType CQtHybridFrame::getConvertedPixelType() const
 
 const unsigned char* CQtHybridFrame::getRawData() const
 {
-    return reinterpret_cast<const unsigned char*>(m_raw.constData());
+    return m_raw ? m_raw->data() : nullptr;
 }
 
 uint64_t CQtHybridFrame::getRawDataSize() const
 {
-    return uint64_t(m_raw.size());
+    return m_raw ? uint64_t(m_raw->size()) : 0;
 }
 
 uint64_t CQtHybridFrame::getBlockId() const

@@ -14,7 +14,9 @@
 #include <QSharedPointer>
 #include <atomic>
 #include <cstdint>
+#include <memory>
 #include <mutex>
+#include <vector>
 
 namespace Gliv {
 
@@ -91,7 +93,8 @@ private:
     void convert() const;
 
     SFrameInfo m_info;
-    QByteArray m_raw;
+    // The raw pixels, in a buffer of the shared pool.
+    std::shared_ptr<std::vector<uint8_t>> m_raw;
     bool m_layoutValid = false;     // raw data complete for its format (non-JPEG)
     QByteArray m_chunk;
 
