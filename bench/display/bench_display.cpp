@@ -34,6 +34,7 @@
 #include <vector>
 
 #include "../common/BenchSimCams.h"
+#include "../common/BenchStats.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CMultiVideoForm.h"
@@ -63,15 +64,7 @@ qint64 threadCpuNs()
     return qint64(ts.tv_sec) * 1000000000 + ts.tv_nsec;
 }
 
-void percentiles(std::vector<qint64> ns, double& median, double& p99)
-{
-    median = p99 = 0.0;
-    if (ns.empty())
-        return;
-    std::sort(ns.begin(), ns.end());
-    median = ns[ns.size() / 2] / 1e6;
-    p99 = ns[std::min(ns.size() - 1, size_t(double(ns.size()) * 0.99))] / 1e6;
-}
+using BenchStats::percentiles;
 
 // Longest gap of the event loop beyond a 5 ms timer's period.
 class StallMeter : public QObject

@@ -27,6 +27,7 @@
 #include <vector>
 
 #include "../common/BenchSimCams.h"
+#include "../common/BenchStats.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CTavDevice.h"
@@ -79,15 +80,7 @@ QString serial(int i)
 
 using BenchSimCams::hasAddress;
 
-void percentiles(std::vector<qint64> ns, double& median, double& p99)
-{
-    median = p99 = 0.0;
-    if (ns.empty())
-        return;
-    std::sort(ns.begin(), ns.end());
-    median = ns[ns.size() / 2] / 1e6;
-    p99 = ns[std::min(ns.size() - 1, size_t(double(ns.size()) * 0.99))] / 1e6;
-}
+using BenchStats::percentiles;
 
 using BenchSimCams::pump;
 
