@@ -214,7 +214,7 @@ void CDeviceManager::on_discoveryDevicesFinished(bool ok)
         }
         else
         {
-            device = CTavDevice::create(this);
+            device = CTavDevice::create();
             Vorlen::Memory::TSharedPtr<ICamera> handle = camera;
             device->setDevice(handle);
             device->init();

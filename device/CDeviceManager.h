@@ -9,11 +9,10 @@
 
 #include "CSubject.h"
 #include "CTavMessage.h"
-#include "IMsgSink.h"
 
 class CDiscoveryDevicesThread;
 
-class CDeviceManager : public QObject, public IMsgSink
+class CDeviceManager : public QObject
 {
     Q_OBJECT
 public:
@@ -57,8 +56,6 @@ public slots:
     void on_Device_Msg_Channel(const Vorlen::GenICam::SMsgChannelArg arg, QString key);
     void on_Device_Status_Changed(EN_MESSAGE_TYPE type, CTavDevicePtr device);
 
-protected:
-    QObject* sinkObject() override { return this; }
 
 private:
     CDeviceManager();

@@ -23,9 +23,9 @@ QByteArray errorText()
 }
 }
 
-CTavDevicePtr CTavDevice::create(IMsgSink* sink)
+CTavDevicePtr CTavDevice::create()
 {
-    return CTavDevicePtr(new CTavDevice(sink), [](CTavDevice* device) {
+    return CTavDevicePtr(new CTavDevice(), [](CTavDevice* device) {
         // A QObject is deleted on its own thread; a last reference dropped on
         // a worker or library thread hands the deletion over.
         if (QThread::currentThread() == device->thread())
@@ -35,7 +35,7 @@ CTavDevicePtr CTavDevice::create(IMsgSink* sink)
     });
 }
 
-CTavDevice::CTavDevice(IMsgSink* sink) : QObject(nullptr), m_pMsgSink(sink)
+CTavDevice::CTavDevice() : QObject(nullptr)
 {
     registerMessageMetaTypes();
     registerFrameMetaTypes();

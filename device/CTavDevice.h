@@ -12,7 +12,6 @@
 #include <functional>
 
 #include "CTavMessage.h"
-#include "IMsgSink.h"
 #include "StreamRetrieveThread.h"
 #include "Vorlen/GenICam.h"
 
@@ -25,9 +24,9 @@ class CTavDevice : public QObject, public Vorlen::Memory::TEnableSharedFromThis<
 public:
     // A device owned by a CTavDevicePtr whose last release deletes the object
     // on its own thread (deleteLater when released elsewhere).
-    static CTavDevicePtr create(IMsgSink* sink);
+    static CTavDevicePtr create();
 
-    explicit CTavDevice(IMsgSink* sink);
+    CTavDevice();
     ~CTavDevice() override;
 
     // ---- life cycle
@@ -36,7 +35,6 @@ public:
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalCamera> getInternalDevice() const;
     void getDeviceKey(QString& key) const;
     QString getDeviceKey() const;
-    IMsgSink* getMsgSink() const { return m_pMsgSink; }
     // Wires the workers, the stream thread and the configuration to the device.
     void init();
 
@@ -218,7 +216,6 @@ private:
     bool isGigE() const;
     bool isUsb() const;
 
-    IMsgSink* m_pMsgSink = nullptr;
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera> m_spCamera;
     QString m_strKey;
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager> m_ptrEventManager;

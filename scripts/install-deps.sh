@@ -4,7 +4,7 @@
 set -euo pipefail
 
 PACKAGES=(
-  build-essential cmake ninja-build pkg-config
+  build-essential cmake ninja-build pkg-config ccache
   qtbase5-dev qtbase5-dev-tools libqt5svg5-dev
   qttools5-dev qttools5-dev-tools qttranslations5-l10n fonts-wqy-microhei
   libaravis-dev aravis-tools-cli libusb-1.0-0-dev

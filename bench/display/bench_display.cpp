@@ -162,7 +162,7 @@ int runSynthetic(const SOptions& o)
     // Views look bound, so their bars show as in use.
     std::vector<CTavDevicePtr> devices;
     for (int i = 0; i < views; ++i) {
-        devices.push_back(CTavDevice::create(nullptr));
+        devices.push_back(CTavDevice::create());
         multi->getForm(i)->setDevice(devices.back());
     }
     BenchSimCams::pump(500);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes property/ParamTransTables.cpp and property/i18n/property_tables_zh_CN.ts from the
+"""Writes property/worker/ParamTransTables.cpp and property/i18n/property_tables_zh_CN.ts from the
 three tables beside this script. Run it after editing a table and commit both outputs; the
 build itself never runs Python.
 
@@ -279,7 +279,7 @@ def write_cpp():
                "    g_mapNameToDespTrans.clear();\n"
                "    g_mapNameToValueTransMap.clear();\n"
                "}\n")
-    with open(os.path.join(PROPERTY, "ParamTransTables.cpp"), "w", encoding="utf-8") as f:
+    with open(os.path.join(PROPERTY, "worker", "ParamTransTables.cpp"), "w", encoding="utf-8") as f:
         f.write("".join(out))
 
 

@@ -9,7 +9,6 @@
 #include <memory>
 
 #include "CSubject.h"
-#include "IMsgSink.h"
 
 using Vorlen::GenICam::SMsgChannelArg;
 using Vorlen::GenICam::SParamUpdataArg;
@@ -98,26 +97,6 @@ public slots:
         QMutexLocker lock(&mutex);
         got << QString::number(msg->type) + (device.isNull() ? "/null" : "/set");
     }
-};
-
-class Sink : public QObject, public IMsgSink
-{
-    Q_OBJECT
-public:
-    bool handle = true;
-    QList<QList<unsigned long long>> events;
-    bool event(QEvent* e) override
-    {
-        if (handle && e->type() == CustomEvent::kType) {
-            auto* c = static_cast<CustomEvent*>(e);
-            events << QList<unsigned long long>{c->id, c->param1, c->param2, c->param3, c->param4};
-            return true;
-        }
-        return QObject::event(e);
-    }
-
-protected:
-    QObject* sinkObject() override { return this; }
 };
 
 class TestCoreBus : public QObject
@@ -270,25 +249,6 @@ private slots:
         QVERIFY(thread.wait(10000));
         QCOMPARE(receiver.got, (QStringList{QStringLiteral("cam-1/k/2"), QStringLiteral("Gain/77/EventExposureEnd/11"),
                                             QStringLiteral("7/null")}));
-    }
-
-    void sinkPostsAndSends()
-    {
-        Sink sink;
-        sink.postMsg(7, 1, 2, 3, 0xFFFFFFFFFFFFFFFFULL);
-        QCOMPARE(sink.events.size(), 0);
-        QTRY_COMPARE(sink.events.size(), 1);
-        QCOMPARE(sink.events.at(0), (QList<unsigned long long>{7, 1, 2, 3, 0xFFFFFFFFFFFFFFFFULL}));
-
-        QVERIFY(sink.sendMsg(8, 4, 5, 6, 7));
-        QCOMPARE(sink.events.size(), 2);
-        QCOMPARE(sink.events.at(1), (QList<unsigned long long>{8, 4, 5, 6, 7}));
-
-        // Without a handler of its own the event falls to QObject's default.
-        sink.handle = false;
-        QVERIFY(sink.sendMsg(9, 0, 0, 0, 0));
-        QCOMPARE(sink.events.size(), 2);
-        QCOMPARE(int(CustomEvent::kType), 1100);
     }
 };
 

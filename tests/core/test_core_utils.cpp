@@ -18,6 +18,7 @@
 
 #include "CCommonMessageBox.h"
 #include "StartupUtils.h"
+#include "MessageBox.h"
 #include "Utils.h"
 #include "Vorlen/Infra/Error.h"
 

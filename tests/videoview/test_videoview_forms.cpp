@@ -94,7 +94,7 @@ void TestVideoviewForms::initTestCase()
 {
     registerMessageMetaTypes();
     for (int i = 0; i < 17; ++i)
-        m_devices.push_back(CTavDevice::create(nullptr));
+        m_devices.push_back(CTavDevice::create());
 }
 
 void TestVideoviewForms::init()

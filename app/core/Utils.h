@@ -1,17 +1,14 @@
 #pragma once
 // Free functions shared by every part of the application: SDK error text,
-// conversions of integer feature values, feature visibility, enumerator texts
-// and the common message box. Includes the address helpers, the log sinks
-// and the style-sheet loader so one include brings them all.
-#include <QMessageBox>
+// conversions of integer feature values, feature visibility and enumerator
+// texts. Includes the address helpers, the log sinks and the style-sheet
+// loader so one include brings them all.
 #include <QString>
 
 #include "AddressUtils.h"
 #include "LogSinks.h"
 #include "StyleSheet.h"
 #include "Vorlen/GenICam/CInternalParameterNode.h"
-
-class QWidget;
 
 // Text of the calling thread's last camera-library error.
 QString GetErrorDesc();
@@ -31,8 +28,3 @@ bool isVisibilityShown(unsigned int visibility, unsigned int level);
 const char* GenStrNamespace(Vorlen::GenICam::CInternalParameterNode::ENameSpace nameSpace);
 const char* GenStrVisibility(Vorlen::GenICam::CInternalParameterNode::EVisibility visibility);
 const char* GenStrBool(bool value);
-
-// The application's message box, run modally; returns the button pressed
-// (a QMessageBox::StandardButton). path names a file the box offers to open.
-int messageBox(const QString& text, QWidget* parent, QMessageBox::StandardButtons buttons, QMessageBox::Icon icon,
-               const QString& path = QString());

@@ -43,10 +43,7 @@ int checkIp(std::string interfaceIp, std::string interfaceMask, std::string inte
 void splitStr(const char* text, const char* separator, std::vector<std::string>& parts);
 
 // Top-left corner for a pop-up of the size opened at pos so that it stays on
-// the screen: flipped above pos when it would run off the bottom, pulled in
-// from the right edge when it would run off the right (never below 0).
-QPoint getMenuPos(QPoint pos, QSize size);
-// Same, opened below the rectangle (flipped above it when there is no room).
-QPoint getMenuPos(QRect rect, QSize size);
-// The rule itself, against the given screen geometry.
+// the given screen: flipped above pos when it would run off the bottom,
+// pulled in from the right edge when it would run off the right (never
+// below 0). The widgets' getMenuPos(pos, size) applies it to the real screen.
 QPoint getMenuPos(QPoint pos, QSize size, const QRect& screen);

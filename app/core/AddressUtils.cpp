@@ -1,8 +1,6 @@
 #include "AddressUtils.h"
 
-#include <QGuiApplication>
 #include <QHostAddress>
-#include <QScreen>
 #include <QRegularExpression>
 #include <QStringList>
 #include <cstdio>
@@ -166,30 +164,5 @@ QPoint getMenuPos(QPoint pos, QSize size, const QRect& screen)
         result.setY(qMax(0, pos.y() - size.height()));
     if (pos.x() + size.width() > screen.width())
         result.setX(qMax(0, screen.x() + screen.width() - size.width()));
-    return result;
-}
-
-namespace {
-QRect screenGeometryAt(const QPoint& pos)
-{
-    QScreen* screen = QGuiApplication::screenAt(pos);
-    if (!screen)
-        screen = QGuiApplication::primaryScreen();
-    return screen ? screen->geometry() : QRect(0, 0, 1920, 1080);
-}
-} // namespace
-
-QPoint getMenuPos(QPoint pos, QSize size)
-{
-    return getMenuPos(pos, size, screenGeometryAt(pos));
-}
-
-QPoint getMenuPos(QRect rect, QSize size)
-{
-    const QRect screen = screenGeometryAt(rect.bottomLeft());
-    QPoint result = getMenuPos(rect.bottomLeft(), size, screen);
-    // Flipped: sit above the rectangle rather than above its bottom edge.
-    if (result.y() != rect.bottom())
-        result.setY(qMax(0, rect.top() - size.height()));
     return result;
 }

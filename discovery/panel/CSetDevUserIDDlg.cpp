@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 
+#include "MessageBox.h"
 #include "Utils.h"
 
 CSetDevUserIDDlg::CSetDevUserIDDlg(QWidget* parent) : CSingleFieldDlg(parent)

@@ -21,6 +21,7 @@
 #include "CTavDevice.h"
 #include "CWaitDlg.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "MessageBox.h"
 #include "Utils.h"
 #include "Vorlen/GenICam.h"
 

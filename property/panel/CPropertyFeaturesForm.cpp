@@ -22,11 +22,12 @@
 #include "CWriteParamThread.h"
 #include "ParamTransTables.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "MessageBox.h"
 #include "Utils.h"
-#include "qtpropertybrowser/DecoratedDoublePropertyManager.h"
-#include "qtpropertybrowser/QtPushButtonFactory.h"
-#include "qtpropertybrowser/qteditorfactory.h"
-#include "qtpropertybrowser/qttreepropertybrowser.h"
+#include "DecoratedDoublePropertyManager.h"
+#include "QtPushButtonFactory.h"
+#include "qteditorfactory.h"
+#include "qttreepropertybrowser.h"
 
 using namespace Vorlen::GenICam;
 using Node = CInternalParameterNode;

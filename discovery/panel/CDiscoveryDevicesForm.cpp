@@ -30,6 +30,8 @@
 #include "CUnicastDlg.h"
 #include "CWaitDlg.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "MenuPosition.h"
+#include "MessageBox.h"
 #include "Utils.h"
 #include "Vorlen/GenICam.h"
 

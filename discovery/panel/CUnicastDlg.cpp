@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 
+#include "MessageBox.h"
 #include "Utils.h"
 
 CUnicastDlg::CUnicastDlg(QWidget* parent) : CSingleFieldDlg(parent)

@@ -15,6 +15,7 @@
 #include "CTavDevice.h"
 #include "CVideoForm.h"
 #include "CVideoFullScreenWnd.h"
+#include "MessageBox.h"
 #include "Utils.h"
 #include "VideoLayout.h"
 

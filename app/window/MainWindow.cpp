@@ -29,6 +29,7 @@
 #include "CWaitDlg.h"
 #include "LumidorResources.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "MessageBox.h"
 #include "Utils.h"
 
 namespace {

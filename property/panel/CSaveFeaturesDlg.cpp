@@ -14,6 +14,7 @@
 #include "FramelessDialogLayout.h"
 #include "CTavDevice.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "MessageBox.h"
 #include "Utils.h"
 
 namespace {

@@ -3,7 +3,6 @@
 #include <QByteArray>
 #include <QHostAddress>
 
-#include "CCommonMessageBox.h"
 #include "Vorlen/Infra/Error.h"
 
 using Vorlen::GenICam::CInternalParameterNode;
@@ -96,15 +95,4 @@ const char* GenStrVisibility(CInternalParameterNode::EVisibility visibility)
 const char* GenStrBool(bool value)
 {
     return value ? "True" : "False";
-}
-
-int messageBox(const QString& text, QWidget* parent, QMessageBox::StandardButtons buttons, QMessageBox::Icon icon,
-               const QString& path)
-{
-    CCommonMessageBox box(parent);
-    box.setMessage(text);
-    box.setButtons(buttons);
-    box.setIcon(icon);
-    box.setFilePath(path);
-    return box.exec();
 }

@@ -3,8 +3,8 @@
 #include <QHostAddress>
 
 #include "ParamTransTables.h"
-#include "qtpropertybrowser/DecoratedDoublePropertyManager.h"
-#include "qtpropertybrowser/qtpropertymanager.h"
+#include "DecoratedDoublePropertyManager.h"
+#include "qtpropertymanager.h"
 
 using Node = Vorlen::GenICam::CInternalParameterNode;
 

@@ -10,6 +10,7 @@
 #include "CTavDevice.h"
 #include "CWaitDlg.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "MessageBox.h"
 #include "Utils.h"
 
 CParamFileController::CParamFileController(QWidget* dialogParent, QObject* parent)

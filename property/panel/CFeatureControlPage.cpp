@@ -19,6 +19,7 @@
 #include "CSpinBox.h"
 #include "CTavDevice.h"
 #include "ParamTransTables.h"
+#include "MessageBox.h"
 #include "Utils.h"
 
 namespace {

@@ -1,0 +1,14 @@
+#include "MessageBox.h"
+
+#include "CCommonMessageBox.h"
+
+int messageBox(const QString& text, QWidget* parent, QMessageBox::StandardButtons buttons, QMessageBox::Icon icon,
+               const QString& path)
+{
+    CCommonMessageBox box(parent);
+    box.setMessage(text);
+    box.setButtons(buttons);
+    box.setIcon(icon);
+    box.setFilePath(path);
+    return box.exec();
+}
