@@ -3,15 +3,12 @@
 #include <algorithm>
 #include <atomic>
 #include <cctype>
-#include <chrono>
-#include <condition_variable>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <thread>
-#include <vector>
 
-#include "AravisSystem.h"
+#include "CCameraConnector.h"
+#include "CDescriptionFetcher.h"
+#include "CForceIpSender.h"
+#include "CLossWatchdog.h"
+#include "CLostDeviceReleaser.h"
 #include "EventHub.h"
 #include "Gvcp.h"
 #include "MessageChannel.h"
@@ -27,7 +24,6 @@ using namespace Infra;
 namespace {
 
 constexpr unsigned int kMinHeartbeatMs = 2000;   // Aravis sends a heartbeat about every second
-constexpr uint32_t kCcpExclusive = 0x1;
 constexpr uint32_t kMessageTimeoutMs = 200;
 constexpr uint32_t kMessageRetries = 2;
 
@@ -37,17 +33,20 @@ struct SLostContext
     uint64_t generation = 0;
 };
 
+void postLost(const std::weak_ptr<CAravisCamera>& self, uint64_t generation)
+{
+    EventHub::post([self, generation] {
+        if (auto camera = self.lock())
+            camera->handleLost(generation);
+    });
+}
+
 void onControlLost(ArvDevice*, gpointer data)
 {
     // Aravis' heartbeat thread: hand the work to the event thread, which may
     // destroy the device (this thread cannot: the device joins it).
     const SLostContext* ctx = static_cast<const SLostContext*>(data);
-    std::weak_ptr<CAravisCamera> self = ctx->self;
-    const uint64_t generation = ctx->generation;
-    EventHub::post([self, generation] {
-        if (auto camera = self.lock())
-            camera->handleLost(generation);
-    });
+    postLost(ctx->self, ctx->generation);
 }
 
 void deleteLostContext(gpointer data, GClosure*)
@@ -60,50 +59,6 @@ std::string errorText(GError* error)
     return error && error->message ? error->message : "";
 }
 
-// "Local:name.xml;10000;3e67" -> name, address, size. False for other schemes.
-bool parseLocalUrl(const std::string& url, std::string& name, uint32_t& address, uint32_t& size)
-{
-    if (url.size() < 6)
-        return false;
-    std::string scheme = url.substr(0, 6);
-    for (char& c : scheme)
-        c = char(std::tolower(static_cast<unsigned char>(c)));
-    if (scheme != "local:")
-        return false;
-    const std::string rest = url.substr(6);
-    const std::string::size_type a = rest.find(';');
-    if (a == std::string::npos)
-        return false;
-    const std::string::size_type b = rest.find(';', a + 1);
-    if (b == std::string::npos)
-        return false;
-    name = rest.substr(0, a);
-    address = uint32_t(std::strtoul(rest.substr(a + 1, b - a - 1).c_str(), nullptr, 16));
-    size = uint32_t(std::strtoul(rest.substr(b + 1).c_str(), nullptr, 16));
-    return !name.empty() && size > 0;
-}
-
-std::string fileNameOfUrl(const std::string& url)
-{
-    std::string name;
-    uint32_t address = 0, size = 0;
-    if (parseLocalUrl(url, name, address, size)) {
-        // "Local:///name.xml;..." and "Local:name.xml;..." both occur.
-        const std::string::size_type slash = name.find_last_of('/');
-        if (slash != std::string::npos)
-            name = name.substr(slash + 1);
-    } else {
-        const std::string::size_type q = url.find_first_of(";?");
-        name = url.substr(0, q);
-        const std::string::size_type slash = name.find_last_of("/:");
-        if (slash != std::string::npos)
-            name = name.substr(slash + 1);
-    }
-    if (name.size() > 4 && (name.compare(name.size() - 4, 4, ".zip") == 0 || name.compare(name.size() - 4, 4, ".ZIP") == 0))
-        name = name.substr(0, name.size() - 4);
-    return name;
-}
-
 std::string sanitizeFileName(std::string s)
 {
     for (char& c : s)
@@ -112,47 +67,7 @@ std::string sanitizeFileName(std::string s)
     return s;
 }
 
-// The description named by a "Local:" URL, unpacked when zipped.
-bool unpackDescription(const std::string& url, const std::vector<uint8_t>& raw, std::string& xml)
-{
-    std::string name;
-    uint32_t address = 0, size = 0;
-    parseLocalUrl(url, name, address, size);
-    const bool zipped = name.size() > 4 && (name.compare(name.size() - 4, 4, ".zip") == 0 ||
-                                            name.compare(name.size() - 4, 4, ".ZIP") == 0);
-    if (!zipped) {
-        xml.assign(reinterpret_cast<const char*>(raw.data()), raw.size());
-        const std::string::size_type nul = xml.find('\0');
-        if (nul != std::string::npos)
-            xml.resize(nul);
-        return !xml.empty();
-    }
-    ArvZip* zip = arv_zip_new(raw.data(), raw.size());
-    if (!zip)
-        return false;
-    const GSList* files = arv_zip_get_file_list(zip);
-    bool ok = false;
-    if (files && files->data) {
-        size_t unpackedSize = 0;
-        void* data = arv_zip_get_file(zip, arv_zip_file_get_name(static_cast<ArvZipFile*>(files->data)),
-                                      &unpackedSize);
-        if (data) {
-            xml.assign(static_cast<const char*>(data), unpackedSize);
-            g_free(data);
-            ok = !xml.empty();
-        }
-    }
-    arv_zip_free(zip);
-    return ok;
-}
-
 } // namespace
-
-std::mutex& aravisSystemMutex()
-{
-    static std::mutex mutex;
-    return mutex;
-}
 
 struct CAravisCamera::SPrivate
 {
@@ -176,24 +91,17 @@ struct CAravisCamera::SPrivate
     // register); the loss watchdog reports a camera silent for this long.
     std::atomic<unsigned int> heartbeatMs{1500};
 
-    // Loss watchdog of a connected GigE Vision camera.
-    std::thread watchdog;
-    std::mutex watchdogMutex;
-    std::condition_variable watchdogWake;
-    bool watchdogStop = false;
+    CLossWatchdog watchdog;
+    // Lost cameras' Aravis objects; a stream may still hold the device, so
+    // it goes as soon as the camera no longer needs it.
+    CLostDeviceReleaser releaser;
 
-    // Releases of lost cameras' Aravis objects under way. Releasing one
-    // waits for Aravis' own heartbeat thread to give up, so it runs on a
-    // thread of its own, never on the event thread, and lets the device go
-    // as soon as the camera no longer needs it (a stream may still hold
-    // it). Finished releases are joined at the next loss, connect or
-    // disconnect, the rest when the camera object goes. Guarded by gcMutex.
-    struct SRelease
+    template <class T>
+    T field(T SDiscoveryInfo::*member) const
     {
-        std::thread thread;
-        std::shared_ptr<std::atomic<bool>> done;
-    };
-    std::vector<SRelease> releases;
+        std::lock_guard<std::mutex> lock(infoMutex);
+        return info.*member;
+    }
 };
 
 CAravisCamera::CAravisCamera(const SDiscoveryInfo& info) : p(new SPrivate)
@@ -203,93 +111,10 @@ CAravisCamera::CAravisCamera(const SDiscoveryInfo& info) : p(new SPrivate)
 
 CAravisCamera::~CAravisCamera()
 {
-    {
-        std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
-        if (p->connected)
-            releaseConnection(true);
-        joinReleases(true);
-    }
-    delete p;
-}
-
-void CAravisCamera::releaseLostCamera(ArvCamera* camera)
-{
-    // Caller holds gcMutex.
-    joinReleases(false);
-    SPrivate::SRelease release;
-    release.done = std::make_shared<std::atomic<bool>>(false);
-    std::shared_ptr<std::atomic<bool>> done = release.done;
-    release.thread = std::thread([camera, done] {
-        g_object_unref(camera);
-        done->store(true);
-    });
-    p->releases.push_back(std::move(release));
-}
-
-void CAravisCamera::joinReleases(bool all)
-{
-    // Caller holds gcMutex; the release threads never take it.
-    auto it = p->releases.begin();
-    while (it != p->releases.end()) {
-        if (all || it->done->load()) {
-            it->thread.join();
-            it = p->releases.erase(it);
-        } else {
-            ++it;
-        }
-    }
-}
-
-void CAravisCamera::startWatchdog(uint32_t cameraIp, uint64_t generation)
-{
-    // Caller holds gcMutex. Aravis notices a lost camera only after about
-    // five seconds of retries whatever the heartbeat; this reads the
-    // camera's control-channel privilege register over our own socket and
-    // reports the camera lost once it has not answered for one heartbeat
-    // interval, so the loss is known within about twice that interval.
-    {
-        std::lock_guard<std::mutex> lock(p->watchdogMutex);
-        p->watchdogStop = false;
-    }
-    std::weak_ptr<CAravisCamera> weak = p->self;
-    SPrivate* d = p;
-    p->watchdog = std::thread([d, weak, cameraIp, generation] {
-        using Clock = std::chrono::steady_clock;
-        Clock::time_point lastAnswer = Clock::now();
-        for (;;) {
-            const unsigned int heartbeat = std::max(200u, d->heartbeatMs.load());
-            const unsigned int step = heartbeat / 4;
-            const unsigned int timeout = std::min(step, std::max(50u, d->answerTimeoutMs.load()));
-            uint32_t value = 0;
-            const int result = Gvcp::readRegister(cameraIp, Gvcp::REG_CCP, value, timeout);
-            const Clock::time_point now = Clock::now();
-            if (result != ERR_TIMEOUT) {
-                lastAnswer = now;
-            } else if (now - lastAnswer >= std::chrono::milliseconds(heartbeat)) {
-                LOG_WARN("camera at %s silent for %u ms", Gvcp::ipToString(cameraIp).c_str(), heartbeat);
-                EventHub::post([weak, generation] {
-                    if (auto camera = weak.lock())
-                        camera->handleLost(generation);
-                });
-                return;
-            }
-            std::unique_lock<std::mutex> lock(d->watchdogMutex);
-            if (d->watchdogWake.wait_for(lock, std::chrono::milliseconds(step), [d] { return d->watchdogStop; }))
-                return;
-        }
-    });
-}
-
-void CAravisCamera::stopWatchdog()
-{
-    // Caller holds gcMutex; the watchdog never takes it.
-    {
-        std::lock_guard<std::mutex> lock(p->watchdogMutex);
-        p->watchdogStop = true;
-    }
-    p->watchdogWake.notify_all();
-    if (p->watchdog.joinable())
-        p->watchdog.join();
+    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    if (p->connected)
+        releaseConnection(true);
+    p->releaser.joinAll();
 }
 
 Memory::TSharedPtr<CAravisCamera> CAravisCamera::create(const SDiscoveryInfo& info)
@@ -304,35 +129,11 @@ CAravisCamera* toAravisCamera(const Memory::TSharedPtr<ICamera>& camera)
     return dynamic_cast<CAravisCamera*>(camera.get());
 }
 
-CString CAravisCamera::getKey() const
-{
-    std::lock_guard<std::mutex> lock(p->infoMutex);
-    return p->info.key;
-}
-
-CString CAravisCamera::getName() const
-{
-    std::lock_guard<std::mutex> lock(p->infoMutex);
-    return p->info.model;
-}
-
-CString CAravisCamera::getSerialNumber() const
-{
-    std::lock_guard<std::mutex> lock(p->infoMutex);
-    return p->info.serial;
-}
-
-CString CAravisCamera::getVendorName() const
-{
-    std::lock_guard<std::mutex> lock(p->infoMutex);
-    return p->info.vendor;
-}
-
-EInterfaceType CAravisCamera::getType() const
-{
-    std::lock_guard<std::mutex> lock(p->infoMutex);
-    return p->info.type;
-}
+CString CAravisCamera::getKey() const { return p->field(&SDiscoveryInfo::key); }
+CString CAravisCamera::getName() const { return p->field(&SDiscoveryInfo::model); }
+CString CAravisCamera::getSerialNumber() const { return p->field(&SDiscoveryInfo::serial); }
+CString CAravisCamera::getVendorName() const { return p->field(&SDiscoveryInfo::vendor); }
+EInterfaceType CAravisCamera::getType() const { return p->field(&SDiscoveryInfo::type); }
 
 bool CAravisCamera::isConnected() const
 {
@@ -373,7 +174,7 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
 {
     std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
     const SDiscoveryInfo info = discoveryInfo();
-    joinReleases(false);
+    p->releaser.joinFinished();
     if (p->connected) {
         setLastError(ERR_ALREADY_CONNECTED, info.key.c_str());
         return false;
@@ -383,104 +184,30 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
         setLastError(ERR_INVALID_PARAMETER, "access permission");
         return false;
     }
-
-    ArvCamera* camera = nullptr;
-    GError* error = nullptr;
-    uint32_t hostIp = 0;
-    if (info.type == typeGigEVision) {
-        uint32_t cameraIp = 0;
-        if (!Gvcp::parseIp(info.ipAddress.c_str(), cameraIp)) {
-            setLastError(ERR_INVALID_PARAMETER, "camera address");
-            return false;
-        }
-        Gvcp::SHostInterface host;
-        if (Gvcp::hostInterfaceFor(cameraIp, host))
-            hostIp = host.ip;
-
-        // A camera that does not answer fails fast, before Aravis' own
-        // retries. A privilege held by another host is not judged here: the
-        // camera itself refuses the take-over while that host's heartbeat
-        // lasts, and grants it once the heartbeat has expired.
-        uint32_t ccp = 0;
-        if (Gvcp::readRegister(cameraIp, Gvcp::REG_CCP, ccp, p->answerTimeoutMs) == ERR_TIMEOUT) {
-            setLastError(ERR_TIMEOUT, info.ipAddress.c_str());
-            LOG_ERROR("connect %s: no answer from %s", info.key.c_str(), info.ipAddress.c_str());
-            return false;
-        }
-
-        GInetAddress* interfaceAddress = hostIp ? g_inet_address_new_from_string(Gvcp::ipToString(hostIp).c_str())
-                                                : g_inet_address_new_any(G_SOCKET_FAMILY_IPV4);
-        GInetAddress* deviceAddress = g_inet_address_new_from_string(info.ipAddress.c_str());
-        // Aravis parses the camera's description while it builds the device,
-        // and its parser is not safe on two threads at once: cameras that
-        // connect side by side take turns here.
-        static std::mutex parseMutex;
-        std::unique_lock<std::mutex> parseLock(parseMutex);
-        ArvDevice* device = arv_gv_device_new(interfaceAddress, deviceAddress, &error);
-        parseLock.unlock();
-        g_object_unref(interfaceAddress);
-        g_object_unref(deviceAddress);
-        if (!device) {
-            setLastError(ERR_TIMEOUT, errorText(error).c_str());
-            LOG_ERROR("connect %s: %s", info.key.c_str(), errorText(error).c_str());
-            g_clear_error(&error);
-            return false;
-        }
-        ArvGvDevice* gvDevice = ARV_GV_DEVICE(device);
-        if (permission != accessPermissionMonitor && !arv_gv_device_is_controller(gvDevice)) {
-            g_object_unref(device);
-            setLastError(ERR_ACCESS_DENIED, info.key.c_str());
-            LOG_ERROR("connect %s: control of the camera was refused", info.key.c_str());
-            return false;
-        }
-        if (permission == accessPermissionExclusive) {
-            if (!arv_device_write_register(device, Gvcp::REG_CCP, kCcpExclusive, &error)) {
-                LOG_WARN("connect %s: exclusive access refused, keeping control: %s", info.key.c_str(),
-                         errorText(error).c_str());
-                g_clear_error(&error);
-                permission = accessPermissionControl;
-            }
-        } else if (permission == accessPermissionMonitor && arv_gv_device_is_controller(gvDevice)) {
-            arv_gv_device_leave_control(gvDevice, nullptr);
-        }
-        if (!hostIp) {
-            GSocketAddress* local = arv_gv_device_get_interface_address(gvDevice);
-            if (local && G_IS_INET_SOCKET_ADDRESS(local)) {
-                gchar* text = g_inet_address_to_string(g_inet_socket_address_get_address(G_INET_SOCKET_ADDRESS(local)));
-                Gvcp::parseIp(text, hostIp);
-                g_free(text);
-            }
-        }
-        camera = arv_camera_new_with_device(device, &error);
-        g_object_unref(device);
-    } else if (info.type == typeUsb3Vision) {
-        std::lock_guard<std::mutex> systemLock(aravisSystemMutex());
-        camera = arv_camera_new(info.arvId.c_str(), &error);
-    } else {
+    std::unique_ptr<CCameraConnector> connector = CCameraConnector::forType(info.type);
+    if (!connector) {
         setLastError(ERR_NOT_SUPPORTED, "interface kind");
         return false;
     }
-    if (!camera) {
-        setLastError(ERR_IO, errorText(error).c_str());
-        LOG_ERROR("connect %s: %s", info.key.c_str(), errorText(error).c_str());
-        g_clear_error(&error);
+    CCameraConnector::SConnection connection;
+    if (!connector->open(info, permission, p->answerTimeoutMs, connection))
         return false;
-    }
 
-    p->camera = camera;
-    p->hostIp = hostIp;
-    p->held = permission;
-    ++p->generation;
+    p->camera = connection.camera;
+    p->hostIp = connection.hostIp;
+    p->held = connection.permission;
+    const uint64_t generation = ++p->generation;
     SLostContext* ctx = new SLostContext;
     ctx->self = p->self;
-    ctx->generation = p->generation;
-    p->lostHandler = g_signal_connect_data(arv_camera_get_device(camera), "control-lost", G_CALLBACK(onControlLost),
-                                           ctx, deleteLostContext, GConnectFlags(0));
+    ctx->generation = generation;
+    p->lostHandler = g_signal_connect_data(arv_camera_get_device(p->camera), "control-lost",
+                                           G_CALLBACK(onControlLost), ctx, deleteLostContext, GConnectFlags(0));
     p->connected = true;
-    if (info.type == typeGigEVision) {
-        uint32_t cameraIp = 0;
-        if (Gvcp::parseIp(info.ipAddress.c_str(), cameraIp))
-            startWatchdog(cameraIp, p->generation);
+    uint32_t cameraIp = 0;
+    if (info.type == typeGigEVision && Gvcp::parseIp(info.ipAddress.c_str(), cameraIp)) {
+        std::weak_ptr<CAravisCamera> self = p->self;
+        p->watchdog.start(cameraIp, p->heartbeatMs, p->answerTimeoutMs,
+                          [self, generation] { postLost(self, generation); });
     }
     LOG_DEBUG("connected %s", info.key.c_str());
 
@@ -493,7 +220,7 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
 void CAravisCamera::releaseConnection(bool cameraAlive)
 {
     // Caller holds gcMutex.
-    stopWatchdog();
+    p->watchdog.stop();
     if (p->channel) {
         if (cameraAlive && p->camera)
             arv_device_write_register(arv_camera_get_device(p->camera), Gvcp::REG_MCP, 0, nullptr);
@@ -514,7 +241,7 @@ void CAravisCamera::releaseConnection(bool cameraAlive)
     } else {
         // Releasing a vanished camera waits for its control channel to time
         // out; that must not hold up the event thread.
-        releaseLostCamera(camera);
+        p->releaser.release(camera);
     }
 }
 
@@ -525,7 +252,7 @@ bool CAravisCamera::disConnect()
         releaseConnection(true);
         LOG_DEBUG("disconnected %s", getKey().c_str());
     }
-    joinReleases(false);
+    p->releaser.joinFinished();
     clearLastError();
     return true;
 }
@@ -623,35 +350,12 @@ bool CAravisCamera::forceIpAddress(const char* ip, const char* mask, const char*
         return false;
     }
     SDiscoveryInfo info = discoveryInfo();
-    uint64_t mac = 0;
-    uint32_t cameraIp = 0;
-    if (!Gvcp::parseMac(info.macAddress.c_str(), mac) || !Gvcp::parseIp(info.ipAddress.c_str(), cameraIp)) {
-        setLastError(ERR_INVALID_PARAMETER, "camera MAC or address unknown");
+    const unsigned int timeout = std::max(1000u, p->answerTimeoutMs.load());
+    const int err = CForceIpSender(info).send(newIp, newMask, newGateway, timeout);
+    if (err == ERR_INVALID_PARAMETER) {
+        setLastError(err, "camera MAC or address unknown");
         return false;
     }
-
-    // The camera may sit outside the host's subnet: FORCEIP goes to its MAC
-    // by broadcast on the interface it was found on. Loopback has no
-    // broadcast; the camera's own address is used there.
-    Gvcp::SHostInterface host;
-    bool found = false;
-    for (const Gvcp::SHostInterface& h : Gvcp::hostInterfaces()) {
-        if (h.name == info.hostInterfaceName && Gvcp::ipToString(h.ip) == info.hostIp) {
-            host = h;
-            found = true;
-            break;
-        }
-    }
-    if (!found)
-        found = Gvcp::hostInterfaceFor(cameraIp, host);
-    uint32_t destination = cameraIp;
-    uint32_t bindIp = 0;
-    if (found && !host.loopback) {
-        destination = host.broadcast ? host.broadcast : 0xFFFFFFFFu;
-        bindIp = host.ip;
-    }
-    const unsigned int timeout = std::max(1000u, p->answerTimeoutMs.load());
-    const int err = Gvcp::forceIp(destination, bindIp, mac, newIp, newMask, newGateway, timeout);
     if (err != ERR_OK) {
         setLastError(err, info.key.c_str());
         LOG_ERROR("FORCEIP %s -> %s failed: %s", info.key.c_str(), ip, getErrMsg(err));
@@ -683,37 +387,17 @@ bool CAravisCamera::downLoadGenICamXML(const char* path)
         }
     }
     const SDiscoveryInfo info = discoveryInfo();
-    if (xml.empty() && info.type == typeGigEVision) {
-        // Not connected: read the description from the camera's memory,
-        // which needs no control.
-        uint32_t cameraIp = 0;
-        std::vector<uint8_t> urlBytes, raw;
-        std::string name;
-        uint32_t address = 0, size = 0;
-        if (Gvcp::parseIp(info.ipAddress.c_str(), cameraIp) &&
-            Gvcp::readMemory(cameraIp, Gvcp::REG_XML_URL_0, 512, urlBytes, p->answerTimeoutMs) == ERR_OK) {
-            const std::string url(reinterpret_cast<const char*>(urlBytes.data()),
-                                  strnlen(reinterpret_cast<const char*>(urlBytes.data()), urlBytes.size()));
-            if (parseLocalUrl(url, name, address, size) && size < 64u * 1024 * 1024 &&
-                Gvcp::readMemory(cameraIp, address, size, raw, p->answerTimeoutMs) == ERR_OK)
-                unpackDescription(url, raw, xml);
-        }
-    }
+    // Not connected: read the description from the camera's memory, which
+    // needs no control.
+    if (xml.empty() && info.type == typeGigEVision)
+        xml = CDescriptionFetcher(info.ipAddress, p->answerTimeoutMs).description();
     if (xml.empty()) {
         setLastError(isConnected() || info.type == typeGigEVision ? ERR_READ_FAILED : ERR_NOT_CONNECTED,
                      "GenICam description");
         return false;
     }
-    FILE* file = std::fopen(path, "wb");
-    if (!file) {
-        setLastError(ERR_IO, path);
+    if (!CDescriptionFetcher::save(xml, path))
         return false;
-    }
-    const bool ok = std::fwrite(xml.data(), 1, xml.size(), file) == xml.size();
-    if (std::fclose(file) != 0 || !ok) {
-        setLastError(ERR_IO, path);
-        return false;
-    }
     clearLastError();
     return true;
 }
@@ -731,17 +415,12 @@ CString CAravisCamera::getDefXMLFilename() const
                 if (arv_device_read_memory(device, Gvcp::REG_XML_URL_0, 512, buffer, nullptr))
                     url = buffer;
             } else if (info.type == typeGigEVision) {
-                uint32_t cameraIp = 0;
-                std::vector<uint8_t> bytes;
-                if (Gvcp::parseIp(info.ipAddress.c_str(), cameraIp) &&
-                    Gvcp::readMemory(cameraIp, Gvcp::REG_XML_URL_0, 512, bytes, p->answerTimeoutMs) == ERR_OK)
-                    url.assign(reinterpret_cast<const char*>(bytes.data()),
-                               strnlen(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+                url = CDescriptionFetcher(info.ipAddress, p->answerTimeoutMs).url();
             }
             p->xmlUrl = url;
         }
     }
-    std::string name = fileNameOfUrl(url);
+    std::string name = CDescriptionFetcher::fileNameOfUrl(url);
     if (name.empty())
         name = sanitizeFileName(info.vendor + "_" + info.model) + ".xml";
     clearLastError();

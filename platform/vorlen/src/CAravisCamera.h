@@ -93,14 +93,10 @@ public:
 
 private:
     void releaseConnection(bool cameraAlive);
-    void releaseLostCamera(ArvCamera* camera);
-    void joinReleases(bool all);
-    void startWatchdog(uint32_t cameraIp, uint64_t generation);
-    void stopWatchdog();
 
     mutable std::recursive_mutex m_gcMutex;
     struct SPrivate;
-    SPrivate* p;
+    std::unique_ptr<SPrivate> p;
 };
 
 // The camera object behind a shared pointer, or nullptr for another kind.

@@ -33,6 +33,14 @@ uint64_t GrabSession::unwrapBlockId(uint64_t raw)
     return blockIdEpoch + raw;
 }
 
+uint64_t GrabSession::missingPackets(ArvBuffer* buffer) const
+{
+    const ArvBufferStatus status = arv_buffer_get_status(buffer);
+    if (!marks.enabled() || (status != ARV_BUFFER_STATUS_MISSING_PACKETS && status != ARV_BUFFER_STATUS_TIMEOUT))
+        return 0;
+    return std::max<uint64_t>(1, marks.countMissing(buffer));
+}
+
 namespace {
 
 constexpr uint64_t kPacketMarker = 0x4C756D69446F7221ULL;

@@ -9,6 +9,7 @@
 #include <mutex>
 #include <string>
 #include <vector>
+#include "CEventThrottle.h"
 #include "Vorlen/GenICam/CFrame.h"
 
 #if defined(__SANITIZE_THREAD__)
@@ -130,7 +131,7 @@ struct PacketMarks
 };
 
 // One stream object from startGrabbing to stopGrabbing.
-struct GrabSession
+struct GrabSession : std::enable_shared_from_this<GrabSession>
 {
     GrabSession() = default;
     ~GrabSession();
@@ -161,13 +162,17 @@ struct GrabSession
     uint64_t lastBlockId = 0;             // last unwrapped id seen (any status)
     uint64_t lastUnderruns = 0;
     uint64_t lastResendRatioReached = 0;
-    int64_t lastNormalEventNs = 0;
+    CEventThrottle normalEvents{100 * 1000 * 1000};   // normal-frame events: at most ten a second
     bool channelErrorReported = false;
     uint64_t delivered = 0;
     bool limitReached = false;
 
     // Extends a block id to 64 bits across the 16-bit wrap (65535 -> 1).
     uint64_t unwrapBlockId(uint64_t raw);
+    // Packets an incomplete block lacks: the data packets whose place stayed
+    // empty, and at least one (a lost leader or trailer leaves no hole); 0
+    // for a block that is not incomplete or when packets are not counted.
+    uint64_t missingPackets(ArvBuffer* buffer) const;
 };
 
 // The frame record behind CFrame. Filled once by the stream; read-only after,

@@ -1,0 +1,78 @@
+#pragma once
+// Checked access to one feature of a connected camera's node map. The
+// constructor resolves the feature under the camera's lock, checks that it
+// may be used as asked (read, written, or only described) and that it is of
+// the kind the operation needs; every failure, there and after, lands in the
+// calling thread's last error with the feature's name. The lock is held for
+// as long as the object lives. Every parameter-node operation goes through
+// one of these.
+#include <mutex>
+#include <string>
+
+#include "CAravisCamera.h"
+#include "Vorlen/GenICam/CInternalParameterNode.h"
+
+namespace Vorlen {
+namespace GenICam {
+
+class CNodeAccess
+{
+public:
+    enum EUse
+    {
+        useDescribe,   // metadata, ranges, entries: the feature need only exist
+        useRead,       // implemented, available and not write-only
+        useWrite       // implemented, available, not locked and not read-only
+    };
+
+    // The kind of node an operation works on, and what a mismatch says.
+    struct SKind
+    {
+        bool (*matches)(ArvGcNode* node);
+        const char* mismatch;
+    };
+
+    CNodeAccess(const Memory::TSharedPtr<ICamera>& camera, const CString& name, EUse use = useDescribe,
+                const SKind* kind = nullptr);
+    CNodeAccess(const CNodeAccess&) = delete;
+    CNodeAccess& operator=(const CNodeAccess&) = delete;
+
+    // True when the feature was resolved and passed every check.
+    explicit operator bool() const { return m_ok; }
+
+    ArvGcNode* node() const { return m_node; }
+    ArvGcFeatureNode* feature() const { return ARV_GC_FEATURE_NODE(m_node); }
+    CAravisCamera* camera() const { return m_camera; }
+    const CString& name() const { return m_name; }
+
+    // True when e is null; otherwise consumes it, sets the last error it
+    // maps to (fallback for errors without a closer code) and returns false.
+    bool check(GError*& e, int fallback) const;
+    // Sets the last error to code, detailed by the feature name and more.
+    bool fail(int code, const std::string& more = std::string()) const;
+    // Clears the last error; true.
+    bool succeed() const;
+    // After a successful write: tells the camera's subscribers which
+    // features may have changed with it, then succeed().
+    bool written() const;
+
+    static CInternalParameterNode::EFeatureType typeOf(ArvGcNode* node);
+    // Property child of a node (ToolTip, Streamable, pValue, ...), or null.
+    static ArvGcPropertyNode* property(ArvGcNode* node, ArvGcPropertyNodeType type);
+    // ERR_OK when the node may be read (written) now, else why not.
+    static int readability(ArvGcNode* node);
+    static int writability(ArvGcNode* node);
+
+private:
+    bool resolve(EUse use, const SKind* kind);
+
+    const Memory::TSharedPtr<ICamera>& m_cameraPtr;
+    const CString& m_name;
+    CAravisCamera* m_camera = nullptr;
+    std::unique_lock<std::recursive_mutex> m_lock;
+    ArvGcNode* m_node = nullptr;
+    bool m_ok = false;
+};
+
+} // namespace GenICam
+} // namespace Vorlen
