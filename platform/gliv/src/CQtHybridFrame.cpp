@@ -224,8 +224,12 @@ CQtHybridFrame::CQtHybridFrame(const SFrameInfo& info)
     if (info.rawData && info.imageSize > 0 && info.imageSize <= uint64_t(INT_MAX)) {
         try {
             m_raw = CRawBufferPool::instance().acquire(size_t(info.imageSize));
-            std::memcpy(m_raw->data(), info.rawData, size_t(info.imageSize));
-            m_info.rawData = m_raw->data();
+            if (m_raw) {
+                std::memcpy(m_raw->data(), info.rawData, size_t(info.imageSize));
+                m_info.rawData = m_raw->data();
+            } else {
+                m_info.imageSize = 0;   // the pool is shut down
+            }
         } catch (...) {
             m_raw.reset();
             m_info.imageSize = 0;

@@ -9,11 +9,26 @@ CRawBufferPool& CRawBufferPool::instance()
     return *pool;
 }
 
+void CRawBufferPool::shutdownInstance()
+{
+    instance().shutdown();
+}
+
+void CRawBufferPool::shutdown()
+{
+    std::vector<std::unique_ptr<Buffer>> freed;
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_shutDown = true;
+    freed.swap(m_free);
+}
+
 std::shared_ptr<CRawBufferPool::Buffer> CRawBufferPool::acquire(size_t size)
 {
     std::unique_ptr<Buffer> buffer;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_shutDown)
+            return nullptr;
         // The most recently returned buffer of the same size is the warmest.
         for (auto it = m_free.rbegin(); it != m_free.rend(); ++it) {
             if ((*it)->size() == size) {
@@ -32,6 +47,8 @@ void CRawBufferPool::release(Buffer* buffer)
 {
     std::unique_ptr<Buffer> owned(buffer);
     std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_shutDown)
+        return;   // freed with owned
     if (m_free.size() >= kMaxFree)
         m_free.erase(m_free.begin());   // the oldest goes
     m_free.push_back(std::move(owned));

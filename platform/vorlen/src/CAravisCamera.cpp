@@ -7,8 +7,9 @@
 #include "CCameraConnector.h"
 #include "CDescriptionFetcher.h"
 #include "CForceIpSender.h"
+#include "CLibraryLifetime.h"
 #include "CLossWatchdog.h"
-#include "CLostDeviceReleaser.h"
+#include "CBackgroundReleaser.h"
 #include "EventHub.h"
 #include "Gvcp.h"
 #include "MessageChannel.h"
@@ -92,9 +93,6 @@ struct CAravisCamera::SPrivate
     std::atomic<unsigned int> heartbeatMs{1500};
 
     CLossWatchdog watchdog;
-    // Lost cameras' Aravis objects; a stream may still hold the device, so
-    // it goes as soon as the camera no longer needs it.
-    CLostDeviceReleaser releaser;
 
     template <class T>
     T field(T SDiscoveryInfo::*member) const
@@ -114,7 +112,6 @@ CAravisCamera::~CAravisCamera()
     std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
     if (p->connected)
         releaseConnection(true);
-    p->releaser.joinAll();
 }
 
 Memory::TSharedPtr<CAravisCamera> CAravisCamera::create(const SDiscoveryInfo& info)
@@ -174,7 +171,9 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
 {
     std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
     const SDiscoveryInfo info = discoveryInfo();
-    p->releaser.joinFinished();
+    CBackgroundReleaser::instance().joinFinished();
+    if (CLibraryLifetime::refuse())
+        return false;
     if (p->connected) {
         setLastError(ERR_ALREADY_CONNECTED, info.key.c_str());
         return false;
@@ -240,8 +239,9 @@ void CAravisCamera::releaseConnection(bool cameraAlive)
         g_object_unref(camera);
     } else {
         // Releasing a vanished camera waits for its control channel to time
-        // out; that must not hold up the event thread.
-        p->releaser.release(camera);
+        // out; that must not hold up the event thread. A stream may still
+        // hold the device: it goes as soon as the camera no longer needs it.
+        CBackgroundReleaser::instance().run([camera] { g_object_unref(camera); });
     }
 }
 
@@ -252,7 +252,7 @@ bool CAravisCamera::disConnect()
         releaseConnection(true);
         LOG_DEBUG("disconnected %s", getKey().c_str());
     }
-    p->releaser.joinFinished();
+    CBackgroundReleaser::instance().joinFinished();
     clearLastError();
     return true;
 }

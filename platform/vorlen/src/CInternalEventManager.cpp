@@ -2,6 +2,7 @@
 #include "Vorlen/GenICam/CInternalEventManager.h"
 
 #include "CAravisCamera.h"
+#include "CLibraryLifetime.h"
 #include "EventHub.h"
 #include "Vorlen/Infra/Error.h"
 
@@ -47,7 +48,13 @@ CInternalEventManager::~CInternalEventManager()
     EventHub::detach(d->subscriber);
 }
 
-bool CInternalEventManager::subscribeConnectArgs(const ConnectProc& proc)
+namespace {
+
+// Sets a handler of the manager's subscriber; refused for an empty one and
+// once the library is shut down.
+template <class Proc>
+bool subscribe(const Memory::TSharedPtr<CInternalEventManager::SImpl>& d,
+               void (*set)(EventHub::SSubscriber&, const Proc&), const Proc& proc)
 {
     if (!valid(d))
         return false;
@@ -55,67 +62,59 @@ bool CInternalEventManager::subscribeConnectArgs(const ConnectProc& proc)
         setLastError(ERR_INVALID_PARAMETER, "empty callback");
         return false;
     }
-    EventHub::setConnectHandler(*d->subscriber, proc);
+    if (CLibraryLifetime::refuse())
+        return false;
+    set(*d->subscriber, proc);
     return true;
+}
+
+// Clears a handler; once it returns the old one no longer runs.
+template <class Proc>
+bool unsubscribe(const Memory::TSharedPtr<CInternalEventManager::SImpl>& d,
+                 void (*set)(EventHub::SSubscriber&, const Proc&))
+{
+    if (!valid(d))
+        return false;
+    set(*d->subscriber, Proc());
+    return true;
+}
+
+} // namespace
+
+bool CInternalEventManager::subscribeConnectArgs(const ConnectProc& proc)
+{
+    return subscribe(d, &EventHub::setConnectHandler, proc);
 }
 
 bool CInternalEventManager::unsubscribeConnectArgs()
 {
-    if (!valid(d))
-        return false;
-    EventHub::setConnectHandler(*d->subscriber, ConnectProc());
-    return true;
+    return unsubscribe(d, &EventHub::setConnectHandler);
 }
 
 bool CInternalEventManager::subscribeParamUpdate(const ParamUpdateProc& proc)
 {
-    if (!valid(d))
-        return false;
-    if (!proc) {
-        setLastError(ERR_INVALID_PARAMETER, "empty callback");
-        return false;
-    }
-    EventHub::setParamUpdateHandler(*d->subscriber, proc);
-    return true;
+    return subscribe(d, &EventHub::setParamUpdateHandler, proc);
 }
 
 bool CInternalEventManager::unsubscribeParamUpdate()
 {
-    if (!valid(d))
-        return false;
-    EventHub::setParamUpdateHandler(*d->subscriber, ParamUpdateProc());
-    return true;
+    return unsubscribe(d, &EventHub::setParamUpdateHandler);
 }
 
 bool CInternalEventManager::subscribeStreamArg(const StreamProc& proc)
 {
-    if (!valid(d))
-        return false;
-    if (!proc) {
-        setLastError(ERR_INVALID_PARAMETER, "empty callback");
-        return false;
-    }
-    EventHub::setStreamHandler(*d->subscriber, proc);
-    return true;
+    return subscribe(d, &EventHub::setStreamHandler, proc);
 }
 
 bool CInternalEventManager::unsubscribeStreamArg()
 {
-    if (!valid(d))
-        return false;
-    EventHub::setStreamHandler(*d->subscriber, StreamProc());
-    return true;
+    return unsubscribe(d, &EventHub::setStreamHandler);
 }
 
 bool CInternalEventManager::subscribeMsgChannel(const MsgChannelProc& proc)
 {
-    if (!valid(d))
+    if (!subscribe(d, &EventHub::setMsgChannelHandler, proc))
         return false;
-    if (!proc) {
-        setLastError(ERR_INVALID_PARAMETER, "empty callback");
-        return false;
-    }
-    EventHub::setMsgChannelHandler(*d->subscriber, proc);
     // The channel opens with the first subscriber of a connected GigE
     // camera (or when the camera connects later).
     CAravisCamera* camera = toAravisCamera(d->camera);
@@ -127,9 +126,8 @@ bool CInternalEventManager::subscribeMsgChannel(const MsgChannelProc& proc)
 
 bool CInternalEventManager::unsubscribeMsgChannel()
 {
-    if (!valid(d))
+    if (!unsubscribe(d, &EventHub::setMsgChannelHandler))
         return false;
-    EventHub::setMsgChannelHandler(*d->subscriber, MsgChannelProc());
     CAravisCamera* camera = toAravisCamera(d->camera);
     if (camera && !EventHub::hasSubscribers(camera, EventHub::kindMsgChannel))
         camera->closeMessageChannel();

@@ -2,9 +2,9 @@
 
 #include <chrono>
 #include <mutex>
-#include <thread>
 
 #include "CAravisCamera.h"
+#include "CBackgroundReleaser.h"
 #include "CFrameLoss.h"
 #include "CStreamEventReporter.h"
 #include "CStreamSettings.h"
@@ -170,7 +170,7 @@ bool CInternalStreamSource::SImpl::stop()
         // The session may hold the last reference to a vanished camera's
         // device, whose release waits for the control channel to time out:
         // do not make the caller (often the GUI thread) wait for that.
-        std::thread([s = std::move(session)]() mutable { s.reset(); }).detach();
+        CBackgroundReleaser::instance().run([s = std::move(session)]() mutable { s.reset(); });
     }
     session.reset();
     LOG_DEBUG("stream stopped: channel %u, %d buffer(s) still held by frames", unsigned(channel),

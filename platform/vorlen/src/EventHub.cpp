@@ -1,12 +1,7 @@
-// One dispatch thread and its queue deliver every camera event.
+// Delivery of camera events, over the process-wide event hub.
 #include "EventHub.h"
 
-#include <atomic>
-#include <condition_variable>
-#include <deque>
-#include <mutex>
-#include <thread>
-#include <vector>
+#include "CEventHub.h"
 
 namespace Vorlen {
 namespace GenICam {
@@ -14,129 +9,20 @@ namespace EventHub {
 
 namespace {
 
-class CHub
-{
-public:
-    static CHub& instance()
-    {
-        // Never destroyed: the dispatch thread may still be waiting when
-        // static destructors run at exit.
-        static CHub* hub = new CHub;
-        return *hub;
-    }
-
-    void post(std::function<void()> task)
-    {
-        {
-            std::lock_guard<std::mutex> lock(m_queueMutex);
-            if (!m_started) {
-                m_started = true;
-                std::thread(&CHub::run, this).detach();
-            }
-            m_queue.push_back(std::move(task));
-            ++m_posted;
-        }
-        m_queueCond.notify_all();
-    }
-
-    bool flush(unsigned int timeoutMs)
-    {
-        std::unique_lock<std::mutex> lock(m_queueMutex);
-        const uint64_t target = m_posted;
-        return m_doneCond.wait_for(lock, std::chrono::milliseconds(timeoutMs), [&] { return m_done >= target; });
-    }
-
-    bool onDispatchThread() const { return std::this_thread::get_id() == m_threadId; }
-
-    std::mutex m_subMutex;                            // guards m_subscribers and every handler
-    std::vector<std::shared_ptr<SSubscriber>> m_subscribers;
-    std::mutex m_callMutex;                           // held while a handler runs
-
-    // Copies of the handlers of one kind for one camera.
-    template <class Proc>
-    std::vector<Proc> handlers(const ICamera* camera, Proc SSubscriber::*member)
-    {
-        std::vector<Proc> out;
-        std::lock_guard<std::mutex> lock(m_subMutex);
-        for (const auto& s : m_subscribers)
-            if (s->camera == camera && (*s).*member)
-                out.push_back((*s).*member);
-        return out;
-    }
-
-    // Waits until no handler is running (unless called by one).
-    void waitIdle()
-    {
-        if (onDispatchThread())
-            return;
-        std::lock_guard<std::mutex> lock(m_callMutex);
-    }
-
-private:
-    CHub() = default;
-
-    void run()
-    {
-        m_threadId = std::this_thread::get_id();
-        for (;;) {
-            std::function<void()> task;
-            {
-                std::unique_lock<std::mutex> lock(m_queueMutex);
-                m_queueCond.wait(lock, [this] { return !m_queue.empty(); });
-                task = std::move(m_queue.front());
-                m_queue.pop_front();
-            }
-            {
-                std::lock_guard<std::mutex> lock(m_callMutex);
-                try {
-                    task();
-                } catch (...) {
-                }
-            }
-            {
-                std::lock_guard<std::mutex> lock(m_queueMutex);
-                ++m_done;
-            }
-            m_doneCond.notify_all();
-        }
-    }
-
-    std::mutex m_queueMutex;
-    std::condition_variable m_queueCond;
-    std::condition_variable m_doneCond;
-    std::deque<std::function<void()>> m_queue;
-    uint64_t m_posted = 0;
-    uint64_t m_done = 0;
-    bool m_started = false;
-    std::atomic<std::thread::id> m_threadId{};
-};
-
 template <class Arg, class Proc>
 void publish(const ICamera* camera, const Arg& arg, Proc SSubscriber::*member)
 {
     if (!camera)
         return;
-    CHub::instance().post([camera, arg, member] {
-        for (const Proc& proc : CHub::instance().handlers(camera, member)) {
-            // A throwing subscriber must not end event delivery for everybody.
+    CEventHub::instance().post(camera, [camera, arg, member] {
+        for (const Proc& proc : CEventHub::instance().handlers(camera, member)) {
+            // A throwing subscriber must not keep the others from their event.
             try {
                 proc(arg);
             } catch (...) {
             }
         }
     });
-}
-
-template <class Proc>
-void setHandler(SSubscriber& s, Proc SSubscriber::*member, const Proc& proc)
-{
-    CHub& hub = CHub::instance();
-    {
-        std::lock_guard<std::mutex> lock(hub.m_subMutex);
-        s.*member = proc;
-    }
-    if (!proc)
-        hub.waitIdle();
 }
 
 } // namespace
@@ -168,84 +54,60 @@ bool hasStreamSubscribers(const ICamera* camera)
 
 bool hasSubscribers(const ICamera* camera, EKind kind)
 {
-    CHub& hub = CHub::instance();
-    std::lock_guard<std::mutex> lock(hub.m_subMutex);
-    for (const auto& s : hub.m_subscribers) {
-        if (s->camera != camera)
-            continue;
-        switch (kind) {
-        case kindConnect: if (s->onConnect) return true; break;
-        case kindParamUpdate: if (s->onParamUpdate) return true; break;
-        case kindStream: if (s->onStream) return true; break;
-        case kindMsgChannel: if (s->onMsgChannel) return true; break;
-        }
-    }
-    return false;
+    return CEventHub::instance().hasSubscribers(camera, kind);
 }
 
 void attach(const std::shared_ptr<SSubscriber>& subscriber)
 {
-    if (!subscriber)
-        return;
-    CHub& hub = CHub::instance();
-    std::lock_guard<std::mutex> lock(hub.m_subMutex);
-    for (const auto& s : hub.m_subscribers)
-        if (s == subscriber)
-            return;
-    hub.m_subscribers.push_back(subscriber);
+    CEventHub::instance().attach(subscriber);
 }
 
 void detach(const std::shared_ptr<SSubscriber>& subscriber)
 {
-    CHub& hub = CHub::instance();
-    {
-        std::lock_guard<std::mutex> lock(hub.m_subMutex);
-        for (auto it = hub.m_subscribers.begin(); it != hub.m_subscribers.end(); ++it) {
-            if (*it == subscriber) {
-                hub.m_subscribers.erase(it);
-                break;
-            }
-        }
-    }
-    hub.waitIdle();
+    CEventHub::instance().detach(subscriber);
 }
 
 void setConnectHandler(SSubscriber& s, const CInternalEventManager::ConnectProc& proc)
 {
-    setHandler(s, &SSubscriber::onConnect, proc);
+    CEventHub::instance().setHandler(s, &SSubscriber::onConnect, proc);
 }
 
 void setParamUpdateHandler(SSubscriber& s, const CInternalEventManager::ParamUpdateProc& proc)
 {
-    setHandler(s, &SSubscriber::onParamUpdate, proc);
+    CEventHub::instance().setHandler(s, &SSubscriber::onParamUpdate, proc);
 }
 
 void setStreamHandler(SSubscriber& s, const CInternalEventManager::StreamProc& proc)
 {
-    setHandler(s, &SSubscriber::onStream, proc);
+    CEventHub::instance().setHandler(s, &SSubscriber::onStream, proc);
 }
 
 void setMsgChannelHandler(SSubscriber& s, const CInternalEventManager::MsgChannelProc& proc)
 {
-    setHandler(s, &SSubscriber::onMsgChannel, proc);
+    CEventHub::instance().setHandler(s, &SSubscriber::onMsgChannel, proc);
 }
 
 void post(const std::function<void()>& task)
 {
     if (task)
-        CHub::instance().post(task);
+        CEventHub::instance().post(nullptr, task);
 }
 
 bool onDispatchThread()
 {
-    return CHub::instance().onDispatchThread();
+    return CEventDispatcher::onAnyThread();
 }
 
 bool flush(unsigned int timeoutMs)
 {
     if (onDispatchThread())
         return false;
-    return CHub::instance().flush(timeoutMs);
+    return CEventHub::instance().flush(timeoutMs);
+}
+
+void shutdown()
+{
+    CEventHub::instance().shutdown();
 }
 
 } // namespace EventHub

@@ -3,7 +3,8 @@
 // managers. Publishers are the camera (connection loss), parameter nodes
 // (writes) and streams (per-frame status); callbacks run on the hub's own
 // dispatch thread, never on the publisher's, so a slow subscriber never
-// stalls a stream or a GUI call.
+// stalls a stream or a GUI call. The functions below work on the
+// process-wide hub (CEventHub).
 #include <functional>
 #include <memory>
 #include "Vorlen/GenICam/ICamera.h"
@@ -59,6 +60,9 @@ bool onDispatchThread();
 // Waits until everything queued so far has been delivered (not from the
 // dispatch thread itself; returns false on timeout).
 bool flush(unsigned int timeoutMs);
+// Ends delivery for good: drops every subscriber and queued event and joins
+// the dispatch thread. Idempotent; publishing afterwards does nothing.
+void shutdown();
 
 } // namespace EventHub
 } // namespace GenICam

@@ -4,7 +4,6 @@
 #include <ifaddrs.h>
 #include <net/if.h>
 #include <netinet/in.h>
-#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -17,6 +16,7 @@
 #include <map>
 #include <sstream>
 
+#include "CUdpSocket.h"
 #include "Vorlen/Infra/Error.h"
 
 namespace Vorlen {
@@ -44,64 +44,6 @@ void putString(uint8_t* p, size_t n, const std::string& s)
     std::memset(p, 0, n);
     std::memcpy(p, s.data(), std::min(n - 1, s.size()));
 }
-
-// An unconnected UDP socket; closed with the object.
-class CSocket
-{
-public:
-    explicit CSocket(uint32_t bindIp = 0, bool broadcast = false)
-    {
-        m_fd = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-        if (m_fd < 0)
-            return;
-        if (broadcast) {
-            int on = 1;
-            ::setsockopt(m_fd, SOL_SOCKET, SO_BROADCAST, &on, sizeof(on));
-        }
-        sockaddr_in local{};
-        local.sin_family = AF_INET;
-        local.sin_addr.s_addr = htonl(bindIp);
-        if (::bind(m_fd, reinterpret_cast<sockaddr*>(&local), sizeof(local)) != 0) {
-            ::close(m_fd);
-            m_fd = -1;
-        }
-    }
-    ~CSocket()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    bool valid() const { return m_fd >= 0; }
-
-    bool sendTo(uint32_t ip, uint16_t port, const uint8_t* data, size_t size)
-    {
-        sockaddr_in to{};
-        to.sin_family = AF_INET;
-        to.sin_port = htons(port);
-        to.sin_addr.s_addr = htonl(ip);
-        return ::sendto(m_fd, data, size, 0, reinterpret_cast<sockaddr*>(&to), sizeof(to)) == ssize_t(size);
-    }
-
-    // Waits up to ms for a datagram; returns its size, 0 on timeout, -1 on error.
-    int receive(uint8_t* data, size_t size, int ms, uint32_t* fromIp = nullptr)
-    {
-        pollfd pfd{m_fd, POLLIN, 0};
-        const int r = ::poll(&pfd, 1, std::max(ms, 0));
-        if (r <= 0)
-            return r;
-        sockaddr_in from{};
-        socklen_t len = sizeof(from);
-        const ssize_t n = ::recvfrom(m_fd, data, size, 0, reinterpret_cast<sockaddr*>(&from), &len);
-        if (n < 0)
-            return -1;
-        if (fromIp)
-            *fromIp = ntohl(from.sin_addr.s_addr);
-        return int(n);
-    }
-
-private:
-    int m_fd = -1;
-};
 
 using Clock = std::chrono::steady_clock;
 
@@ -131,7 +73,7 @@ int statusToError(uint16_t status)
 // Sends a command and waits for its acknowledge (sent again once halfway
 // through the timeout). On success the acknowledge is in ack (header
 // included) and its size in ackSize.
-int transact(CSocket& sock, uint32_t ip, uint16_t port, const uint8_t* cmd, size_t cmdSize, uint16_t ackCode,
+int transact(CUdpSocket& sock, uint32_t ip, uint16_t port, const uint8_t* cmd, size_t cmdSize, uint16_t ackCode,
              uint16_t id, unsigned int timeoutMs, uint8_t* ack, size_t ackCapacity, int& ackSize)
 {
     if (!sock.valid())
@@ -242,7 +184,7 @@ bool parseForceIp(const uint8_t* p, size_t size, uint64_t& mac, uint32_t& ip, ui
 
 int discover(uint32_t ip, uint16_t port, unsigned int timeoutMs, SDeviceInfo& info)
 {
-    CSocket sock;
+    CUdpSocket sock;
     uint8_t cmd[8];
     const uint16_t id = nextRequestId();
     writeHeader(cmd, kFlagAckRequired, DISCOVERY_CMD, 0, id);
@@ -261,7 +203,7 @@ std::vector<SDeviceInfo> discoverMany(const std::vector<uint32_t>& ips, unsigned
     std::vector<SDeviceInfo> found;
     if (ips.empty())
         return found;
-    CSocket sock;
+    CUdpSocket sock;
     if (!sock.valid())
         return found;
     std::map<uint16_t, uint32_t> pending;   // request id -> address
@@ -299,7 +241,7 @@ std::vector<SDeviceInfo> discoverMany(const std::vector<uint32_t>& ips, unsigned
 
 int readRegister(uint32_t ip, uint32_t address, uint32_t& value, unsigned int timeoutMs)
 {
-    CSocket sock;
+    CUdpSocket sock;
     uint8_t cmd[12];
     const uint16_t id = nextRequestId();
     writeHeader(cmd, kFlagAckRequired, READREG_CMD, 4, id);
@@ -318,7 +260,7 @@ int readRegister(uint32_t ip, uint32_t address, uint32_t& value, unsigned int ti
 int readMemory(uint32_t ip, uint32_t address, uint32_t size, std::vector<uint8_t>& data, unsigned int timeoutMs)
 {
     data.clear();
-    CSocket sock;
+    CUdpSocket sock;
     uint32_t done = 0;
     while (done < size) {
         const uint32_t chunk = std::min(kReadMemChunk, size - done);
@@ -345,7 +287,7 @@ int readMemory(uint32_t ip, uint32_t address, uint32_t size, std::vector<uint8_t
 int forceIp(uint32_t destination, uint32_t bindIp, uint64_t mac, uint32_t ip, uint32_t mask, uint32_t gateway,
             unsigned int timeoutMs)
 {
-    CSocket sock(bindIp, true);
+    CUdpSocket sock(bindIp, 0, true);
     uint8_t cmd[8 + kForceIpSize];
     const uint16_t id = nextRequestId();
     writeHeader(cmd, kFlagAckRequired, FORCEIP_CMD, uint16_t(kForceIpSize), id);

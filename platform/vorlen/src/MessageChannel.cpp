@@ -1,11 +1,5 @@
 #include "MessageChannel.h"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <poll.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <cstdio>
 
 #include "EventHub.h"
@@ -34,20 +28,11 @@ CMessageChannel::~CMessageChannel()
 bool CMessageChannel::open(uint32_t hostIp)
 {
     close();
-    m_fd = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    if (m_fd < 0)
+    auto socket = std::make_unique<CUdpSocket>(hostIp);
+    m_port = socket->valid() ? socket->port() : 0;
+    if (m_port == 0)
         return false;
-    sockaddr_in local{};
-    local.sin_family = AF_INET;
-    local.sin_addr.s_addr = htonl(hostIp);
-    socklen_t len = sizeof(local);
-    if (::bind(m_fd, reinterpret_cast<sockaddr*>(&local), sizeof(local)) != 0 ||
-        ::getsockname(m_fd, reinterpret_cast<sockaddr*>(&local), &len) != 0) {
-        ::close(m_fd);
-        m_fd = -1;
-        return false;
-    }
-    m_port = ntohs(local.sin_port);
+    m_socket = std::move(socket);
     m_running = true;
     m_thread = std::thread(&CMessageChannel::run, this);
     return true;
@@ -56,11 +41,11 @@ bool CMessageChannel::open(uint32_t hostIp)
 void CMessageChannel::close()
 {
     m_running = false;
+    if (m_socket)
+        m_socket->interrupt();
     if (m_thread.joinable())
         m_thread.join();
-    if (m_fd >= 0)
-        ::close(m_fd);
-    m_fd = -1;
+    m_socket.reset();
     m_port = 0;
 }
 
@@ -68,14 +53,11 @@ void CMessageChannel::run()
 {
     uint8_t buffer[9000];
     while (m_running) {
-        pollfd pfd{m_fd, POLLIN, 0};
-        if (::poll(&pfd, 1, 100) <= 0)
-            continue;
-        sockaddr_in from{};
-        socklen_t len = sizeof(from);
-        const ssize_t n = ::recvfrom(m_fd, buffer, sizeof(buffer), 0, reinterpret_cast<sockaddr*>(&from), &len);
+        uint32_t fromIp = 0;
+        uint16_t fromPort = 0;
+        const int n = m_socket->receive(buffer, sizeof(buffer), -1, &fromIp, &fromPort);
         if (n > 0)
-            handle(buffer, size_t(n), ntohl(from.sin_addr.s_addr), ntohs(from.sin_port));
+            handle(buffer, size_t(n), fromIp, fromPort);
     }
 }
 
@@ -152,11 +134,7 @@ void CMessageChannel::handle(const uint8_t* data, size_t size, uint32_t fromIp, 
         Gvcp::put16(ack + 2, packet.ackCode);
         Gvcp::put16(ack + 4, 0);
         Gvcp::put16(ack + 6, packet.requestId);
-        sockaddr_in to{};
-        to.sin_family = AF_INET;
-        to.sin_port = htons(fromPort);
-        to.sin_addr.s_addr = htonl(fromIp);
-        ::sendto(m_fd, ack, sizeof(ack), 0, reinterpret_cast<sockaddr*>(&to), sizeof(to));
+        m_socket->sendTo(fromIp, fromPort, ack, sizeof(ack));
     }
     for (SMsgChannelArg& ev : packet.events) {
         std::string name;

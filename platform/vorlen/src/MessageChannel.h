@@ -10,6 +10,7 @@
 #include <thread>
 #include <vector>
 
+#include "CUdpSocket.h"
 #include "Vorlen/GenICam/ICamera.h"
 
 namespace Vorlen {
@@ -50,7 +51,7 @@ private:
     const ICamera* m_owner;
     std::string m_key;
     std::shared_ptr<CNodeMap> m_nodeMap;
-    int m_fd = -1;
+    std::unique_ptr<CUdpSocket> m_socket;
     uint16_t m_port = 0;
     std::atomic<bool> m_running{false};
     std::thread m_thread;

@@ -1,5 +1,16 @@
 #pragma once
 // Discovery and the registry of known cameras (singletons).
+//
+// The library's threads (loss watchdogs, message channels, event delivery,
+// releases of lost cameras) and the cameras it keeps live until
+// CSystem::shutdownInstance() (or CInternalSystem::shutdownInstance(), the
+// same thing). The application's lifetime owner calls it once, last, after
+// every device is closed and before the application object goes: it closes
+// the cameras still connected, joins every thread of the library and drops
+// the event subscribers. It is idempotent. Afterwards getInstance() still
+// works, but discovery, connecting and subscribing fail with
+// ERR_INVALID_HANDLE ("the camera library is shut down") and no thread of
+// the library starts again.
 #include "Vorlen/GenICam/ICamera.h"
 #include "Vorlen/GenICam/CInterfaceInfo.h"
 
@@ -16,6 +27,8 @@ public:
     };
 
     static CSystem& getInstance();
+    // The end of the library (see above).
+    static void shutdownInstance();
 
     // Broadcast discovery on every interface of the kind. Cameras found are
     // added to the registry; a camera seen before keeps its object.
@@ -35,6 +48,8 @@ class CInternalSystem
 {
 public:
     static CInternalSystem& getInstance();
+    // The same as CSystem::shutdownInstance().
+    static void shutdownInstance();
 
     TSharedPtrGigEInterfaceInfo getGigEInterfaceInfoByCamera(const Memory::TSharedPtr<ICamera>& camera);
     TSharedPtrUsbInterfaceInfo getUsbInterfaceInfoByCamera(const Memory::TSharedPtr<ICamera>& camera);
