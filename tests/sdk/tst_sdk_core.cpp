@@ -75,23 +75,18 @@ void TestSdkCore::semaphoreAndThread()
 
     CThread thread;
     QVERIFY(thread.isThreadOver());
-    std::atomic<int> rounds{0};
     QVERIFY(thread.createThread([&] {
         while (thread.looping()) {
-            ++rounds;
             sem.post();
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));   // pace, not proof
         }
     }));
     QVERIFY(!thread.createThread([] {}));   // one body at a time
     QVERIFY(sem.pend(5000));
     QVERIFY(!thread.isThreadOver());
-    QVERIFY(thread.destroyThread());
+    QVERIFY(thread.destroyThread());   // joined: the body has returned
     QVERIFY(thread.isThreadOver());
     QVERIFY(!thread.looping());
-    const int after = rounds;
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    QCOMPARE(int(rounds), after);
     // Restartable after it ended.
     QVERIFY(thread.createThread([] {}));
     QVERIFY(thread.destroyThread());

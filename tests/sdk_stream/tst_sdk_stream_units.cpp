@@ -1,4 +1,4 @@
-// Stream-side pieces that need no camera: rates, counter mapping, block id
+// Stream-side pieces that need no camera: rates, event throttle, counter mapping, block id
 // unwrapping, chunk layout and chunk feature discovery, frame ownership.
 // Aravis before Qt: GLib uses "signals" as a name.
 #include <arv.h>
@@ -98,6 +98,24 @@ private slots:
             rate.add(int64_t(i) * 100000000LL, 10);    // 10 fps for 3 s
         rate.rates(29LL * 100000000LL, fps, mbps);
         QVERIFY(qAbs(fps - 10.0) < 1e-6);
+    }
+
+    void normalEventThrottle()
+    {
+        CEventThrottle t(100);
+        QVERIFY(t.pass(5));        // the first always
+        QVERIFY(!t.pass(5));
+        QVERIFY(!t.pass(104));
+        QVERIFY(t.pass(105));      // a whole interval after the last one let through
+        QVERIFY(!t.pass(150));
+        QVERIFY(t.pass(1000));     // after a pause
+
+        // A stream's normal-frame events: ten a second whatever the frame rate.
+        GrabSession s;
+        int passed = 0;
+        for (int64_t i = 0; i < 60; ++i)
+            passed += s.normalEvents.pass(i * 16666667LL) ? 1 : 0;   // 60 fps for a second
+        QCOMPARE(passed, 10);
     }
 
     void counterMapping()

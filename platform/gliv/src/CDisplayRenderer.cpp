@@ -262,17 +262,7 @@ bool CDisplayRenderer::render(const CQtHybridFrame& frame, const SRenderRequest&
             cv::Mat region(src.height(), src.width(), CV_8UC1,
                            const_cast<uint8_t*>(frame.getRawData()) + size_t(src.top()) * stride + src.left(),
                            size_t(stride));
-            if (!prepareOutput(out, target))
-                return false;
-            cv::Mat dst = wrapOutput(out);
-            ensure(m_scratchA, size_t(target.width()) * target.height());
-            cv::Mat gray(target.height(), target.width(), CV_8UC1, m_scratchA.data());
-            if (target.width() <= src.width() && target.height() <= src.height())
-                shrink(region, gray, m_scratchB);
-            else
-                cv::resize(region, gray, gray.size(), 0, 0, upInterpolation(src, target));
-            cv::cvtColor(gray, dst, cv::COLOR_GRAY2BGRA);
-            return true;
+            return scaleToOutput(region, src, target, cv::COLOR_GRAY2BGRA, out);
         }
 
         // Any other format: the frame's own conversion to BGR, then scale.
@@ -282,20 +272,12 @@ bool CDisplayRenderer::render(const CQtHybridFrame& frame, const SRenderRequest&
         if (bgrData == nullptr || cw <= 0 || ch <= 0)
             return false;
         src = src.intersected(QRect(0, 0, cw, ch));
-        if (src.isEmpty() || !prepareOutput(out, target))
+        if (src.isEmpty())
             return false;
         cv::Mat region(src.height(), src.width(), CV_8UC3,
                        const_cast<unsigned char*>(bgrData) + (size_t(src.top()) * cw + src.left()) * 3,
                        size_t(cw) * 3);
-        cv::Mat dst = wrapOutput(out);
-        ensure(m_scratchA, size_t(target.width()) * target.height() * 3);
-        cv::Mat scaled(target.height(), target.width(), CV_8UC3, m_scratchA.data());
-        if (target.width() <= src.width() && target.height() <= src.height())
-            shrink(region, scaled, m_scratchB);
-        else
-            cv::resize(region, scaled, scaled.size(), 0, 0, upInterpolation(src, target));
-        cv::cvtColor(scaled, dst, cv::COLOR_BGR2BGRA);
-        return true;
+        return scaleToOutput(region, src, target, cv::COLOR_BGR2BGRA, out);
     } catch (...) {
         // OpenCV reports bad input by exception: nothing to show for this frame.
         return false;
@@ -365,6 +347,22 @@ bool CDisplayRenderer::probePixel(const CQtHybridFrame& frame, int x, int y, QSt
         return true;
     }
     return false;
+}
+
+bool CDisplayRenderer::scaleToOutput(const cv::Mat& region, const QRect& src, const QSize& target, int toBgra,
+                                     QImage& out)
+{
+    if (!prepareOutput(out, target))
+        return false;
+    cv::Mat dst = wrapOutput(out);
+    ensure(m_scratchA, size_t(target.width()) * target.height() * region.elemSize());
+    cv::Mat scaled(target.height(), target.width(), region.type(), m_scratchA.data());
+    if (target.width() <= src.width() && target.height() <= src.height())
+        shrink(region, scaled, m_scratchB);
+    else
+        cv::resize(region, scaled, scaled.size(), 0, 0, upInterpolation(src, target));
+    cv::cvtColor(scaled, dst, toBgra);
+    return true;
 }
 
 } // namespace Gliv

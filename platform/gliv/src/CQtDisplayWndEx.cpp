@@ -147,9 +147,8 @@ QPointF CQtDisplayWndEx::toImage(const QPointF& view) const
     if (!m_current.isNull())
         return m_current.toImage(view);
     const QSize image = knownImageSize();
-    const double s = CDisplayGeometry::scale(m_state, image);
-    const QPointF c = CDisplayGeometry::centre(m_state, image);
-    return c + (view - QPointF(width() / 2.0, height() / 2.0)) / s;
+    return CDisplayGeometry::centre(m_state, image) +
+           (view - QPointF(width() / 2.0, height() / 2.0)) / CDisplayGeometry::scale(m_state, image);
 }
 
 QPointF CQtDisplayWndEx::toView(const QPointF& image) const
@@ -157,9 +156,8 @@ QPointF CQtDisplayWndEx::toView(const QPointF& image) const
     if (!m_current.isNull())
         return m_current.toView(image);
     const QSize size = knownImageSize();
-    const double s = CDisplayGeometry::scale(m_state, size);
-    const QPointF c = CDisplayGeometry::centre(m_state, size);
-    return (image - c) * s + QPointF(width() / 2.0, height() / 2.0);
+    return (image - CDisplayGeometry::centre(m_state, size)) * CDisplayGeometry::scale(m_state, size) +
+           QPointF(width() / 2.0, height() / 2.0);
 }
 
 void CQtDisplayWndEx::addOverlay(const SOverlay& overlay)

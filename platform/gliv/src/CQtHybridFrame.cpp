@@ -416,46 +416,14 @@ uint64_t CQtHybridFrame::getRawDataSize() const
     return m_raw ? uint64_t(m_raw->size()) : 0;
 }
 
-uint64_t CQtHybridFrame::getBlockId() const
-{
-    return m_info.blockId;
-}
-
-uint32_t CQtHybridFrame::getPixelFormat() const
-{
-    return m_info.pixelFormat;
-}
-
-uint32_t CQtHybridFrame::getWidth() const
-{
-    return m_info.width;
-}
-
-uint32_t CQtHybridFrame::getHeight() const
-{
-    return m_info.height;
-}
-
-uint32_t CQtHybridFrame::getPaddingX() const
-{
-    return m_info.paddingX;
-}
-
-uint32_t CQtHybridFrame::getPaddingY() const
-{
-    return m_info.paddingY;
-}
-
-int CQtHybridFrame::getPayloadType() const
-{
-    return m_info.payloadType;
-}
-
-EBayerDemosaic CQtHybridFrame::getDemosaic() const
-{
-    return m_info.demosaic;
-}
-
+uint64_t CQtHybridFrame::getBlockId() const { return m_info.blockId; }
+uint32_t CQtHybridFrame::getPixelFormat() const { return m_info.pixelFormat; }
+uint32_t CQtHybridFrame::getWidth() const { return m_info.width; }
+uint32_t CQtHybridFrame::getHeight() const { return m_info.height; }
+uint32_t CQtHybridFrame::getPaddingX() const { return m_info.paddingX; }
+uint32_t CQtHybridFrame::getPaddingY() const { return m_info.paddingY; }
+int CQtHybridFrame::getPayloadType() const { return m_info.payloadType; }
+EBayerDemosaic CQtHybridFrame::getDemosaic() const { return m_info.demosaic; }
 void CQtHybridFrame::setChunkData(const char* text)
 {
     if (text)

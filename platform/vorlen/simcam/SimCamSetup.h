@@ -61,6 +61,17 @@ inline void setup(ArvFakeCamera* fake, const std::string& serial)
         writeString(fake, 0x0200, 512, text.substr(0, colon + 1) + "LumidorSimCam.xml" + text.substr(semicolon));
 }
 
+// Image geometry and pixel format (PFNC code); 0 keeps the camera's own.
+inline void setImage(ArvFakeCamera* fake, int width, int height, uint32_t pixelFormat)
+{
+    if (width > 0)
+        arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_WIDTH, uint32_t(width));
+    if (height > 0)
+        arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_HEIGHT, uint32_t(height));
+    if (pixelFormat)
+        arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_PIXEL_FORMAT, pixelFormat);
+}
+
 // Aravis' fake camera binds its control port with address reuse, so a second
 // camera on a taken address starts "successfully" and the two answer at
 // random. A plain bind tells whether the port is free.

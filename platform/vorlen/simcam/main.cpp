@@ -114,12 +114,7 @@ int main(int argc, char** argv)
     }
     ArvFakeCamera* fake = arv_gv_fake_camera_get_fake_camera(camera);
     SimCam::setup(fake, serial);
-    if (width > 0)
-        arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_WIDTH, uint32_t(width));
-    if (height > 0)
-        arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_HEIGHT, uint32_t(height));
-    if (pfCode)
-        arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_PIXEL_FORMAT, pfCode);
+    SimCam::setImage(fake, width, height, pfCode);
     if (fps > 0.0)
         arv_fake_camera_write_register(fake, ARV_FAKE_CAMERA_REGISTER_ACQUISITION_FRAME_PERIOD_US,
                                        uint32_t(1000000.0 / fps + 0.5));

@@ -281,12 +281,18 @@ bool CAravisCamera::isDriverInstalled(bool& installed) const
     return true;
 }
 
+bool CAravisCamera::requireGigE(const char* what) const
+{
+    if (isGigE())
+        return true;
+    setLastError(ERR_NOT_SUPPORTED, what);
+    return false;
+}
+
 bool CAravisCamera::setAnswerTimeout(unsigned short ms)
 {
-    if (!isGigE()) {
-        setLastError(ERR_NOT_SUPPORTED, "answer timeout is a GigE Vision setting");
+    if (!requireGigE("answer timeout is a GigE Vision setting"))
         return false;
-    }
     if (ms == 0) {
         setLastError(ERR_INVALID_PARAMETER, "answer timeout 0");
         return false;
@@ -302,10 +308,8 @@ bool CAravisCamera::setAnswerTimeout(unsigned short ms)
 
 bool CAravisCamera::setHeartbeatIntervel(unsigned short ms)
 {
-    if (!isGigE()) {
-        setLastError(ERR_NOT_SUPPORTED, "heartbeat is a GigE Vision setting");
+    if (!requireGigE("heartbeat is a GigE Vision setting"))
         return false;
-    }
     std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
     ArvDevice* device = arvDevice();
     if (!device) {
@@ -336,10 +340,8 @@ bool CAravisCamera::setHeartbeatIntervel(unsigned short ms)
 
 bool CAravisCamera::forceIpAddress(const char* ip, const char* mask, const char* gateway)
 {
-    if (!isGigE()) {
-        setLastError(ERR_NOT_SUPPORTED, "FORCEIP is a GigE Vision command");
+    if (!requireGigE("FORCEIP is a GigE Vision command"))
         return false;
-    }
     uint32_t newIp = 0, newMask = 0, newGateway = 0;
     if (!Gvcp::parseIp(ip, newIp) || !Gvcp::parseIp(mask, newMask)) {
         setLastError(ERR_INVALID_PARAMETER, "address or mask");

@@ -93,6 +93,8 @@ public:
 
 private:
     void releaseConnection(bool cameraAlive);
+    // True for a GigE Vision camera; otherwise false with ERR_NOT_SUPPORTED (what).
+    bool requireGigE(const char* what) const;
 
     mutable std::recursive_mutex m_gcMutex;
     struct SPrivate;

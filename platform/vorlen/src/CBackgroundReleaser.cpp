@@ -1,5 +1,7 @@
 #include "CBackgroundReleaser.h"
 
+#include "ThreadName.h"
+
 namespace Vorlen {
 namespace GenICam {
 
@@ -22,6 +24,7 @@ void CBackgroundReleaser::run(std::function<void()> release)
             // Moved, not copied: the thread must hold the only reference to
             // whatever release lets go of.
             r.thread = std::thread([release = std::move(release), done] {
+                nameThisThread("vorlen-release");
                 release();
                 done->store(true);
             });

@@ -1,45 +1,22 @@
 #include "CBooleanFeature.h"
 
 #include "CNodeAccess.h"
-#include "Vorlen/Infra/Error.h"
 
 namespace Vorlen {
 namespace GenICam {
 
-using namespace Infra;
-
-namespace {
-
-bool isBoolean(ArvGcNode* node)
-{
-    return ARV_IS_GC_BOOLEAN(node);
-}
-
-const CNodeAccess::SKind kBoolean{isBoolean, "not a boolean"};
-
-} // namespace
-
 bool CBooleanFeature::get(bool& value) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useRead, &kBoolean);
-    if (!a)
-        return false;
-    GError* e = nullptr;
-    const gboolean v = arv_gc_boolean_get_value(ARV_GC_BOOLEAN(a.node()), &e);
-    if (!a.check(e, ERR_READ_FAILED))
-        return false;
-    value = v != FALSE;
-    return a.succeed();
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useRead, &CNodeAccess::kBoolean);
+    return a && a.read(value, [&a](GError** e) {
+               return arv_gc_boolean_get_value(ARV_GC_BOOLEAN(a.node()), e) != FALSE;
+           });
 }
 
 bool CBooleanFeature::set(bool value) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &kBoolean);
-    if (!a)
-        return false;
-    GError* e = nullptr;
-    arv_gc_boolean_set_value(ARV_GC_BOOLEAN(a.node()), value, &e);
-    return a.check(e, ERR_WRITE_FAILED) && a.written();
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &CNodeAccess::kBoolean);
+    return a && a.write([&a, value](GError** e) { arv_gc_boolean_set_value(ARV_GC_BOOLEAN(a.node()), value, e); });
 }
 
 } // namespace GenICam

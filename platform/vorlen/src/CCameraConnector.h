@@ -28,6 +28,11 @@ public:
 
     // The connector of an interface kind; null for kinds without one.
     static std::unique_ptr<CCameraConnector> forType(EInterfaceType type);
+
+protected:
+    // Sets the last error to code with Aravis' text (consumed), logs the
+    // failure to connect the camera of key; false.
+    static bool failed(int code, const std::string& key, GError*& error);
 };
 
 } // namespace GenICam

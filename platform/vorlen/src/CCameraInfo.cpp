@@ -13,6 +13,8 @@ namespace GenICam {
 
 using namespace Infra;
 
+using Info = CAravisCamera::SDiscoveryInfo;
+
 namespace {
 
 constexpr uint32_t kIpConfigPersistent = 0x1;
@@ -31,6 +33,14 @@ bool info(const Memory::TSharedPtr<ICamera>& camera, CAravisCamera::SDiscoveryIn
     return true;
 }
 
+// One text of what discovery learnt; empty (and the last error set) for a
+// camera that is not ours.
+CString field(const Memory::TSharedPtr<ICamera>& camera, std::string CAravisCamera::SDiscoveryInfo::*member)
+{
+    CAravisCamera::SDiscoveryInfo i;
+    return info(camera, i) ? CString(i.*member) : CString();
+}
+
 } // namespace
 
 CInternalCameraInfo::CInternalCameraInfo(const Memory::TSharedPtr<ICamera>& camera) : m_camera(camera)
@@ -44,65 +54,21 @@ bool CInternalCameraInfo::isValid() const
     return toAravisCamera(m_camera) != nullptr;
 }
 
-CString CInternalCameraInfo::getModelName() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.model) : CString();
-}
-
-CString CInternalCameraInfo::getSerialNum() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.serial) : CString();
-}
-
-CString CInternalCameraInfo::getVenderName() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.vendor) : CString();
-}
-
-CString CInternalCameraInfo::getManufactureInfo() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.manufacturerInfo) : CString();
-}
-
-CString CInternalCameraInfo::getVersion() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.version) : CString();
-}
+CString CInternalCameraInfo::getModelName() const { return field(m_camera, &Info::model); }
+CString CInternalCameraInfo::getSerialNum() const { return field(m_camera, &Info::serial); }
+CString CInternalCameraInfo::getVenderName() const { return field(m_camera, &Info::vendor); }
+CString CInternalCameraInfo::getManufactureInfo() const { return field(m_camera, &Info::manufacturerInfo); }
+CString CInternalCameraInfo::getVersion() const { return field(m_camera, &Info::version); }
 
 CInternalGigECameraInfo::CInternalGigECameraInfo(const Memory::TSharedPtr<ICamera>& camera)
     : CInternalCameraInfo(camera)
 {
 }
 
-CString CInternalGigECameraInfo::getIpAddress() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.ipAddress) : CString();
-}
-
-CString CInternalGigECameraInfo::getSubnetMask() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.subnetMask) : CString();
-}
-
-CString CInternalGigECameraInfo::getGateway() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.gateway) : CString();
-}
-
-CString CInternalGigECameraInfo::getMacAddress() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.macAddress) : CString();
-}
-
+CString CInternalGigECameraInfo::getIpAddress() const { return field(m_camera, &Info::ipAddress); }
+CString CInternalGigECameraInfo::getSubnetMask() const { return field(m_camera, &Info::subnetMask); }
+CString CInternalGigECameraInfo::getGateway() const { return field(m_camera, &Info::gateway); }
+CString CInternalGigECameraInfo::getMacAddress() const { return field(m_camera, &Info::macAddress); }
 CString CInternalGigECameraInfo::getIpconfig() const
 {
     CAravisCamera::SDiscoveryInfo i;
@@ -179,11 +145,7 @@ CInternalUsbCameraInfo::CInternalUsbCameraInfo(const Memory::TSharedPtr<ICamera>
 {
 }
 
-CString CInternalUsbCameraInfo::getDeviceGuid() const
-{
-    CAravisCamera::SDiscoveryInfo i;
-    return info(m_camera, i) ? CString(i.usbGuid) : CString();
-}
+CString CInternalUsbCameraInfo::getDeviceGuid() const { return field(m_camera, &Info::usbGuid); }
 
 bool CInternalUsbCameraInfo::getDriverValid() const
 {

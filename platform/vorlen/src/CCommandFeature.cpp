@@ -10,13 +10,6 @@ using namespace Infra;
 
 namespace {
 
-bool isCommand(ArvGcNode* node)
-{
-    return ARV_IS_GC_COMMAND(node);
-}
-
-const CNodeAccess::SKind kCommand{isCommand, "not a command"};
-
 // The property given directly or by reference, or null.
 ArvGcPropertyNode* either(ArvGcNode* node, ArvGcPropertyNodeType linked, ArvGcPropertyNodeType direct)
 {
@@ -28,17 +21,13 @@ ArvGcPropertyNode* either(ArvGcNode* node, ArvGcPropertyNodeType linked, ArvGcPr
 
 bool CCommandFeature::execute() const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &kCommand);
-    if (!a)
-        return false;
-    GError* e = nullptr;
-    arv_gc_command_execute(ARV_GC_COMMAND(a.node()), &e);
-    return a.check(e, ERR_WRITE_FAILED) && a.written();
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &CNodeAccess::kCommand);
+    return a && a.write([&a](GError** e) { arv_gc_command_execute(ARV_GC_COMMAND(a.node()), e); });
 }
 
 bool CCommandFeature::isDone(bool& done) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &kCommand);
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &CNodeAccess::kCommand);
     if (!a)
         return false;
     ArvGcPropertyNode* valueProp =
@@ -54,15 +43,12 @@ bool CCommandFeature::isDone(bool& done) const
                               ARV_GC_ACCESS_MODE_WO;
     if (!readable)
         return a.succeed();
-    GError* e = nullptr;
-    const gint64 current = arv_gc_property_node_get_int64(valueProp, &e);
-    if (!a.check(e, ERR_READ_FAILED))
-        return false;
-    const gint64 command = arv_gc_property_node_get_int64(commandProp, &e);
-    if (!a.check(e, ERR_READ_FAILED))
+    int64_t current = 0, command = 0;
+    if (!a.read(current, [valueProp](GError** e) { return arv_gc_property_node_get_int64(valueProp, e); }) ||
+        !a.read(command, [commandProp](GError** e) { return arv_gc_property_node_get_int64(commandProp, e); }))
         return false;
     done = current != command;
-    return a.succeed();
+    return true;
 }
 
 } // namespace GenICam

@@ -14,13 +14,6 @@ using namespace Infra;
 
 namespace {
 
-bool isEnumeration(ArvGcNode* node)
-{
-    return ARV_IS_GC_ENUMERATION(node);
-}
-
-const CNodeAccess::SKind kEnumeration{isEnumeration, "not an enumeration"};
-
 std::vector<ArvGcFeatureNode*> entryNodes(ArvGcNode* enumeration)
 {
     std::vector<ArvGcFeatureNode*> entries;
@@ -50,20 +43,15 @@ gint64 entryValue(ArvGcFeatureNode* entry, GError** e)
 
 bool CEnumerationFeature::get(unsigned long& value) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useRead, &kEnumeration);
-    if (!a)
-        return false;
-    GError* e = nullptr;
-    const gint64 v = arv_gc_enumeration_get_int_value(ARV_GC_ENUMERATION(a.node()), &e);
-    if (!a.check(e, ERR_READ_FAILED))
-        return false;
-    value = static_cast<unsigned long>(v);
-    return a.succeed();
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useRead, &CNodeAccess::kEnumeration);
+    return a && a.read(value, [&a](GError** e) {
+               return arv_gc_enumeration_get_int_value(ARV_GC_ENUMERATION(a.node()), e);
+           });
 }
 
 bool CEnumerationFeature::set(unsigned long value) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &kEnumeration);
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &CNodeAccess::kEnumeration);
     if (!a)
         return false;
     GError* e = nullptr;
@@ -85,24 +73,23 @@ bool CEnumerationFeature::set(unsigned long value) const
         std::snprintf(text, sizeof(text), "no entry with the value %lu", value);
         return a.fail(ERR_OUT_OF_RANGE, text);
     }
-    arv_gc_enumeration_set_int_value(ARV_GC_ENUMERATION(a.node()), gint64(value), &e);
-    return a.check(e, ERR_WRITE_FAILED) && a.written();
+    return a.write([&a, value](GError** e) {
+        arv_gc_enumeration_set_int_value(ARV_GC_ENUMERATION(a.node()), gint64(value), e);
+    });
 }
 
 bool CEnumerationFeature::setBySymbol(const CString& symbol) const
 {
     gint64 value = 0;
     {
-        CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &kEnumeration);
+        CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &CNodeAccess::kEnumeration);
         if (!a)
             return false;
         bool found = false;
         for (ArvGcFeatureNode* entry : entryNodes(a.node())) {
             if (entrySymbol(entry, m_name) != symbol.str())
                 continue;
-            GError* e = nullptr;
-            value = entryValue(entry, &e);
-            if (!a.check(e, ERR_READ_FAILED))
+            if (!a.read(value, [entry](GError** e) { return entryValue(entry, e); }))
                 return false;
             found = true;
             break;
@@ -116,7 +103,7 @@ bool CEnumerationFeature::setBySymbol(const CString& symbol) const
 bool CEnumerationFeature::entries(TVector<CInternalParameterNode::SEnumEntry>& entries) const
 {
     entries.clear();
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &kEnumeration);
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &CNodeAccess::kEnumeration);
     if (!a)
         return false;
     for (ArvGcFeatureNode* entry : entryNodes(a.node())) {

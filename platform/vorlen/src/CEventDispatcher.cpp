@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+#include "ThreadName.h"
+
 namespace Vorlen {
 namespace GenICam {
 
@@ -81,6 +83,7 @@ void CEventDispatcher::stop()
 void CEventDispatcher::run()
 {
     t_current = this;
+    nameThisThread("vorlen-events");
     for (;;) {
         std::function<void()> task;
         {

@@ -5,6 +5,8 @@
 namespace Vorlen {
 namespace GenICam {
 
+class CNodeAccess;
+
 class CFloatFeature : public CFeatureOperations
 {
 public:
@@ -17,6 +19,10 @@ public:
     bool range(double& max, double& min) const;
     bool increment(double& inc) const;   // ERR_NOT_SUPPORTED when the float has none
     bool displayPrecision(long& precision) const;
+
+private:
+    // Lowest and highest value, in that order whatever the formula.
+    static bool bounds(const CNodeAccess& a, double& max, double& min);
 };
 
 } // namespace GenICam

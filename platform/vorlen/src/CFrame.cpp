@@ -6,6 +6,17 @@
 namespace Vorlen {
 namespace GenICam {
 
+namespace {
+
+// A field of the frame record; zero for an empty frame.
+template <class T>
+T value(const Memory::TSharedPtr<CFrame::SData>& data, T CFrame::SData::*member)
+{
+    return data ? (*data).*member : T();
+}
+
+} // namespace
+
 CFrame::CFrame() = default;
 CFrame::CFrame(const Memory::TSharedPtr<SData>& data) : m_data(data) {}
 CFrame::~CFrame() = default;
@@ -33,60 +44,17 @@ bool CFrame::getPayLoadTypes(TVector<EPayloadType>& types) const
     return true;
 }
 
-uint64_t CFrame::getBlockId() const
-{
-    return m_data ? m_data->blockId : 0;
-}
-
-const unsigned char* CFrame::getImage() const
-{
-    return m_data ? m_data->image : nullptr;
-}
-
-uint64_t CFrame::getImageSize() const
-{
-    return m_data ? m_data->imageSize : 0;
-}
-
-uint32_t CFrame::getImageWidth() const
-{
-    return m_data ? m_data->width : 0;
-}
-
-uint32_t CFrame::getImageHeight() const
-{
-    return m_data ? m_data->height : 0;
-}
-
-uint32_t CFrame::getImagePadddingX() const
-{
-    return m_data ? m_data->paddingX : 0;
-}
-
-uint32_t CFrame::getImagePadddingY() const
-{
-    return m_data ? m_data->paddingY : 0;
-}
-
-uint32_t CFrame::getImagePixelFormat() const
-{
-    return m_data ? m_data->pixelFormat : 0;
-}
-
-uint64_t CFrame::getImageTimeStamp() const
-{
-    return m_data ? m_data->timestamp : 0;
-}
-
-uint64_t CFrame::getImageOffsetX() const
-{
-    return m_data ? m_data->offsetX : 0;
-}
-
-uint64_t CFrame::getImageOffsetY() const
-{
-    return m_data ? m_data->offsetY : 0;
-}
+uint64_t CFrame::getBlockId() const { return value(m_data, &SData::blockId); }
+const unsigned char* CFrame::getImage() const { return value(m_data, &SData::image); }
+uint64_t CFrame::getImageSize() const { return value(m_data, &SData::imageSize); }
+uint32_t CFrame::getImageWidth() const { return value(m_data, &SData::width); }
+uint32_t CFrame::getImageHeight() const { return value(m_data, &SData::height); }
+uint32_t CFrame::getImagePadddingX() const { return value(m_data, &SData::paddingX); }
+uint32_t CFrame::getImagePadddingY() const { return value(m_data, &SData::paddingY); }
+uint32_t CFrame::getImagePixelFormat() const { return value(m_data, &SData::pixelFormat); }
+uint64_t CFrame::getImageTimeStamp() const { return value(m_data, &SData::timestamp); }
+uint64_t CFrame::getImageOffsetX() const { return value(m_data, &SData::offsetX); }
+uint64_t CFrame::getImageOffsetY() const { return value(m_data, &SData::offsetY); }
 
 uint32_t CFrame::getChunkCount() const
 {

@@ -15,11 +15,6 @@ namespace {
 
 constexpr uint32_t kCcpExclusive = 0x1;
 
-std::string errorText(GError* error)
-{
-    return error && error->message ? error->message : "";
-}
-
 // The local address Aravis talks to the camera from.
 uint32_t interfaceIp(ArvGvDevice* device)
 {
@@ -73,12 +68,8 @@ bool CGigEConnector::open(const CAravisCamera::SDiscoveryInfo& info, ECameraAcce
     GError* error = nullptr;
     ArvCamera* camera = arv_camera_new_with_device(device, &error);
     g_object_unref(device);
-    if (!camera) {
-        setLastError(ERR_IO, errorText(error).c_str());
-        LOG_ERROR("connect %s: %s", info.key.c_str(), errorText(error).c_str());
-        g_clear_error(&error);
-        return false;
-    }
+    if (!camera)
+        return failed(ERR_IO, info.key, error);
     out.camera = camera;
     out.hostIp = hostIp;
     out.permission = permission;
@@ -102,11 +93,8 @@ ArvDevice* CGigEConnector::openDevice(const CAravisCamera::SDiscoveryInfo& info,
     }
     g_object_unref(interfaceAddress);
     g_object_unref(deviceAddress);
-    if (!device) {
-        setLastError(ERR_TIMEOUT, errorText(error).c_str());
-        LOG_ERROR("connect %s: %s", info.key.c_str(), errorText(error).c_str());
-        g_clear_error(&error);
-    }
+    if (!device)
+        failed(ERR_TIMEOUT, info.key, error);
     return device;
 }
 
@@ -118,7 +106,7 @@ ECameraAccessPermission CGigEConnector::settlePrivilege(ArvDevice* device, const
         GError* error = nullptr;
         if (!arv_device_write_register(device, Gvcp::REG_CCP, kCcpExclusive, &error)) {
             LOG_WARN("connect %s: exclusive access refused, keeping control: %s", info.key.c_str(),
-                     errorText(error).c_str());
+                     error && error->message ? error->message : "");
             g_clear_error(&error);
             return accessPermissionControl;
         }

@@ -6,6 +6,8 @@
 namespace Vorlen {
 namespace GenICam {
 
+class CNodeAccess;
+
 class CIntegerFeature : public CFeatureOperations
 {
 public:
@@ -16,6 +18,9 @@ public:
     bool set(long value) const;
     bool range(long& max, long& min) const;
     bool increment(long& inc) const;   // 1 when the feature has none
+
+private:
+    static bool bounds(const CNodeAccess& a, long& max, long& min);
 };
 
 } // namespace GenICam

@@ -47,9 +47,19 @@ struct CInternalStreamSource::SImpl
     bool start(unsigned long maxImages, EGrabStrategy strategy);
     bool stop();
     bool getFrame(CFrame& frame, unsigned int timeoutMs);
-    // True when a setting may change now: the camera is of the kind the
-    // setting is for (typeUndefined: any), the value is valid and the
+    // Changes a setting when it may change now: the camera is of the kind
+    // the setting is for (typeUndefined: any), the value is valid and the
     // stream is not grabbing. Otherwise false with the last error set.
+    template <class Apply>
+    bool change(EInterfaceType kind, bool valid, int invalidCode, const char* invalidText, Apply apply)
+    {
+        std::lock_guard<std::mutex> api(apiMutex);
+        if (!settingAccepted(kind, valid, invalidCode, invalidText))
+            return false;
+        apply(settings);
+        clearLastError();
+        return true;
+    }
     bool settingAccepted(EInterfaceType kind, bool valid, int invalidCode, const char* invalidText);
 
     bool grabbing() const;
@@ -340,71 +350,52 @@ CInternalStreamSource::~CInternalStreamSource() = default;
 
 bool CInternalStreamSource::setBufferCount(unsigned int count)
 {
-    std::lock_guard<std::mutex> api(d->apiMutex);
-    if (!d->settingAccepted(typeUndefined, count > 0, Infra::ERR_INVALID_PARAMETER, "buffer count 0"))
-        return false;
-    d->settings.bufferCount = count;
-    clearLastError();
-    return true;
+    return d->change(typeUndefined, count > 0, Infra::ERR_INVALID_PARAMETER, "buffer count 0",
+                     [count](CStreamSettings& s) { s.bufferCount = count; });
 }
 
 bool CInternalStreamSource::setInterPacketTimeout(unsigned int ms)
 {
-    std::lock_guard<std::mutex> api(d->apiMutex);
-    if (!d->settingAccepted(typeGigEVision, true, Infra::ERR_OK, nullptr))
-        return false;
-    d->settings.interPacketTimeoutSet = true;
-    d->settings.interPacketTimeoutMs = ms;
-    clearLastError();
-    return true;
+    return d->change(typeGigEVision, true, Infra::ERR_OK, nullptr, [ms](CStreamSettings& s) {
+        s.interPacketTimeoutSet = true;
+        s.interPacketTimeoutMs = ms;
+    });
 }
 
 bool CInternalStreamSource::setSingleResendMaxPacketNum(unsigned int count)
 {
-    std::lock_guard<std::mutex> api(d->apiMutex);
-    if (!d->settingAccepted(typeGigEVision, true, Infra::ERR_OK, nullptr))
-        return false;
-    // 0 turns resends off; Aravis has no per-request packet limit, so any
-    // other count leaves resends as Aravis and the camera agree on.
-    if (count > 0)
-        LOG_WARN("SingleResendMaxPacketNum %u has no counterpart in the receiver; packet resend stays enabled", count);
-    d->settings.resendSet = true;
-    d->settings.singleResendMax = count;
-    clearLastError();
-    return true;
+    return d->change(typeGigEVision, true, Infra::ERR_OK, nullptr, [count](CStreamSettings& s) {
+        // 0 turns resends off; Aravis has no per-request packet limit, so
+        // any other count leaves resends as Aravis and the camera agree on.
+        if (count > 0)
+            LOG_WARN("SingleResendMaxPacketNum %u has no counterpart in the receiver; packet resend stays enabled",
+                     count);
+        s.resendSet = true;
+        s.singleResendMax = count;
+    });
 }
 
 bool CInternalStreamSource::setMaxLostPacketNum(unsigned int count)
 {
-    std::lock_guard<std::mutex> api(d->apiMutex);
-    if (!d->settingAccepted(typeGigEVision, true, Infra::ERR_OK, nullptr))
-        return false;
-    d->settings.maxLostSet = true;
-    d->settings.maxLostPackets = count;
-    clearLastError();
-    return true;
+    return d->change(typeGigEVision, true, Infra::ERR_OK, nullptr, [count](CStreamSettings& s) {
+        s.maxLostSet = true;
+        s.maxLostPackets = count;
+    });
 }
 
 bool CInternalStreamSource::setUrbTransfer(unsigned int count, unsigned int size)
 {
-    std::lock_guard<std::mutex> api(d->apiMutex);
-    if (!d->settingAccepted(typeUsb3Vision, true, Infra::ERR_OK, nullptr))
-        return false;
-    LOG_WARN("urb number count %u, urb size count %u have no counterpart in the receiver; its own transfer sizes are used",
-             count, size);
-    clearLastError();
-    return true;
+    return d->change(typeUsb3Vision, true, Infra::ERR_OK, nullptr, [count, size](CStreamSettings&) {
+        LOG_WARN("urb number count %u, urb size count %u have no counterpart in the receiver; its own transfer "
+                 "sizes are used",
+                 count, size);
+    });
 }
 
 bool CInternalStreamSource::setPacketSize(unsigned int bytes)
 {
-    std::lock_guard<std::mutex> api(d->apiMutex);
-    if (!d->settingAccepted(typeGigEVision, bytes > 0 && bytes <= 65535, Infra::ERR_OUT_OF_RANGE,
-                            "packet size 1 to 65535"))
-        return false;
-    d->settings.packetSize = bytes;
-    clearLastError();
-    return true;
+    return d->change(typeGigEVision, bytes > 0 && bytes <= 65535, Infra::ERR_OUT_OF_RANGE, "packet size 1 to 65535",
+                     [bytes](CStreamSettings& s) { s.packetSize = bytes; });
 }
 
 bool CInternalStreamSource::startGrabbing(unsigned long maxImages, EGrabStrategy strategy)

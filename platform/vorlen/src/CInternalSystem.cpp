@@ -5,7 +5,6 @@
 
 #include "CAravisCamera.h"
 #include "CGigEHostInterfaceInfo.h"
-#include "CLibraryLifetime.h"
 #include "CUsbHostInterfaceInfo.h"
 #include "Vorlen/Infra/Error.h"
 
@@ -14,17 +13,6 @@ namespace GenICam {
 
 using namespace Infra;
 using Memory::TSharedPtr;
-
-CInternalSystem& CInternalSystem::getInstance()
-{
-    static CInternalSystem instance;
-    return instance;
-}
-
-void CInternalSystem::shutdownInstance()
-{
-    CLibraryLifetime::shutdown();
-}
 
 TSharedPtrGigEInterfaceInfo CInternalSystem::getGigEInterfaceInfoByCamera(const TSharedPtr<ICamera>& camera)
 {

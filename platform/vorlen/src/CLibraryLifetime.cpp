@@ -6,6 +6,7 @@
 #include "CCameraRegistry.h"
 #include "EventHub.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "Vorlen/GenICam/CSystem.h"
 #include "Vorlen/Infra/Error.h"
 
 namespace Vorlen {
@@ -28,6 +29,22 @@ void CLibraryLifetime::shutdown()
     EventHub::shutdown();
     LOG_DEBUG("camera library shut down, %zu camera(s) closed", cameras.size());
 }
+
+// The public singletons and the entry points of their end.
+CSystem& CSystem::getInstance()
+{
+    static CSystem instance;
+    return instance;
+}
+
+CInternalSystem& CInternalSystem::getInstance()
+{
+    static CInternalSystem instance;
+    return instance;
+}
+
+void CSystem::shutdownInstance() { CLibraryLifetime::shutdown(); }
+void CInternalSystem::shutdownInstance() { CLibraryLifetime::shutdown(); }
 
 bool CLibraryLifetime::isShutDown()
 {

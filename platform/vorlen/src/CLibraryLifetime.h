@@ -1,5 +1,6 @@
 #pragma once
-// The end of the camera library's life. shutdown() closes every camera
+// The life of the camera library: its public singletons (CSystem,
+// CInternalSystem) are made here, and end here. shutdown() closes every camera
 // (stopping their watchdogs and message channels), waits for the releases
 // of lost cameras under way, and ends event delivery. Afterwards discovery,
 // connecting and subscribing fail with ERR_INVALID_HANDLE ("the camera

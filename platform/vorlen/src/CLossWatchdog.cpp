@@ -4,6 +4,7 @@
 
 #include "CWatchdogClock.h"
 #include "Gvcp.h"
+#include "ThreadName.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 #include "Vorlen/Infra/Error.h"
 
@@ -42,6 +43,7 @@ void CLossWatchdog::stop()
 void CLossWatchdog::run(uint32_t cameraIp, const std::atomic<unsigned int>& heartbeatMs,
                         const std::atomic<unsigned int>& answerTimeoutMs, const std::function<void()>& onSilent)
 {
+    nameThisThread("vorlen-watchdog");
     const std::shared_ptr<CWatchdogClock> clock = CWatchdogClock::current();
     int64_t lastAnswer = clock->nowMs();
     for (;;) {

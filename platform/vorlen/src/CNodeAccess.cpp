@@ -61,7 +61,25 @@ int presence(ArvGcFeatureNode* f)
     return code;
 }
 
+bool isInteger(ArvGcNode* n) { return ARV_IS_GC_INTEGER(n); }
+bool isPlainInteger(ArvGcNode* n) { return ARV_IS_GC_INTEGER(n) && !ARV_IS_GC_ENUMERATION(n); }
+bool isFloat(ArvGcNode* n) { return ARV_IS_GC_FLOAT(n) && CNodeAccess::typeOf(n) == T::featureTypeFloat; }
+bool isBoolean(ArvGcNode* n) { return ARV_IS_GC_BOOLEAN(n); }
+bool isString(ArvGcNode* n) { return ARV_IS_GC_STRING(n) && CNodeAccess::typeOf(n) == T::featureTypeString; }
+bool isEnumeration(ArvGcNode* n) { return ARV_IS_GC_ENUMERATION(n); }
+bool isRegister(ArvGcNode* n) { return ARV_IS_GC_REGISTER(n); }
+bool isCommand(ArvGcNode* n) { return ARV_IS_GC_COMMAND(n); }
+
 } // namespace
+
+const CNodeAccess::SKind CNodeAccess::kInteger{isInteger, "not an integer"};
+const CNodeAccess::SKind CNodeAccess::kPlainInteger{isPlainInteger, "not an integer"};
+const CNodeAccess::SKind CNodeAccess::kFloat{isFloat, "not a float"};
+const CNodeAccess::SKind CNodeAccess::kBoolean{isBoolean, "not a boolean"};
+const CNodeAccess::SKind CNodeAccess::kString{isString, "not a string"};
+const CNodeAccess::SKind CNodeAccess::kEnumeration{isEnumeration, "not an enumeration"};
+const CNodeAccess::SKind CNodeAccess::kRegister{isRegister, "not a register"};
+const CNodeAccess::SKind CNodeAccess::kCommand{isCommand, "not a command"};
 
 CNodeAccess::CNodeAccess(const Memory::TSharedPtr<ICamera>& camera, const CString& name, EUse use,
                          const SKind* kind)
@@ -177,27 +195,31 @@ ArvGcPropertyNode* CNodeAccess::property(ArvGcNode* node, ArvGcPropertyNodeType 
 
 int CNodeAccess::readability(ArvGcNode* node)
 {
-    ArvGcFeatureNode* f = ARV_GC_FEATURE_NODE(node);
-    if (!isValueType(typeOf(node)))
-        return ERR_NOT_READABLE;
-    if (const int code = presence(f))
-        return code;
-    return arv_gc_feature_node_get_actual_access_mode(f) == ARV_GC_ACCESS_MODE_WO ? ERR_NOT_READABLE : ERR_OK;
+    return usability(node, false);
 }
 
 int CNodeAccess::writability(ArvGcNode* node)
 {
+    return usability(node, true);
+}
+
+int CNodeAccess::usability(ArvGcNode* node, bool forWrite)
+{
+    const int refused = forWrite ? ERR_NOT_WRITABLE : ERR_NOT_READABLE;
     ArvGcFeatureNode* f = ARV_GC_FEATURE_NODE(node);
     if (!isValueType(typeOf(node)))
-        return ERR_NOT_WRITABLE;
+        return refused;
     if (const int code = presence(f))
         return code;
-    GError* e = nullptr;
-    const bool locked = arv_gc_feature_node_is_locked(f, &e);
-    g_clear_error(&e);
-    if (locked)
-        return ERR_NOT_WRITABLE;
-    return arv_gc_feature_node_get_actual_access_mode(f) == ARV_GC_ACCESS_MODE_RO ? ERR_NOT_WRITABLE : ERR_OK;
+    if (forWrite) {
+        GError* e = nullptr;
+        const bool locked = arv_gc_feature_node_is_locked(f, &e);
+        g_clear_error(&e);
+        if (locked)
+            return refused;
+    }
+    const ArvGcAccessMode excluded = forWrite ? ARV_GC_ACCESS_MODE_RO : ARV_GC_ACCESS_MODE_WO;
+    return arv_gc_feature_node_get_actual_access_mode(f) == excluded ? refused : ERR_OK;
 }
 
 } // namespace GenICam

@@ -11,6 +11,7 @@
 
 #include "CAravisCamera.h"
 #include "Vorlen/GenICam/CInternalParameterNode.h"
+#include "Vorlen/Infra/Error.h"
 
 namespace Vorlen {
 namespace GenICam {
@@ -31,6 +32,10 @@ public:
         bool (*matches)(ArvGcNode* node);
         const char* mismatch;
     };
+    // Integers (reading works on an enumeration's value too), integers
+    // proper, floats (not integers read as floats), booleans, strings,
+    // enumerations, registers, commands.
+    static const SKind kInteger, kPlainInteger, kFloat, kBoolean, kString, kEnumeration, kRegister, kCommand;
 
     CNodeAccess(const Memory::TSharedPtr<ICamera>& camera, const CString& name, EUse use = useDescribe,
                 const SKind* kind = nullptr);
@@ -52,6 +57,27 @@ public:
     bool fail(int code, const std::string& more = std::string()) const;
     // Clears the last error; true.
     bool succeed() const;
+    // Reads one value: get(GError**) is Aravis' call; on success out takes
+    // its result and the last error is cleared.
+    template <class T, class Get>
+    bool read(T& out, Get get, int fallback = Infra::ERR_READ_FAILED) const
+    {
+        GError* e = nullptr;
+        const auto value = get(&e);
+        if (!check(e, fallback))
+            return false;
+        out = T(value);
+        return succeed();
+    }
+    // Writes: set(GError**) is Aravis' call; on success the change is
+    // published (written()).
+    template <class Set>
+    bool write(Set set) const
+    {
+        GError* e = nullptr;
+        set(&e);
+        return check(e, Infra::ERR_WRITE_FAILED) && written();
+    }
     // After a successful write: tells the camera's subscribers which
     // features may have changed with it, then succeed().
     bool written() const;
@@ -65,6 +91,7 @@ public:
 
 private:
     bool resolve(EUse use, const SKind* kind);
+    static int usability(ArvGcNode* node, bool forWrite);
 
     const Memory::TSharedPtr<ICamera>& m_cameraPtr;
     const CString& m_name;

@@ -15,37 +15,28 @@ namespace {
 
 constexpr guint64 kMaxLength = 16u * 1024 * 1024;
 
-bool isRegister(ArvGcNode* node)
-{
-    return ARV_IS_GC_REGISTER(node);
-}
-
-const CNodeAccess::SKind kRegister{isRegister, "not a register"};
-
 // The register's length, or false with the last error set.
 bool lengthOf(const CNodeAccess& a, guint64& length)
 {
-    GError* e = nullptr;
-    length = arv_gc_register_get_length(ARV_GC_REGISTER(a.node()), &e);
-    return a.check(e, ERR_READ_FAILED);
+    return a.read(length, [&a](GError** e) { return arv_gc_register_get_length(ARV_GC_REGISTER(a.node()), e); });
 }
 
 } // namespace
 
 bool CRegisterFeature::length(long& length) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &kRegister);
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &CNodeAccess::kRegister);
     guint64 v = 0;
     if (!a || !lengthOf(a, v))
         return false;
     length = long(v);
-    return a.succeed();
+    return true;
 }
 
 bool CRegisterFeature::get(TVector<unsigned char>& bytes) const
 {
     bytes.clear();
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useRead, &kRegister);
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useRead, &CNodeAccess::kRegister);
     guint64 length = 0;
     if (!a || !lengthOf(a, length))
         return false;
@@ -63,7 +54,7 @@ bool CRegisterFeature::get(TVector<unsigned char>& bytes) const
 
 bool CRegisterFeature::set(const TVector<unsigned char>& bytes) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &kRegister);
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &CNodeAccess::kRegister);
     guint64 length = 0;
     if (!a || !lengthOf(a, length))
         return false;
@@ -73,9 +64,9 @@ bool CRegisterFeature::set(const TVector<unsigned char>& bytes) const
                       uint64_t(length));
         return a.fail(ERR_INVALID_PARAMETER, text);
     }
-    GError* e = nullptr;
-    arv_gc_register_set(ARV_GC_REGISTER(a.node()), bytes.data(), length, &e);
-    return a.check(e, ERR_WRITE_FAILED) && a.written();
+    return a.write([&a, &bytes, length](GError** e) {
+        arv_gc_register_set(ARV_GC_REGISTER(a.node()), bytes.data(), length, e);
+    });
 }
 
 } // namespace GenICam

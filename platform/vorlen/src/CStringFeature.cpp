@@ -4,66 +4,42 @@
 #include <cstdio>
 
 #include "CNodeAccess.h"
-#include "Vorlen/Infra/Error.h"
 
 namespace Vorlen {
 namespace GenICam {
 
 using namespace Infra;
 
-namespace {
-
-bool isString(ArvGcNode* node)
-{
-    return ARV_IS_GC_STRING(node) && CNodeAccess::typeOf(node) == CInternalParameterNode::featureTypeString;
-}
-
-const CNodeAccess::SKind kString{isString, "not a string"};
-
-} // namespace
-
 bool CStringFeature::get(CString& value) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useRead, &kString);
-    if (!a)
-        return false;
-    GError* e = nullptr;
-    const char* v = arv_gc_string_get_value(ARV_GC_STRING(a.node()), &e);
-    if (!a.check(e, ERR_READ_FAILED))
-        return false;
-    value = v;
-    return a.succeed();
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useRead, &CNodeAccess::kString);
+    return a && a.read(value, [&a](GError** e) {
+               return CString(arv_gc_string_get_value(ARV_GC_STRING(a.node()), e));
+           });
 }
 
 bool CStringFeature::set(const CString& value) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &kString);
-    if (!a)
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useWrite, &CNodeAccess::kString);
+    int64_t maxLength = 0;
+    if (!a || !a.read(maxLength, [&a](GError** e) { return arv_gc_string_get_max_length(ARV_GC_STRING(a.node()), e); }))
         return false;
-    GError* e = nullptr;
-    const gint64 maxLength = arv_gc_string_get_max_length(ARV_GC_STRING(a.node()), &e);
-    if (!a.check(e, ERR_READ_FAILED))
-        return false;
-    if (maxLength > 0 && gint64(value.size()) > maxLength) {
+    if (maxLength > 0 && int64_t(value.size()) > maxLength) {
         char text[96];
         std::snprintf(text, sizeof(text), "%zu characters, at most %" PRId64, value.size(), maxLength);
         return a.fail(ERR_OUT_OF_RANGE, text);
     }
-    arv_gc_string_set_value(ARV_GC_STRING(a.node()), value.c_str(), &e);
-    return a.check(e, ERR_WRITE_FAILED) && a.written();
+    return a.write([&a, &value](GError** e) { arv_gc_string_set_value(ARV_GC_STRING(a.node()), value.c_str(), e); });
 }
 
 bool CStringFeature::maxLength(unsigned int& length) const
 {
-    CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &kString);
-    if (!a)
-        return false;
-    GError* e = nullptr;
-    const gint64 v = arv_gc_string_get_max_length(ARV_GC_STRING(a.node()), &e);
-    if (!a.check(e, ERR_READ_FAILED))
+    CNodeAccess a(m_camera, m_name, CNodeAccess::useDescribe, &CNodeAccess::kString);
+    int64_t v = 0;
+    if (!a || !a.read(v, [&a](GError** e) { return arv_gc_string_get_max_length(ARV_GC_STRING(a.node()), e); }))
         return false;
     length = v > 0 ? unsigned(v) : 0;
-    return a.succeed();
+    return true;
 }
 
 } // namespace GenICam

@@ -15,17 +15,6 @@ namespace GenICam {
 using namespace Infra;
 using Memory::TSharedPtr;
 
-CSystem& CSystem::getInstance()
-{
-    static CSystem instance;
-    return instance;
-}
-
-void CSystem::shutdownInstance()
-{
-    CLibraryLifetime::shutdown();
-}
-
 bool CSystem::discovery(TVector<TSharedPtr<ICamera>>& cameras, EInterfaceType type)
 {
     cameras.clear();

@@ -1,7 +1,6 @@
 #include "CUsbConnector.h"
 
 #include "AravisSystem.h"
-#include "Tavlog4cpp/TavLogMacros.h"
 #include "Vorlen/Infra/Error.h"
 
 namespace Vorlen {
@@ -18,13 +17,8 @@ bool CUsbConnector::open(const CAravisCamera::SDiscoveryInfo& info, ECameraAcces
         std::lock_guard<std::mutex> systemLock(aravisSystemMutex());
         camera = arv_camera_new(info.arvId.c_str(), &error);
     }
-    if (!camera) {
-        const std::string text = error && error->message ? error->message : "";
-        setLastError(ERR_IO, text.c_str());
-        LOG_ERROR("connect %s: %s", info.key.c_str(), text.c_str());
-        g_clear_error(&error);
-        return false;
-    }
+    if (!camera)
+        return failed(ERR_IO, info.key, error);
     out.camera = camera;
     out.hostIp = 0;
     out.permission = permission;

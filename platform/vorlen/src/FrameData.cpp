@@ -50,20 +50,28 @@ uint64_t markerAt(uint64_t packet)
     return kPacketMarker ^ (packet * 0x9E3779B97F4A7C15ULL);
 }
 
+// Calls visit(place, marker, bytes) for every packet place that starts
+// inside the first size bytes.
+template <class Visit>
+void forEachPlace(const PacketMarks& marks, size_t size, Visit visit)
+{
+    const uint64_t n = marks.packetCount();
+    for (uint64_t k = 0; k < n; ++k) {
+        const size_t offset = size_t(k) * marks.blockSize;
+        if (offset >= size)
+            break;
+        visit(offset, markerAt(k), std::min<size_t>(sizeof(uint64_t), size - offset));
+    }
+}
+
 } // namespace
 
 void PacketMarks::mark(uint8_t* data, size_t size) const
 {
     if (!enabled() || !data)
         return;
-    const uint64_t n = packetCount();
-    for (uint64_t k = 0; k < n; ++k) {
-        const size_t offset = size_t(k) * blockSize;
-        if (offset >= size)
-            break;
-        const uint64_t m = markerAt(k);
-        std::memcpy(data + offset, &m, std::min<size_t>(sizeof(m), size - offset));
-    }
+    forEachPlace(*this, size,
+                 [data](size_t offset, uint64_t m, size_t bytes) { std::memcpy(data + offset, &m, bytes); });
 }
 
 void PacketMarks::mark(ArvBuffer* buffer) const
@@ -81,15 +89,9 @@ uint64_t PacketMarks::countMissing(const uint8_t* data, size_t size) const
     if (!enabled() || !data)
         return 0;
     uint64_t missing = 0;
-    const uint64_t n = packetCount();
-    for (uint64_t k = 0; k < n; ++k) {
-        const size_t offset = size_t(k) * blockSize;
-        if (offset >= size)
-            break;
-        const uint64_t m = markerAt(k);
-        if (std::memcmp(data + offset, &m, std::min<size_t>(sizeof(m), size - offset)) == 0)
-            ++missing;
-    }
+    forEachPlace(*this, size, [data, &missing](size_t offset, uint64_t m, size_t bytes) {
+        missing += std::memcmp(data + offset, &m, bytes) == 0 ? 1 : 0;
+    });
     return missing;
 }
 

@@ -6,6 +6,7 @@
 #include "Gvcp.h"
 #include "NodeMap.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "ThreadName.h"
 
 namespace Vorlen {
 namespace GenICam {
@@ -51,6 +52,7 @@ void CMessageChannel::close()
 
 void CMessageChannel::run()
 {
+    nameThisThread("vorlen-messages");
     uint8_t buffer[9000];
     while (m_running) {
         uint32_t fromIp = 0;

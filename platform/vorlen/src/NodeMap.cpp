@@ -17,6 +17,23 @@ std::string featureName(ArvGcNode* node)
     return name ? name : "";
 }
 
+// Adds to reached every node the edges lead to from the queued ones,
+// transitively.
+template <class Edges>
+void spread(std::set<std::string>& reached, std::deque<std::string> queue, const Edges& edges)
+{
+    while (!queue.empty()) {
+        const std::string node = queue.front();
+        queue.pop_front();
+        auto next = edges.find(node);
+        if (next == edges.end())
+            continue;
+        for (const std::string& n : next->second)
+            if (reached.insert(n).second)
+                queue.push_back(n);
+    }
+}
+
 } // namespace
 
 CNodeMap::CNodeMap(ArvGc* genicam)
@@ -121,31 +138,9 @@ std::vector<std::string> CNodeMap::affectedBy(const std::string& written)
 
     // The nodes the write goes through (pValue chain), then everything that
     // refers to any of them, transitively.
-    std::set<std::string> reached;
-    std::deque<std::string> queue;
-    queue.push_back(written);
-    reached.insert(written);
-    while (!queue.empty()) {
-        const std::string node = queue.front();
-        queue.pop_front();
-        auto targets = m_valueTargets.find(node);
-        if (targets == m_valueTargets.end())
-            continue;
-        for (const std::string& t : targets->second)
-            if (reached.insert(t).second)
-                queue.push_back(t);
-    }
-    queue.assign(reached.begin(), reached.end());
-    while (!queue.empty()) {
-        const std::string node = queue.front();
-        queue.pop_front();
-        auto users = m_referencedBy.find(node);
-        if (users == m_referencedBy.end())
-            continue;
-        for (const std::string& u : users->second)
-            if (reached.insert(u).second)
-                queue.push_back(u);
-    }
+    std::set<std::string> reached{written};
+    spread(reached, {written}, m_valueTargets);
+    spread(reached, std::deque<std::string>(reached.begin(), reached.end()), m_referencedBy);
 
     std::vector<std::string> others;
     for (const std::string& name : reached)

@@ -19,6 +19,10 @@
 
 #include "Gliv/CQtHybridFrame.h"
 
+namespace cv {
+class Mat;
+}
+
 namespace Gliv {
 
 struct SRenderRequest
@@ -52,6 +56,10 @@ public:
                              uint8_t* bgra, int outStride);
 
 private:
+    // Scales region (the part src of the image) to target and writes it to
+    // out as BGRA through the colour conversion toBgra.
+    bool scaleToOutput(const cv::Mat& region, const QRect& src, const QSize& target, int toBgra, QImage& out);
+
     std::vector<uint8_t> m_scratchA;   // grown only; reused frame after frame
     std::vector<uint8_t> m_scratchB;
     std::vector<uint16_t> m_lines;
