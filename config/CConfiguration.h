@@ -9,7 +9,6 @@
 #include <cstdint>
 
 class QXmlStreamWriter;
-class QXmlStreamReader;
 
 struct stuROI
 {
@@ -71,65 +70,66 @@ public:
     // displayChunkDataEnable) changed; the stream threads copy them.
     void notifyDisplayConfigChanged() { emit signalDisplayConfigChanged(); }
 
-    // Keys, in the order of the file.
-    int deviceCtrlVisibility = 0;
-    uint16_t iAnswerTimeout = 1000;
-    uint16_t iHeartbeatIval = 1500;
-    uint32_t iInterPacketTimeout = 0;
-    uint32_t iSingleResendMaxPackNum = 65536;
-    uint32_t iMaximumLostPacketNum = 65536;
-    bool logGenIcamEnabled = true;
-    bool logEventsEnabled = false;
-    bool logBufferAllEnabled = false;
-    bool logBufferErrorEnabled = true;
+    // Keys, in the order of the file; init() sets them to the defaults of
+    // CConfigKeyTable.
+    int deviceCtrlVisibility{};
+    uint16_t iAnswerTimeout{};
+    uint16_t iHeartbeatIval{};
+    uint32_t iInterPacketTimeout{};
+    uint32_t iSingleResendMaxPackNum{};
+    uint32_t iMaximumLostPacketNum{};
+    bool logGenIcamEnabled{};
+    bool logEventsEnabled{};
+    bool logBufferAllEnabled{};
+    bool logBufferErrorEnabled{};
     QString logFileName;
-    uint32_t streamingBufferCount = 8;
-    uint32_t snapRecordBufferCount = 60;
-    uint32_t streamingUrbNumberCount = 64;
-    uint32_t streamingUrbSizeCount = 64;
-    QString strDisplayValue = "30 FPS";
-    int displayValue = 30;             // in memory only
-    QString imageOneOutOf = "10";
-    QString imageMaxRate = "100";
-    QString imageAverageThroughPut = "1";
-    int imageSaveThrottleOption = 1;
+    uint32_t streamingBufferCount{};
+    uint32_t snapRecordBufferCount{};
+    uint32_t streamingUrbNumberCount{};
+    uint32_t streamingUrbSizeCount{};
+    QString strDisplayValue;
+    int displayValue{};          // in memory only
+    QString imageOneOutOf;
+    QString imageMaxRate;
+    QString imageAverageThroughPut;
+    int imageSaveThrottleOption{};
     QString imageSavePath;
-    int imageSaveFormat = 0;
-    bool displayChunkDataEnable = false;
-    bool autoRefreshEnable = true;
-    QString imageSavePreFix = "Pic";
-    int imageSaveFileNameFormat = 0;
-    int imageQualityLevel = 3;
-    int imageQuality = 100;
-    bool imageSaveOnePopDlg = false;
-    bool setPersistentIP = true;
-    bool isShowCrosshair = false;
-    int RedCrosshair = 255;
-    int BlueCrosshair = 0;
-    int GreenCrosshair = 0;
-    int BayerDemosaicing = 0;
-    bool AcquisitionFPS = true;
-    bool BandwidthMbps = true;
-    bool ReceivedImages = true;
-    bool LostBlocks = true;
-    bool ErrorImages = true;
+    int imageSaveFormat{};
+    bool displayChunkDataEnable{};
+    bool autoRefreshEnable{};
+    QString imageSavePreFix;
+    int imageSaveFileNameFormat{};
+    int imageQualityLevel{};
+    int imageQuality{};
+    bool imageSaveOnePopDlg{};
+    bool setPersistentIP{};
+    bool isShowCrosshair{};
+    int RedCrosshair{};
+    int BlueCrosshair{};
+    int GreenCrosshair{};
+    int BayerDemosaicing{};
+    bool AcquisitionFPS{};
+    bool BandwidthMbps{};
+    bool ReceivedImages{};
+    bool LostBlocks{};
+    bool ErrorImages{};
     QString RecordLocation;
-    bool RecordPopDlg = false;
-    QString videoFormat = "AVI";      // never written: the element always says "AVI"
-    int VideoQualityLevel = 0;
-    int VideoQuality = 30;
-    int VideoNameFormat = 0;
-    QString VideoPrefix = "Video";
-    uint32_t PlaybackSpeed = 0;
-    QString CustomFps = "20";
-    QString RemoteIpAddr = "0.0.0.0";
+    bool RecordPopDlg{};
+    QString videoFormat;         // never written: the element always says "AVI"
+    int VideoQualityLevel{};
+    int VideoQuality{};
+    int VideoNameFormat{};
+    QString VideoPrefix;
+    uint32_t PlaybackSpeed{};
+    QString CustomFps;
+    QString RemoteIpAddr;
 
-    // Drawing ROIs (user file only).
-    bool drawRoiEnable = false;
-    bool displayRoiEnable = false;
-    int roiRed = 255;
-    int roiBlue = 0;
-    int roiGreen = 0;
+    // Drawing ROIs (user file only); init() sets their defaults.
+    bool drawRoiEnable{};
+    bool displayRoiEnable{};
+    int roiRed{};
+    int roiBlue{};
+    int roiGreen{};
     QMap<int, QList<stuROI>> mapVideoFormROI;   // index 0..15, all present
 
 signals:
@@ -145,7 +145,14 @@ signals:
 
 private:
     CConfiguration();
-    void readRoiSection(QXmlStreamReader& reader);
+    template <typename T, typename... Args>
+    void setAndAnnounce(T& field, T value, void (CConfiguration::*changed)(Args...))
+    {
+        if (field == value)
+            return;
+        field = value;
+        emit(this->*changed)(value);
+    }
 
     QString m_appHome;
     QString m_userCfgPath;

@@ -3,7 +3,13 @@
 # loopback interface, with the addresses 127.0.0.2..N that the simulated
 # cameras listen on. Whatever the command sends (discovery broadcasts
 # included) stays on this machine, and no real camera on the network can
-# answer it. Tests and benchmarks run through here.
+# answer it. Tests and benchmarks run through here; CTest starts every test
+# through here, so each test has a namespace of its own and tests run in
+# parallel. Nesting works: a command inside one namespace can make another.
+#
+# The command also gets a mount namespace of its own (private propagation):
+# what it mounts, a small tmpfs for a full-disk test for instance, is seen by
+# nobody else and goes away with it. LUMIDOR_NETNS=1 tells it where it runs.
 #
 #   bash scripts/netns.sh [--addresses N] command [arguments...]
 #
@@ -32,12 +38,12 @@ case "$addresses" in ''|*[!0-9]*) fail "--addresses takes a number, not '$addres
 if [ "$inside" -eq 0 ]; then
   command -v unshare >/dev/null || fail "unshare is missing (package util-linux)"
   command -v ip >/dev/null || fail "ip is missing (package iproute2; scripts/install-deps.sh installs it)"
-  if [ "$(id -u)" -eq 0 ] && unshare -n true 2>/dev/null; then
-    exec unshare -n -- bash "$self" --inside --addresses "$addresses" -- "$@"
-  elif [ "$(id -u)" -ne 0 ] && unshare -r -n true 2>/dev/null; then
-    exec unshare -r -n -- bash "$self" --inside --addresses "$addresses" -- "$@"
+  if [ "$(id -u)" -eq 0 ] && unshare -n -m true 2>/dev/null; then
+    exec unshare -n -m -- bash "$self" --inside --addresses "$addresses" -- "$@"
+  elif [ "$(id -u)" -ne 0 ] && unshare -r -n -m true 2>/dev/null; then
+    exec unshare -r -n -m -- bash "$self" --inside --addresses "$addresses" -- "$@"
   fi
-  fail "cannot create a network namespace (unshare -n was refused). The tests send camera \
+  fail "cannot create a network namespace (unshare -n -m was refused). The tests send camera \
 discovery broadcasts and must run isolated on loopback: run as root (sudo), or allow \
 unprivileged user namespaces (sysctl kernel.unprivileged_userns_clone=1 and \
 user.max_user_namespaces > 0), or in a container started with CAP_SYS_ADMIN."

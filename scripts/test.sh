@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds, and runs the tests inside a network
 # namespace that holds only the loopback interface (scripts/netns.sh): no
-# test sends a packet beyond this machine.
+# test sends a packet beyond this machine. CTest starts each test in a
+# namespace of its own as well, so the tests run side by side, one per core.
 #
 #   bash scripts/test.sh [--sanitize | --tsan] [ctest arguments...]
 #
@@ -11,7 +12,8 @@
 #   --tsan       the threaded suites (device, discovery, video, sdk_stream
 #                and the message bus) built with ThreadSanitizer in build-tsan/
 #
-# Further arguments go to ctest (for example -R test_core_bus). Installation
+# Further arguments go to ctest (for example -R test_core_bus, or -j1 to run
+# one test at a time). Installation
 # and build run outside the namespace; only the test run goes in. The exit
 # status is ctest's: non-zero when any test fails.
 set -euo pipefail
@@ -50,4 +52,4 @@ fi
 cd "$build"
 echo "Running the tests of $build in a loopback-only network namespace"
 exec bash "$here/scripts/netns.sh" env QT_QPA_PLATFORM=offscreen \
-  ctest --output-on-failure -j1 "${selection[@]}" "$@"
+  ctest --output-on-failure -j"$(nproc)" "${selection[@]}" "$@"

@@ -92,33 +92,45 @@ void CCommonMessageBox::setButtons(QMessageBox::StandardButtons buttons)
     retranslate();
 }
 
+namespace {
+
+// Picture and window title of each icon the box can show.
+struct IconLook
+{
+    QMessageBox::Icon icon;
+    const char* pixmap;
+    const char* title;
+};
+
+const IconLook kIconLooks[] = {
+    {QMessageBox::Information, ":/Pic/Icon_Message_Information.png", QT_TRANSLATE_NOOP("CCommonMessageBox", "Information")},
+    {QMessageBox::Warning, ":/Pic/Icon_Message_Warning.png", QT_TRANSLATE_NOOP("CCommonMessageBox", "Warning")},
+    {QMessageBox::Critical, ":/Pic/Icon_Message_Error.png", QT_TRANSLATE_NOOP("CCommonMessageBox", "Error")},
+    {QMessageBox::Question, ":/Pic/Icon_Message_Question.png", QT_TRANSLATE_NOOP("CCommonMessageBox", "Question")},
+};
+
+const IconLook* lookOf(QMessageBox::Icon icon)
+{
+    for (const IconLook& look : kIconLooks) {
+        if (look.icon == icon)
+            return &look;
+    }
+    return nullptr;
+}
+
+} // namespace
+
 void CCommonMessageBox::setIcon(QMessageBox::Icon icon)
 {
     m_icon = icon;
-    QString path;
-    switch (icon) {
-    case QMessageBox::Information:
-        path = QStringLiteral(":/Pic/Icon_Message_Information.png");
-        break;
-    case QMessageBox::Warning:
-        path = QStringLiteral(":/Pic/Icon_Message_Warning.png");
-        break;
-    case QMessageBox::Critical:
-        path = QStringLiteral(":/Pic/Icon_Message_Error.png");
-        break;
-    case QMessageBox::Question:
-        path = QStringLiteral(":/Pic/Icon_Message_Question.png");
-        break;
-    default:
-        break;
-    }
     retranslate();
-    if (path.isEmpty()) {
+    const IconLook* look = lookOf(icon);
+    if (!look) {
         m_iconLabel->clear();
         m_iconLabel->hide();
         return;
     }
-    m_iconLabel->setPixmap(QPixmap(path));
+    m_iconLabel->setPixmap(QPixmap(QLatin1String(look->pixmap)));
     m_iconLabel->show();
 }
 
@@ -142,13 +154,8 @@ QString CCommonMessageBox::buttonText(QMessageBox::StandardButton which) const
 
 void CCommonMessageBox::retranslate()
 {
-    switch (m_icon) {
-    case QMessageBox::Information: setWindowTitle(tr("Information")); break;
-    case QMessageBox::Warning: setWindowTitle(tr("Warning")); break;
-    case QMessageBox::Critical: setWindowTitle(tr("Error")); break;
-    case QMessageBox::Question: setWindowTitle(tr("Question")); break;
-    default: setWindowTitle(QStringLiteral("Lumidor")); break;
-    }
+    const IconLook* look = lookOf(m_icon);
+    setWindowTitle(look ? tr(look->title) : QStringLiteral("Lumidor"));
     m_openFileButton->setText(tr("Open file"));
     for (QAbstractButton* b : m_buttonBox->buttons()) {
         const auto which = QMessageBox::StandardButton(int(m_buttonBox->standardButton(b)));

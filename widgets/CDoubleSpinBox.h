@@ -1,16 +1,15 @@
 #pragma once
-// QDoubleSpinBox in the house style for decimal camera values: the wheel acts only
-// when focused, and valueChanged() is emitted when the operator has finished
-// typing (Enter or leaving the field), not on every keystroke, so a half-typed
-// number is never written to a camera.
+// Spin box for decimal camera values (see CValueSpinBox).
 #include <QDoubleSpinBox>
 
-class CDoubleSpinBox : public QDoubleSpinBox
+#include "CValueSpinBox.h"
+
+class CDoubleSpinBox : public CValueSpinBox<QDoubleSpinBox>
 {
     Q_OBJECT
 public:
-    explicit CDoubleSpinBox(QWidget* parent = nullptr);
-
-protected:
-    void wheelEvent(QWheelEvent* event) override;
+    explicit CDoubleSpinBox(QWidget* parent = nullptr)
+        : CValueSpinBox(QStringLiteral("CDoubleSpinBox"), parent)
+    {
+    }
 };

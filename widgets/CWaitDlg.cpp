@@ -2,11 +2,11 @@
 
 #include "CBusyIndicator.h"
 #include "CDialogTitleBar.h"
+#include "FramelessDialogLayout.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QVBoxLayout>
 
 CWaitDlg::CWaitDlg(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
@@ -31,11 +31,7 @@ CWaitDlg::CWaitDlg(QWidget* parent)
     body->addWidget(m_busy, 0, Qt::AlignVCenter);
     body->addWidget(m_textLabel, 1);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->setSpacing(0);
-    layout->addWidget(m_titleBar);
-    layout->addLayout(body, 1);
+    frameFramelessDialog(this, m_titleBar, body);
 }
 
 void CWaitDlg::setTitle(const QString& title)

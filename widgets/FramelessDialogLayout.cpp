@@ -19,10 +19,14 @@ void layOutFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* 
     body->setSpacing(12);
     body->addLayout(content);
     body->addLayout(buttonRow);
-    // One pixel of the dialog's border shows around the title bar and body.
+    frameFramelessDialog(dialog, titleBar, body);
+}
+
+void frameFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* body)
+{
     auto* layout = new QVBoxLayout(dialog);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);
     layout->addWidget(titleBar);
-    layout->addLayout(body);
+    layout->addLayout(body, 1);
 }

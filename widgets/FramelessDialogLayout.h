@@ -11,3 +11,7 @@ class CDialogTitleBar;
 
 void layOutFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* content,
                            const QList<QPushButton*>& buttons);
+
+// Only the frame: the title bar on top of body, one pixel of the dialog's
+// border showing around both (for dialogs with a body of their own).
+void frameFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* body);

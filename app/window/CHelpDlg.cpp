@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "CDialogTitleBar.h"
+#include "FramelessDialogLayout.h"
 
 namespace {
 QTableWidget* makeTable(QWidget* parent, const QString& name)
@@ -58,11 +59,7 @@ CHelpDlg::CHelpDlg(QWidget* parent)
     body->setContentsMargins(12, 10, 12, 12);
     body->addWidget(m_tabs, 1);
     body->addLayout(buttons);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->setSpacing(0);
-    layout->addWidget(m_titleBar);
-    layout->addLayout(body, 1);
+    frameFramelessDialog(this, m_titleBar, body);
     retranslate();
 }
 

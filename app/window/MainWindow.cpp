@@ -171,71 +171,76 @@ void MainWindow::setVideoPanel(QWidget* panel)
     delete old;
 }
 
-void MainWindow::createMenus()
+namespace {
+
+CMenu* namedMenu(QWidget* parent, const char* name)
 {
-    m_fileMenu = new CMenu(this);
-    m_fileMenu->setObjectName(QStringLiteral("menuFile"));
-    menuBar()->addMenu(m_fileMenu);
-    m_actionOpen = m_fileMenu->addAction(QString());
-    m_actionOpen->setObjectName(QStringLiteral("actionOpenConfig"));
-    m_actionOpen->setShortcut(QKeySequence::Open);
-    m_actionSave = m_fileMenu->addAction(QString());
-    m_actionSave->setObjectName(QStringLiteral("actionSaveConfig"));
-    m_actionSave->setShortcut(QKeySequence::Save);
-    m_fileMenu->addSeparator();
-    m_actionExit = m_fileMenu->addAction(QString());
-    m_actionExit->setObjectName(QStringLiteral("actionExit"));
-    m_actionExit->setShortcut(QKeySequence::Quit);
-    connect(m_actionExit, &QAction::triggered, this, &QWidget::close);
+    auto* menu = new CMenu(parent);
+    menu->setObjectName(QLatin1String(name));
+    return menu;
+}
 
-    m_toolsMenu = new CMenu(this);
-    m_toolsMenu->setObjectName(QStringLiteral("menuTools"));
-    menuBar()->addMenu(m_toolsMenu);
-    // Stands in while no tool has registered, so the menu never opens empty.
-    m_actionNoTools = m_toolsMenu->addAction(QString());
-    m_actionNoTools->setObjectName(QStringLiteral("actionNoTools"));
-    m_actionNoTools->setEnabled(false);
+QAction* addNamedAction(QMenu* menu, const char* name, const QString& text = QString(),
+                        const QKeySequence& shortcut = QKeySequence())
+{
+    QAction* action = menu->addAction(text);
+    action->setObjectName(QLatin1String(name));
+    if (!shortcut.isEmpty())
+        action->setShortcut(shortcut);
+    return action;
+}
 
-    m_languageMenu = new CMenu(this);
-    m_languageMenu->setObjectName(QStringLiteral("menuLanguage"));
-    menuBar()->addMenu(m_languageMenu);
-    auto* group = new QActionGroup(this);
-    // Each language is named in its own language, so it can be found in either.
-    m_actionEnglish = m_languageMenu->addAction(QStringLiteral("English"));
-    m_actionEnglish->setObjectName(QStringLiteral("actionEnglish"));
-    m_actionChinese = m_languageMenu->addAction(QString::fromUtf8("\xe7\xae\x80\xe4\xbd\x93\xe4\xb8\xad\xe6\x96\x87"));
-    m_actionChinese->setObjectName(QStringLiteral("actionChinese"));
-    for (QAction* a : {m_actionEnglish, m_actionChinese}) {
+// Checkable actions of which one at a time is checked.
+void makeExclusive(QObject* owner, std::initializer_list<QAction*> actions)
+{
+    auto* group = new QActionGroup(owner);
+    for (QAction* a : actions) {
         a->setCheckable(true);
         group->addAction(a);
     }
+}
+
+} // namespace
+
+void MainWindow::createMenus()
+{
+    m_fileMenu = namedMenu(this, "menuFile");
+    menuBar()->addMenu(m_fileMenu);
+    m_actionOpen = addNamedAction(m_fileMenu, "actionOpenConfig", QString(), QKeySequence::Open);
+    m_actionSave = addNamedAction(m_fileMenu, "actionSaveConfig", QString(), QKeySequence::Save);
+    m_fileMenu->addSeparator();
+    m_actionExit = addNamedAction(m_fileMenu, "actionExit", QString(), QKeySequence::Quit);
+    connect(m_actionExit, &QAction::triggered, this, &QWidget::close);
+
+    m_toolsMenu = namedMenu(this, "menuTools");
+    menuBar()->addMenu(m_toolsMenu);
+    // Stands in while no tool has registered, so the menu never opens empty.
+    m_actionNoTools = addNamedAction(m_toolsMenu, "actionNoTools");
+    m_actionNoTools->setEnabled(false);
+
+    m_languageMenu = namedMenu(this, "menuLanguage");
+    menuBar()->addMenu(m_languageMenu);
+    // Each language is named in its own language, so it can be found in either.
+    m_actionEnglish = addNamedAction(m_languageMenu, "actionEnglish", QStringLiteral("English"));
+    m_actionChinese = addNamedAction(m_languageMenu, "actionChinese",
+                                     QString::fromUtf8("\xe7\xae\x80\xe4\xbd\x93\xe4\xb8\xad\xe6\x96\x87"));
+    makeExclusive(this, {m_actionEnglish, m_actionChinese});
     connect(m_actionEnglish, &QAction::triggered, this, [this] { setLanguage(LanguageEnglish); });
     connect(m_actionChinese, &QAction::triggered, this, [this] { setLanguage(LanguageChinese); });
 
     m_languageMenu->addSeparator();
-    m_featureLanguageMenu = new CMenu(m_languageMenu);
-    m_featureLanguageMenu->setObjectName(QStringLiteral("menuFeatureLanguage"));
+    m_featureLanguageMenu = namedMenu(m_languageMenu, "menuFeatureLanguage");
     m_languageMenu->addMenu(m_featureLanguageMenu);
-    auto* featureGroup = new QActionGroup(this);
-    m_actionFeatureOriginal = m_featureLanguageMenu->addAction(QString());
-    m_actionFeatureOriginal->setObjectName(QStringLiteral("actionFeatureOriginal"));
-    m_actionFeatureTranslated = m_featureLanguageMenu->addAction(QString());
-    m_actionFeatureTranslated->setObjectName(QStringLiteral("actionFeatureTranslated"));
-    for (QAction* a : {m_actionFeatureOriginal, m_actionFeatureTranslated}) {
-        a->setCheckable(true);
-        featureGroup->addAction(a);
-    }
+    m_actionFeatureOriginal = addNamedAction(m_featureLanguageMenu, "actionFeatureOriginal");
+    m_actionFeatureTranslated = addNamedAction(m_featureLanguageMenu, "actionFeatureTranslated");
+    makeExclusive(this, {m_actionFeatureOriginal, m_actionFeatureTranslated});
     connect(m_actionFeatureOriginal, &QAction::triggered, this, [this] { setFeatureLanguage(0); });
     connect(m_actionFeatureTranslated, &QAction::triggered, this, [this] { setFeatureLanguage(1); });
 
-    m_helpMenu = new CMenu(this);
-    m_helpMenu->setObjectName(QStringLiteral("menuHelp"));
+    m_helpMenu = namedMenu(this, "menuHelp");
     menuBar()->addMenu(m_helpMenu);
-    m_actionHelp = m_helpMenu->addAction(QString());
-    m_actionHelp->setObjectName(QStringLiteral("actionHelp"));
-    m_actionHelp->setShortcut(QKeySequence::HelpContents);
-    m_actionAbout = m_helpMenu->addAction(QString());
-    m_actionAbout->setObjectName(QStringLiteral("actionAbout"));
+    m_actionHelp = addNamedAction(m_helpMenu, "actionHelp", QString(), QKeySequence::HelpContents);
+    m_actionAbout = addNamedAction(m_helpMenu, "actionAbout");
 
     // The on_<object>_<signal> slots are connected by name.
     QMetaObject::connectSlotsByName(this);

@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QString>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <cstdio>
 #include <memory>
@@ -15,8 +16,19 @@
 
 #include "CDeviceManager.h"
 #include "CTavDevice.h"
+#include "Tavlog4cpp/CTavLog.h"
 
 namespace BenchSimCams {
+
+// Before the application object: unless LUMIDOR_HOME names a home, the
+// benchmark keeps its configuration in home (a scratch folder) and never
+// touches the user's; the logging configuration is loaded.
+inline void setUpProcess(const QTemporaryDir& home)
+{
+    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
+        qputenv("LUMIDOR_HOME", home.path().toLocal8Bit());
+    Tavlog4cpp::CTavLog::LoadDefault();
+}
 
 // A simulated camera process and how it was started.
 struct SCameraSetup

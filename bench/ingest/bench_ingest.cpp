@@ -106,34 +106,12 @@ public:
 
 bool runFull(const SOptions& o, int n, std::vector<SCameraFigures>& out, double& cpuPerFrameUs)
 {
-    CDeviceManager* manager = CDeviceManager::getInstance();
-    std::vector<CTavDevicePtr> devices(n);
-    QElapsedTimer wait;
-    wait.start();
-    while (wait.elapsed() < 20000)
-    {
-        int found = 0;
-        const QMap<QString, CTavDevicePtr> all = manager->getAllDevices();
-        for (int i = 0; i < n; ++i)
-        {
-            for (const CTavDevicePtr& d : all)
-                if (QString::fromLocal8Bit(d->getDevice()->getSerialNumber().c_str()) == serial(i))
-                    devices[i] = d;
-            found += devices[i] ? 1 : 0;
-        }
-        if (found == n)
-            break;
-        manager->refreshDeviceMap(QString(), 0);
-        pump(1500);
-    }
+    QStringList serials;
     for (int i = 0; i < n; ++i)
-    {
-        if (!devices[i])
-        {
-            std::fprintf(stderr, "bench_ingest: camera %s not found\n", qPrintable(serial(i)));
-            return false;
-        }
-    }
+        serials.append(serial(i));
+    std::vector<CTavDevicePtr> devices;
+    if (!BenchSimCams::findDevices(serials, devices, 20000, "bench_ingest"))
+        return false;
 
     std::vector<std::unique_ptr<FrameReceiver>> receivers;
     std::vector<std::vector<qint64>> convTimes(n);
@@ -303,9 +281,7 @@ void printRows(const char* mode, int n, const std::vector<SCameraFigures>& rows,
 int main(int argc, char** argv)
 {
     QTemporaryDir home;
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", home.path().toLocal8Bit());
-    Tavlog4cpp::CTavLog::LoadDefault();
+    BenchSimCams::setUpProcess(home);
     QCoreApplication app(argc, argv);
 
     SOptions o;
@@ -329,10 +305,9 @@ int main(int argc, char** argv)
     }
     g_firstAddress = qBound(1, o.firstAddress, 250);
 
-    const QString simcam = QCoreApplication::applicationDirPath() + "/lumidor-simcam";
-    if (!QFile::exists(simcam))
+    if (!QFile::exists(BenchSimCams::simcamPath()))
     {
-        std::fprintf(stderr, "bench_ingest: %s not found\n", qPrintable(simcam));
+        std::fprintf(stderr, "bench_ingest: %s not found\n", qPrintable(BenchSimCams::simcamPath()));
         return 1;
     }
     // Displayed frames only are converted: no saving, no recording.
@@ -355,20 +330,23 @@ int main(int argc, char** argv)
             continue;
         }
 
-        std::vector<std::unique_ptr<QProcess>> cams;
+        std::vector<BenchSimCams::SCameraSetup> setups;
         for (int i = 0; i < n; ++i)
         {
-            cams.emplace_back(new QProcess);
-            cams.back()->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-            cams.back()->start(simcam, {"--address", address(i), "--serial", serial(i), "--width",
-                                        QString::number(o.width), "--height", QString::number(o.height),
-                                        "--pixel-format", "BayerRG8", "--fps", QString::number(o.fps),
-                                        "--packet-size", QString::number(o.packetSize)});
-            if (!cams.back()->waitForReadyRead(5000))
-            {
-                std::fprintf(stderr, "bench_ingest: lumidor-simcam on %s did not start\n", qPrintable(address(i)));
-                return 1;
-            }
+            BenchSimCams::SCameraSetup s;
+            s.address = address(i);
+            s.serial = serial(i);
+            s.width = o.width;
+            s.height = o.height;
+            s.fps = o.fps;
+            s.packetSize = o.packetSize;
+            setups.push_back(s);
+        }
+        std::vector<std::unique_ptr<QProcess>> cams;
+        if (!BenchSimCams::startCameras(setups, cams, "bench_ingest"))
+        {
+            BenchSimCams::stopCameras(cams);
+            return 1;
         }
 
         std::printf("-- %d camera(s)\n", n);
@@ -381,11 +359,7 @@ int main(int argc, char** argv)
             printRows("bare", n, rows, cpuUs, o.seconds);
         std::fflush(stdout);
 
-        for (auto& p : cams)
-        {
-            p->terminate();
-            p->waitForFinished(5000);
-        }
+        BenchSimCams::stopCameras(cams);
         pump(500);
     }
     return 0;

@@ -157,9 +157,7 @@ bool waitUntil(Pred pred, int timeoutMs)
 int main(int argc, char** argv)
 {
     QTemporaryDir home;
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", home.path().toLocal8Bit());
-    Tavlog4cpp::CTavLog::LoadDefault();
+    BenchSimCams::setUpProcess(home);
     QCoreApplication app(argc, argv);
 
     int cameras = 4;

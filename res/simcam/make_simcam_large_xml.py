@@ -23,41 +23,30 @@ with contextlib.redirect_stdout(io.StringIO()):
 base = "".join(g["out"])
 g["out"].clear()
 
-BLOCKS = ["Sensor", "Optics", "Timing", "Io", "Counter", "Sequencer", "Lut", "Shading"]
-STAGES = ["Primary", "Secondary", "Tertiary", "Quaternary"]
-PER_STAGE = 24
-address = 0x8000
-blocks = []
-for b in BLOCKS:
-    stages = []
-    for s in STAGES:
-        cat = "Bulk%s%s" % (b, s)
-        feats = []
-        for n in range(PER_STAGE):
-            kind = ["Int", "Float", "Enum", "Bool", "Int", "Float"][n % 6]
-            name = "%s%s%02d" % (cat, kind, n + 1)
-            vis = ["Beginner", "Expert", "Guru"][n % 3]
-            desc = "Generated %s %d of %s." % (kind.lower(), n + 1, g["split_words"](cat).lower())
-            if kind == "Int":
-                g["reg_integer"](name, address, vmin=0, vmax=100 * (n + 1), inc=1, vis=vis, ns="Custom", desc=desc)
-            elif kind == "Float":
-                g["float_reg"](name + "Reg", address)
-                g["float_over"](name, name + "Reg", -10, 10, unit="ms", vis=vis, ns="Custom", desc=desc)
-            elif kind == "Enum":
-                g["int_reg"](name + "Reg", address)
-                g["enumeration"](name, [("Off", 0), ("On", 1), ("Auto", 2)], name + "Reg", vis=vis, ns="Custom",
-                                 desc=desc)
-            else:
-                g["int_reg"](name + "Reg", address)
-                g["boolean"](name, name + "Reg", vis=vis, ns="Custom", desc=desc)
-            address += 4
-            feats.append(name)
-        g["category"](cat, feats, ns="Custom", desc="Generated features, %s stage." % s.lower())
-        stages.append(cat)
-    g["category"]("Bulk%s" % b, stages, ns="Custom", desc="Generated block %s." % b.lower())
-    blocks.append("Bulk%s" % b)
-g["category"]("BulkControl", blocks, ns="Custom", desc="Generated features for measurements.", vis="Beginner")
-assert address < 0x10000
+
+def bulk_feature(name, kind, n, block, stage, vis, address):
+    desc = "Generated %s %d of %s." % (kind.lower(), n + 1, g["split_words"]("Bulk" + block + stage).lower())
+    if kind == "Int":
+        g["reg_integer"](name, address, vmin=0, vmax=100 * (n + 1), inc=1, vis=vis, ns="Custom", desc=desc)
+    elif kind == "Float":
+        g["float_reg"](name + "Reg", address)
+        g["float_over"](name, name + "Reg", -10, 10, unit="ms", vis=vis, ns="Custom", desc=desc)
+    elif kind == "Enum":
+        g["int_reg"](name + "Reg", address)
+        g["enumeration"](name, [("Off", 0), ("On", 1), ("Auto", 2)], name + "Reg", vis=vis, ns="Custom", desc=desc)
+    else:
+        g["int_reg"](name + "Reg", address)
+        g["boolean"](name, name + "Reg", vis=vis, ns="Custom", desc=desc)
+    return address + 4
+
+
+g["generated_categories"]("BulkControl", "Bulk",
+                          ["Sensor", "Optics", "Timing", "Io", "Counter", "Sequencer", "Lut", "Shading"],
+                          ["Primary", "Secondary", "Tertiary", "Quaternary"],
+                          ["Int", "Float", "Enum", "Bool", "Int", "Float"], 0x8000, bulk_feature,
+                          lambda b, s: "Generated features, %s stage." % s.lower(),
+                          lambda b: "Generated block %s." % b.lower(), "Generated features for measurements.",
+                          "Beginner")
 extra = "".join(g["out"])
 
 root_entry = "  <pFeature>ExtendedControl</pFeature>\n"

@@ -70,6 +70,22 @@ def extra(pis_available=None, pis_locked=None, selected=None, streamable=False):
     return s
 
 
+def feature_head(tag, name, desc, vis, ns, access=None, **kw):
+    """Opening tag, names, visibility and the extra links of a feature node."""
+    emit('<%s Name="%s"%s>\n' % (tag, name, ns_attr(ns)))
+    emit(common(name, desc=desc, vis=vis))
+    emit(extra(**kw))
+    if access:
+        emit("  <ImposedAccessMode>%s</ImposedAccessMode>\n" % access)
+
+
+def value_or_pvalue(pvalue, value_text):
+    if pvalue:
+        emit("  <pValue>%s</pValue>\n" % pvalue)
+    else:
+        emit("  <Value>%s</Value>\n" % value_text)
+
+
 def int_reg(name, addr, access="RW", length=4, sign="Unsigned", port="Device", cache="NoCache", pindex=None):
     emit('<IntReg Name="%s">\n' % name)
     emit("  <Address>0x%x</Address>\n" % addr)
@@ -93,15 +109,8 @@ def masked_reg(name, addr, lsb, msb=None, access="RW", length=4):
 
 def integer(name, pvalue=None, value=None, vmin=None, vmax=None, inc=None, pmin=None, pmax=None, rep="Linear",
             unit=None, desc=None, vis="Beginner", ns="Standard", access=None, **kw):
-    emit('<Integer Name="%s"%s>\n' % (name, ns_attr(ns)))
-    emit(common(name, desc=desc, vis=vis))
-    emit(extra(**kw))
-    if access:
-        emit("  <ImposedAccessMode>%s</ImposedAccessMode>\n" % access)
-    if pvalue:
-        emit("  <pValue>%s</pValue>\n" % pvalue)
-    else:
-        emit("  <Value>%d</Value>\n" % value)
+    feature_head("Integer", name, desc, vis, ns, access, **kw)
+    value_or_pvalue(pvalue, None if pvalue else "%d" % value)
     if pmin:
         emit("  <pMin>%s</pMin>\n" % pmin)
     elif vmin is not None:
@@ -131,15 +140,8 @@ def float_reg(name, addr, access="RW", length=4):
 
 def float_feature(name, pvalue=None, value=None, vmin=None, vmax=None, unit=None, inc=None, precision=None,
                   desc=None, vis="Beginner", ns="Standard", access=None, rep="Linear", **kw):
-    emit('<Float Name="%s"%s>\n' % (name, ns_attr(ns)))
-    emit(common(name, desc=desc, vis=vis))
-    emit(extra(**kw))
-    if access:
-        emit("  <ImposedAccessMode>%s</ImposedAccessMode>\n" % access)
-    if pvalue:
-        emit("  <pValue>%s</pValue>\n" % pvalue)
-    else:
-        emit("  <Value>%s</Value>\n" % repr(value))
+    feature_head("Float", name, desc, vis, ns, access, **kw)
+    value_or_pvalue(pvalue, repr(value))
     if vmin is not None:
         emit("  <Min>%s</Min>\n" % repr(float(vmin)))
     if vmax is not None:
@@ -156,9 +158,7 @@ def float_feature(name, pvalue=None, value=None, vmin=None, vmax=None, unit=None
 
 def converter(name, pvalue, formula_to, formula_from, vmin, vmax, unit=None, desc=None, vis="Beginner",
               ns="Standard", variables=None, precision=None, **kw):
-    emit('<Converter Name="%s"%s>\n' % (name, ns_attr(ns)))
-    emit(common(name, desc=desc, vis=vis))
-    emit(extra(**kw))
+    feature_head("Converter", name, desc, vis, ns, **kw)
     for var, node in (variables or {}).items():
         emit('  <pVariable Name="%s">%s</pVariable>\n' % (var, node))
     emit("  <FormulaTo>%s</FormulaTo>\n  <FormulaFrom>%s</FormulaFrom>\n" % (escape(formula_to), escape(formula_from)))
@@ -193,11 +193,7 @@ def swiss(name, variables, formula, kind="IntSwissKnife", vis="Invisible", desc=
 
 def enumeration(name, entries, pvalue, desc=None, vis="Beginner", ns="Standard", access=None, entry_extra=None, **kw):
     """entries: list of (symbol, value[, display, visibility])."""
-    emit('<Enumeration Name="%s"%s>\n' % (name, ns_attr(ns)))
-    emit(common(name, desc=desc, vis=vis))
-    emit(extra(**kw))
-    if access:
-        emit("  <ImposedAccessMode>%s</ImposedAccessMode>\n" % access)
+    feature_head("Enumeration", name, desc, vis, ns, access, **kw)
     for e in entries:
         sym, val = e[0], e[1]
         disp = e[2] if len(e) > 2 and e[2] else split_words(sym)
@@ -217,25 +213,17 @@ def enumeration(name, entries, pvalue, desc=None, vis="Beginner", ns="Standard",
 
 
 def boolean(name, pvalue, desc=None, vis="Beginner", ns="Standard", access=None, **kw):
-    emit('<Boolean Name="%s"%s>\n' % (name, ns_attr(ns)))
-    emit(common(name, desc=desc, vis=vis))
-    emit(extra(**kw))
-    if access:
-        emit("  <ImposedAccessMode>%s</ImposedAccessMode>\n" % access)
+    feature_head("Boolean", name, desc, vis, ns, access, **kw)
     emit("  <pValue>%s</pValue>\n  <OnValue>1</OnValue>\n  <OffValue>0</OffValue>\n</Boolean>\n" % pvalue)
 
 
 def command(name, pvalue, value=1, desc=None, vis="Beginner", ns="Standard", **kw):
-    emit('<Command Name="%s"%s>\n' % (name, ns_attr(ns)))
-    emit(common(name, desc=desc, vis=vis))
-    emit(extra(**kw))
+    feature_head("Command", name, desc, vis, ns, **kw)
     emit("  <pValue>%s</pValue>\n  <CommandValue>%d</CommandValue>\n</Command>\n" % (pvalue, value))
 
 
 def string_reg(name, addr, length, access="RW", desc=None, vis="Beginner", ns="Standard", **kw):
-    emit('<StringReg Name="%s"%s>\n' % (name, ns_attr(ns)))
-    emit(common(name, desc=desc, vis=vis))
-    emit(extra(**kw))
+    feature_head("StringReg", name, desc, vis, ns, **kw)
     emit("  <Address>0x%x</Address>\n  <Length>%d</Length>\n  <AccessMode>%s</AccessMode>\n" % (addr, length, access))
     emit("  <pPort>Device</pPort>\n  <Cachable>NoCache</Cachable>\n</StringReg>\n")
 
@@ -537,48 +525,57 @@ integer("TestPendingCount", pvalue="TestHoldReg", vis="Guru", ns="Custom", acces
         desc="Non-zero while TestHoldCommand is in progress.")
 
 # ---- Generated filler features ---------------------------------------------
-address = 0x5000
-block_cats = []
-for b in filler_blocks:
-    stage_cats = []
-    for s in filler_stages:
-        cat = "%s%s" % (b, s)
-        feats = []
-        kinds = ["Int", "Float", "Enum", "Bool", "Str", "Int"]
-        for n in range(24):
-            kind = kinds[n % len(kinds)]
-            name = "%s%s%s%02d" % (b, s, kind, n + 1)
-            feats.append(name)
-            vis = ["Beginner", "Expert", "Guru"][n % 3]
-            desc = "%s parameter %d of the %s stage of %s." % (
-                {"Int": "Integer", "Float": "Float", "Enum": "Mode", "Bool": "Switch", "Str": "Text"}[kind], n + 1,
-                s.lower(), split_words(b).lower())
-            if kind == "Int":
-                reg_integer(name, address, vmin=0, vmax=1000 * (n + 1), inc=1, vis=vis, ns="Custom", desc=desc)
-                address += 4
-            elif kind == "Float":
-                float_reg(name + "Reg", address)
-                float_over(name, name + "Reg", -100, 100, unit="%", vis=vis, ns="Custom", desc=desc, precision=2)
-                address += 4
-            elif kind == "Enum":
-                int_reg(name + "Reg", address)
-                enumeration(name, [("Off", 0), ("Low", 1), ("Medium", 2), ("High", 3)], name + "Reg", vis=vis,
-                            ns="Custom", desc=desc)
-                address += 4
-            elif kind == "Bool":
-                int_reg(name + "Reg", address)
-                boolean(name, name + "Reg", vis=vis, ns="Custom", desc=desc)
-                address += 4
-            else:
-                string_reg(name, address, 16, vis=vis, ns="Custom", desc=desc)
-                address += 16
-        category(cat, feats, ns="Custom", desc="%s, %s stage." % (split_words(b), s.lower()))
-        stage_cats.append(cat)
-    category(b, stage_cats, ns="Custom", desc="Processing block %s." % split_words(b).lower())
-    block_cats.append(b)
-category("ExtendedControl", block_cats, ns="Custom", desc="Image processing blocks of the simulated camera.",
-         vis="Expert")
-assert address < 0x10000
+def filler_feature(name, kind, n, block, stage, vis, address):
+    desc = "%s parameter %d of the %s stage of %s." % (
+        {"Int": "Integer", "Float": "Float", "Enum": "Mode", "Bool": "Switch", "Str": "Text"}[kind], n + 1,
+        stage.lower(), split_words(block).lower())
+    if kind == "Int":
+        reg_integer(name, address, vmin=0, vmax=1000 * (n + 1), inc=1, vis=vis, ns="Custom", desc=desc)
+    elif kind == "Float":
+        float_reg(name + "Reg", address)
+        float_over(name, name + "Reg", -100, 100, unit="%", vis=vis, ns="Custom", desc=desc, precision=2)
+    elif kind == "Enum":
+        int_reg(name + "Reg", address)
+        enumeration(name, [("Off", 0), ("Low", 1), ("Medium", 2), ("High", 3)], name + "Reg", vis=vis,
+                    ns="Custom", desc=desc)
+    elif kind == "Bool":
+        int_reg(name + "Reg", address)
+        boolean(name, name + "Reg", vis=vis, ns="Custom", desc=desc)
+    else:
+        string_reg(name, address, 16, vis=vis, ns="Custom", desc=desc)
+        return address + 16
+    return address + 4
+
+
+def generated_categories(top, prefix, blocks, stages, kinds, address, feature, stage_desc, block_desc, top_desc,
+                         top_vis):
+    """A category top over one category per block, each over one category per
+    stage of 24 generated features named <prefix><block><stage><kind><nn>,
+    kinds and visibility taken in turn. feature(name, kind, n, block, stage,
+    vis, address) writes one feature at address and returns the next free one."""
+    block_cats = []
+    for b in blocks:
+        stage_cats = []
+        for s in stages:
+            cat = prefix + b + s
+            feats = []
+            for n in range(24):
+                kind = kinds[n % len(kinds)]
+                name = "%s%s%02d" % (cat, kind, n + 1)
+                address = feature(name, kind, n, b, s, ["Beginner", "Expert", "Guru"][n % 3], address)
+                feats.append(name)
+            category(cat, feats, ns="Custom", desc=stage_desc(b, s))
+            stage_cats.append(cat)
+        category(prefix + b, stage_cats, ns="Custom", desc=block_desc(b))
+        block_cats.append(prefix + b)
+    category(top, block_cats, ns="Custom", desc=top_desc, vis=top_vis)
+    assert address < 0x10000
+
+
+generated_categories("ExtendedControl", "", filler_blocks, filler_stages, ["Int", "Float", "Enum", "Bool", "Str", "Int"],
+                     0x5000, filler_feature, lambda b, s: "%s, %s stage." % (split_words(b), s.lower()),
+                     lambda b: "Processing block %s." % split_words(b).lower(),
+                     "Image processing blocks of the simulated camera.", "Expert")
 
 emit('<Port Name="Device" NameSpace="Standard">\n  <ToolTip>Port of the device.</ToolTip>\n</Port>\n')
 emit("</RegisterDescription>\n")

@@ -10,10 +10,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <cstring>
-#include <thread>
 
 FakeCameraRig::FakeCameraRig() = default;
 
@@ -27,20 +25,15 @@ int FakeCameraRig::start(const std::string& address, const std::string& serial, 
 {
     m_lastError.clear();
     if (!hasAddress(address)) {
-        m_lastError = address + " is not on any local interface (scripts/test.sh runs the tests in a network "
-                                "namespace with 127.0.0.1 to 127.0.0.5 on loopback)";
+        m_lastError = address + " is not on any local interface (CTest runs each test through scripts/netns.sh, "
+                                "in a network namespace with 127.0.0.1 to 127.0.0.5 on loopback)";
         return -1;
     }
-    // Another process (a test running beside this one) may hold the address
-    // for a while: wait for it rather than fight over the port.
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(kPortWaitSeconds);
-    while (!SimCam::controlPortFree(address)) {
-        if (std::chrono::steady_clock::now() > deadline) {
-            m_lastError = "the GigE Vision control port of " + address + " stayed taken by another process for "
-                          + std::to_string(kPortWaitSeconds) + " s";
-            return -1;
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    // Each test has a network namespace of its own: whatever holds the port
+    // belongs to this test.
+    if (!SimCam::controlPortFree(address)) {
+        m_lastError = "the GigE Vision control port of " + address + " is taken by another camera of this test";
+        return -1;
     }
     const std::string xml = xmlPath.empty() ? defaultXmlPath() : xmlPath;
     if (access(xml.c_str(), R_OK) != 0) {

@@ -31,10 +31,8 @@ public:
     // Starts a camera on the address with the serial number. Empty xmlPath:
     // defaultXmlPath(). width/height 0 and an empty pixelFormat keep the
     // camera's defaults; pixelFormat is a GenICam name ("Mono8", "BayerRG8",
-    // "RGB8", ...). When another process holds the address's GVCP port, waits
-    // up to kPortWaitSeconds for it. Returns the camera's index, or -1 when
-    // it did not start (address missing, port taken, description unreadable).
-    static constexpr int kPortWaitSeconds = 60;
+    // "RGB8", ...). Returns the camera's index, or -1 when it did not start
+    // (address missing, port taken, description unreadable).
     int start(const std::string& address, const std::string& serial, const std::string& xmlPath = std::string(),
               int width = 0, int height = 0, const std::string& pixelFormat = std::string());
     // Why the last start() returned -1, naming what the rig lacks; empty

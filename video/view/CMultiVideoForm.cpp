@@ -6,6 +6,18 @@
 #include "CTavDevice.h"
 #include "CVideoForm.h"
 
+namespace {
+
+// Display options apply to every view alike.
+template <typename Arg, typename Value>
+void setOnEveryForm(const QVector<CVideoForm*>& forms, void (CVideoForm::*set)(Arg), const Value& value)
+{
+    for (CVideoForm* f : forms)
+        (f->*set)(value);
+}
+
+} // namespace
+
 CMultiVideoForm::CMultiVideoForm(QWidget* parent, bool attachToBus) : QWidget(parent)
 {
     setObjectName(QStringLiteral("multiVideoForm"));
@@ -220,44 +232,37 @@ void CMultiVideoForm::OnSwapForm(int from, int to)
 
 void CMultiVideoForm::setShowCrosshair(bool show)
 {
-    for (CVideoForm* f : m_forms)
-        f->setShowCrosshair(show);
+    setOnEveryForm(m_forms, &CVideoForm::setShowCrosshair, show);
 }
 
 void CMultiVideoForm::setCrosshairColor(const QColor& color)
 {
-    for (CVideoForm* f : m_forms)
-        f->setCrosshairColor(color);
+    setOnEveryForm(m_forms, &CVideoForm::setCrosshairColor, color);
 }
 
 void CMultiVideoForm::setShowChunkData(bool show)
 {
-    for (CVideoForm* f : m_forms)
-        f->setShowChunkData(show);
+    setOnEveryForm(m_forms, &CVideoForm::setShowChunkData, show);
 }
 
 void CMultiVideoForm::setDrawROIEnable(bool enable)
 {
-    for (CVideoForm* f : m_forms)
-        f->setDrawROIEnable(enable);
+    setOnEveryForm(m_forms, &CVideoForm::setDrawROIEnable, enable);
 }
 
 void CMultiVideoForm::setDisplayROIEnable(bool enable)
 {
-    for (CVideoForm* f : m_forms)
-        f->setDisplayROIEnable(enable);
+    setOnEveryForm(m_forms, &CVideoForm::setDisplayROIEnable, enable);
 }
 
 void CMultiVideoForm::setROIColor(const QColor& color)
 {
-    for (CVideoForm* f : m_forms)
-        f->setROIColor(color);
+    setOnEveryForm(m_forms, &CVideoForm::setROIColor, color);
 }
 
 void CMultiVideoForm::setBayerDemosaic(int demosaic)
 {
-    for (CVideoForm* f : m_forms)
-        f->setBayerDemosaic(demosaic);
+    setOnEveryForm(m_forms, &CVideoForm::setBayerDemosaic, demosaic);
 }
 
 void CMultiVideoForm::deleteROI()

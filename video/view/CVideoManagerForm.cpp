@@ -23,6 +23,19 @@ namespace {
 // Stored values of the display-rate choice; the menu shows them translated.
 const char* const kDisplayRates[] = { "Disabled", "30 FPS", "60 FPS" };
 const int kLayouts[] = { VIDEO_LAYOUT_1, VIDEO_LAYOUT_2, VIDEO_LAYOUT_4, VIDEO_LAYOUT_9, VIDEO_LAYOUT_16 };
+
+// Offers the stored colour to the picker; a colour chosen is stored and
+// returned, a cancelled pick returns an invalid colour and stores nothing.
+QColor pickStoredColor(const std::function<QColor(const QColor&)>& picker, int& red, int& green, int& blue)
+{
+    const QColor color = picker(QColor(red, green, blue));
+    if (color.isValid()) {
+        red = color.red();
+        green = color.green();
+        blue = color.blue();
+    }
+    return color;
+}
 }
 
 CVideoManagerForm::CVideoManagerForm(QWidget* parent, bool attachToBus) : QWidget(parent)
@@ -357,12 +370,9 @@ void CVideoManagerForm::onActionDisplayCrosshair()
 void CVideoManagerForm::onActionCrosshairColorConfig()
 {
     CConfiguration* cfg = CConfiguration::getInstance();
-    const QColor color = m_colorPicker(QColor(cfg->RedCrosshair, cfg->GreenCrosshair, cfg->BlueCrosshair));
+    const QColor color = pickStoredColor(m_colorPicker, cfg->RedCrosshair, cfg->GreenCrosshair, cfg->BlueCrosshair);
     if (!color.isValid())
         return;
-    cfg->RedCrosshair = color.red();
-    cfg->GreenCrosshair = color.green();
-    cfg->BlueCrosshair = color.blue();
     m_multi->setCrosshairColor(color);
     saveConfig();
 }
@@ -378,12 +388,9 @@ void CVideoManagerForm::onActionDrawROI()
 void CVideoManagerForm::onActionDrawROIColorConfig()
 {
     CConfiguration* cfg = CConfiguration::getInstance();
-    const QColor color = m_colorPicker(QColor(cfg->roiRed, cfg->roiGreen, cfg->roiBlue));
+    const QColor color = pickStoredColor(m_colorPicker, cfg->roiRed, cfg->roiGreen, cfg->roiBlue);
     if (!color.isValid())
         return;
-    cfg->roiRed = color.red();
-    cfg->roiGreen = color.green();
-    cfg->roiBlue = color.blue();
     m_multi->setROIColor(color);
     saveConfig();
 }
