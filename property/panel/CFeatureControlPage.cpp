@@ -67,7 +67,6 @@ CFeatureControlPage::CFeatureControlPage(CTavDevicePtr device, const char* conte
             Qt::QueuedConnection);
     connect(m_worker, &CFeatureControlWorker::executeDone, this, &CFeatureControlPage::onExecuteDone,
             Qt::QueuedConnection);
-    m_worker->start(QThread::InheritPriority);
 
     connect(this, &CFeatureControlPage::update_receive, this, &CFeatureControlPage::OnUpdateReceive,
             Qt::QueuedConnection);

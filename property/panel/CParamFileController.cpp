@@ -127,7 +127,7 @@ bool CParamFileController::loadFile(const QString& key, const QString& path)
     connect(m_load, &CParamFileLoadThread::loadFinished, this, &CParamFileController::onLoadFinished,
             Qt::QueuedConnection);
     showWait(tr("Open Config"), tr("Loading parameters..."));
-    m_load->start(QThread::InheritPriority);
+    m_load->begin();
     return true;
 }
 
@@ -148,7 +148,7 @@ bool CParamFileController::saveFile(const QString& key, const QString& path)
     connect(m_save, &CParamFileSaveThread::saveFinished, this, &CParamFileController::onSaveFinished,
             Qt::QueuedConnection);
     showWait(tr("Save Config"), tr("Saving parameters..."));
-    m_save->start(QThread::InheritPriority);
+    m_save->begin();
     return true;
 }
 
@@ -187,8 +187,8 @@ void CParamFileController::onLoadFinished(int result, int loaded, int total, QSt
     const QString report = m_load ? m_load->reportPath() : QString();
     if (m_load)
     {
-        m_load->wait();
-        m_load->deleteLater();
+        // It has nothing more to say; it goes once its last lines are out.
+        m_load->retire();
         m_load = nullptr;
     }
     closeWait();
@@ -216,8 +216,7 @@ void CParamFileController::onSaveFinished(bool ok, QString message, int count)
     const QString path = m_save ? m_save->path() : QString();
     if (m_save)
     {
-        m_save->wait();
-        m_save->deleteLater();
+        m_save->retire();
         m_save = nullptr;
     }
     closeWait();

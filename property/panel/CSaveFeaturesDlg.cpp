@@ -36,7 +36,6 @@ CSaveFeaturesDlg::CSaveFeaturesDlg(CTavDevicePtr device, QWidget* parent)
     connect(m_worker, &CFeatureControlWorker::writeDone, this, &CSaveFeaturesDlg::onWriteDone, Qt::QueuedConnection);
     connect(m_worker, &CFeatureControlWorker::executeDone, this, &CSaveFeaturesDlg::onExecuteDone,
             Qt::QueuedConnection);
-    m_worker->start(QThread::InheritPriority);
     initUI();
     connect(this, &CSaveFeaturesDlg::update_receive, this, &CSaveFeaturesDlg::OnUpdateReceive, Qt::QueuedConnection);
     CDeviceManager::getInstance()->attach(this);
