@@ -49,24 +49,19 @@ CPropertyFeaturesForm::~CPropertyFeaturesForm()
     }
     m_writer.reset();
     // The tree before its rows, which go with the model.
-    delete m_browser;
-    m_browser = nullptr;
+    delete m_ui.browser;
+    m_ui.browser = nullptr;
 }
 
 void CPropertyFeaturesForm::init()
 {
     qRegisterMetaType<QtProperty*>("QtProperty*");
     m_ui.setupUi(this);
-    m_browser = m_ui.browser;
-    m_cbVisibility = m_ui.cbVisibility;
-    m_lineEditKey = m_ui.lineEditKey;
-    m_textDesc = m_ui.textDesc;
-    m_btnTranslate = m_ui.btnTranslate;
-    connect(m_browser, &QtAbstractPropertyBrowser::currentItemChanged, this,
+    connect(m_ui.browser, &QtAbstractPropertyBrowser::currentItemChanged, this,
             &CPropertyFeaturesForm::onPropertyBrowserItemChanged);
     m_model.reset(new CFeatureTreeModel());
-    m_model->bindFactories(m_browser);
-    m_navigator.reset(new CFeatureTreeNavigator(m_browser));
+    m_model->bindFactories(m_ui.browser);
+    m_navigator.reset(new CFeatureTreeNavigator(m_ui.browser));
 
     // Rows are built and changed on the GUI thread only, so the value
     // signals arrive directly; the model tells its own changes from the user's.
@@ -85,20 +80,20 @@ void CPropertyFeaturesForm::init()
     connect(m_model->commandFactory(), &QtPushButtonFactory::onClick, this,
             &CPropertyFeaturesForm::onCommandPropertyClicked, Qt::QueuedConnection);
 
-    connect(m_cbVisibility, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_ui.cbVisibility, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &CPropertyFeaturesForm::on_cbVisibility_currentIndexChanged);
-    connect(m_lineEditKey, &QLineEdit::textChanged, this, &CPropertyFeaturesForm::on_lineEditKey_textChanged);
+    connect(m_ui.lineEditKey, &QLineEdit::textChanged, this, &CPropertyFeaturesForm::on_lineEditKey_textChanged);
     connect(m_ui.btnExpand, &QPushButton::clicked, this, &CPropertyFeaturesForm::on_btnExpand_clicked);
     connect(m_ui.btnReset, &QPushButton::clicked, this, &CPropertyFeaturesForm::on_btnReset_clicked);
     connect(m_ui.btnSave, &QPushButton::clicked, this, &CPropertyFeaturesForm::on_btnSave_clicked);
-    connect(m_btnTranslate, &QPushButton::clicked, this, &CPropertyFeaturesForm::on_btnTranslate_clicked);
+    connect(m_ui.btnTranslate, &QPushButton::clicked, this, &CPropertyFeaturesForm::on_btnTranslate_clicked);
 
     CConfiguration* cfg = CConfiguration::getInstance();
     connect(this, &CPropertyFeaturesForm::signalVisibilityChanged, cfg, &CConfiguration::setVisibility);
     connect(cfg, &CConfiguration::signalVisibilityChanged, this, &CPropertyFeaturesForm::onVisibilityChanged);
     connect(cfg, &CConfiguration::signalRestoreCfg, this, &CPropertyFeaturesForm::onRestoreCfg);
     m_bTranslated = cfg->readFeatureLanguageSetting() != 0;
-    m_btnTranslate->setChecked(m_bTranslated);
+    m_ui.btnTranslate->setChecked(m_bTranslated);
     restoreConfig();
     retranslateWidgets();
 
@@ -191,7 +186,7 @@ void CPropertyFeaturesForm::showGenParam()
     LOG_DEBUG("begin showGenParam");
     m_bLoaded = false;
     restoreConfig();
-    showGenParam(unsigned(m_cbVisibility->currentIndex()));
+    showGenParam(unsigned(m_ui.cbVisibility->currentIndex()));
     LOG_DEBUG("end showGenParam");
 }
 
@@ -228,10 +223,10 @@ void CPropertyFeaturesForm::on_btnExpand_clicked()
 void CPropertyFeaturesForm::setComboLevel(int level)
 {
     level = qBound(0, level, 2);
-    if (m_cbVisibility->currentIndex() == level)
+    if (m_ui.cbVisibility->currentIndex() == level)
         return;
     m_bSyncingCombo = true;
-    m_cbVisibility->setCurrentIndex(level);
+    m_ui.cbVisibility->setCurrentIndex(level);
     m_bSyncingCombo = false;
 }
 
@@ -248,7 +243,7 @@ void CPropertyFeaturesForm::on_cbVisibility_currentIndexChanged(int index)
 
 void CPropertyFeaturesForm::saveConfig()
 {
-    emit signalVisibilityChanged(m_cbVisibility->currentIndex());
+    emit signalVisibilityChanged(m_ui.cbVisibility->currentIndex());
     if (!CConfiguration::getInstance()->saveConfigToUserXml())
         showMessage(tr("Save Config failed."), QMessageBox::Ok, QMessageBox::Critical);
 }
@@ -263,8 +258,8 @@ void CPropertyFeaturesForm::on_lineEditKey_textChanged(const QString& text)
     if (!m_model->root())
         return;
     // Every feature may match: search at the Guru level.
-    if (!text.isEmpty() && m_cbVisibility->currentIndex() != 2)
-        m_cbVisibility->setCurrentIndex(2);
+    if (!text.isEmpty() && m_ui.cbVisibility->currentIndex() != 2)
+        m_ui.cbVisibility->setCurrentIndex(2);
     m_navigator->setKey(text);
 }
 
@@ -275,9 +270,9 @@ void CPropertyFeaturesForm::applyNodeInfo(const CFeatureNodeInfo& info)
     QtProperty* property = m_model->apply(info, m_bTranslated);
     if (!property)
         return;
-    QtBrowserItem* current = m_browser->currentItem();
+    QtBrowserItem* current = m_ui.browser->currentItem();
     if (current && current->property() == property)
-        m_textDesc->setHtml(property->txtTag());
+        m_ui.textDesc->setHtml(property->txtTag());
     emit rowRefreshed(info.name);
 }
 
@@ -289,7 +284,7 @@ void CPropertyFeaturesForm::UpdateParameter(const QString& name)
 void CPropertyFeaturesForm::updateGrabStatus()
 {
     QList<QtProperty*> shown;
-    m_browser->getShowedProperties(shown);
+    m_ui.browser->getShowedProperties(shown);
     QList<QString> names;
     for (QtProperty* p : shown)
         if (p->hasValue())
@@ -301,10 +296,10 @@ void CPropertyFeaturesForm::onPropertyBrowserItemChanged(QtBrowserItem* item)
 {
     if (!item)
     {
-        m_textDesc->clear();
+        m_ui.textDesc->clear();
         return;
     }
-    m_textDesc->setHtml(item->property()->txtTag());
+    m_ui.textDesc->setHtml(item->property()->txtTag());
     if (item->property()->hasValue())
         UpdateParameter(item->property()->whatsThis());
 }
@@ -495,7 +490,7 @@ void CPropertyFeaturesForm::setFeatureLanguage(int language)
     if (translated == m_bTranslated)
         return;
     m_bTranslated = translated;
-    m_btnTranslate->setChecked(m_bTranslated);
+    m_ui.btnTranslate->setChecked(m_bTranslated);
     transParam();
 }
 
@@ -504,13 +499,13 @@ void CPropertyFeaturesForm::transParam(const QString& rootName)
     QtProperty* root = rootName == QLatin1String("Root") ? m_model->root() : m_model->row(rootName);
     if (!root)
         return;
-    m_browser->treeWidget()->setUpdatesEnabled(false);
+    m_ui.browser->treeWidget()->setUpdatesEnabled(false);
     m_model->relabel(root, m_bTranslated);
-    if (!m_browser->showKey().isEmpty())
-        m_browser->UpdateShow();
-    m_browser->treeWidget()->setUpdatesEnabled(true);
-    if (QtBrowserItem* current = m_browser->currentItem())
-        m_textDesc->setHtml(current->property()->txtTag());
+    if (!m_ui.browser->showKey().isEmpty())
+        m_ui.browser->UpdateShow();
+    m_ui.browser->treeWidget()->setUpdatesEnabled(true);
+    if (QtBrowserItem* current = m_ui.browser->currentItem())
+        m_ui.textDesc->setHtml(current->property()->txtTag());
 }
 
 void CPropertyFeaturesForm::retranslateUi()

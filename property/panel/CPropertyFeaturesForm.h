@@ -113,10 +113,10 @@ public:
     // Set before the load starts (it starts on the event loop's next pass).
     void setLoadProbe(const std::function<bool(int nodesRead)>& probe) { m_cameraSide->setLoadProbe(probe); }
 
-    QtTreePropertyBrowser* browser() const { return m_browser; }
-    QComboBox* visibilityCombo() const { return m_cbVisibility; }
-    QLineEdit* keyEdit() const { return m_lineEditKey; }
-    QTextEdit* descriptionPane() const { return m_textDesc; }
+    QtTreePropertyBrowser* browser() const { return m_ui.browser; }
+    QComboBox* visibilityCombo() const { return m_ui.cbVisibility; }
+    QLineEdit* keyEdit() const { return m_ui.lineEditKey; }
+    QTextEdit* descriptionPane() const { return m_ui.textDesc; }
     QtPushButtonFactory* commandFactory() const { return m_model->commandFactory(); }
     const CFeatureTreeBuilder::SManagers& managers() const { return m_model->managers(); }
     CUpdateParamThread* updateThread() const { return m_pUpdateThread; }
@@ -183,11 +183,6 @@ private:
     CFeatureFormCamera::Ptr m_cameraSide;
 
     CFeaturesFormUi m_ui;
-    QtTreePropertyBrowser* m_browser = nullptr;
-    QComboBox* m_cbVisibility = nullptr;
-    QLineEdit* m_lineEditKey = nullptr;
-    QPushButton* m_btnTranslate = nullptr;
-    QTextEdit* m_textDesc = nullptr;
     CWaitDlg* m_pWaitDlg = nullptr;
 
     // Declared in the order they are built; the writer goes before the model

@@ -207,31 +207,27 @@ void CPropertyForm::OnUpdateReceive(CTavMessagePtr msg)
     {
     case MSG_DEVICE_CONNECTED:
         addDevicePages(device);
-        refreshShow();
         break;
     case MSG_DEVICE_CONNECT_FAILED:
     case MSG_DEVICE_DISCONNECTED:
     case MSG_DEVICE_OFFLINE:
         removeDevicePages(device);
-        refreshShow();
         break;
     case MSG_DEVICE_DISCONNECTING:
         if (CPropertyImageFormatForm* page = m_imageFormat.value(device))
             page->cancelROI();
-        refreshShow();
         break;
     case MSG_STREAM_OPENED:
     case MSG_STREAM_CLOSED:
         if (CPropertyFeaturesForm* page = m_features.value(device))
             page->updateGrabStatus();
-        refreshShow();
         break;
     case MSG_DEVICE_CONNECTING:
-        refreshShow();
         break;
     default:
-        break;
+        return;
     }
+    refreshShow();
 }
 
 void CPropertyForm::setCurDevice(CTavDevicePtr device)

@@ -29,31 +29,6 @@ void QtGroupPropertyManager::uninitializeProperty(QtProperty*) {}
 
 QtDoublePropertyManager::QtDoublePropertyManager(QObject* parent) : QtRecordPropertyManager(parent) {}
 
-double QtDoublePropertyManager::value(const QtProperty* property) const
-{
-    return record(property).val;
-}
-
-double QtDoublePropertyManager::minimum(const QtProperty* property) const
-{
-    return record(property).minVal;
-}
-
-double QtDoublePropertyManager::maximum(const QtProperty* property) const
-{
-    return record(property).maxVal;
-}
-
-double QtDoublePropertyManager::singleStep(const QtProperty* property) const
-{
-    return record(property).singleStep;
-}
-
-int QtDoublePropertyManager::decimals(const QtProperty* property) const
-{
-    return record(property).decimals;
-}
-
 QString QtDoublePropertyManager::valueText(const QtProperty* property) const
 {
     const QtDoubleRecord* r = recordOf(property);
@@ -118,21 +93,6 @@ void QtDoublePropertyManager::setDecimals(QtProperty* property, int prec)
 
 QtEnumPropertyManager::QtEnumPropertyManager(QObject* parent) : QtRecordPropertyManager(parent) {}
 
-int QtEnumPropertyManager::value(const QtProperty* property) const
-{
-    return record(property).val;
-}
-
-QStringList QtEnumPropertyManager::enumNames(const QtProperty* property) const
-{
-    return record(property).enumNames;
-}
-
-QMap<int, QIcon> QtEnumPropertyManager::enumIcons(const QtProperty* property) const
-{
-    return record(property).enumIcons;
-}
-
 QString QtEnumPropertyManager::valueText(const QtProperty* property) const
 {
     const QtEnumRecord* r = recordOf(property);
@@ -184,16 +144,6 @@ void QtEnumPropertyManager::setEnumIcons(QtProperty* property, const QMap<int, Q
 // --------------------------------------------------- QtStringPropertyManager
 
 QtStringPropertyManager::QtStringPropertyManager(QObject* parent) : QtRecordPropertyManager(parent) {}
-
-QString QtStringPropertyManager::value(const QtProperty* property) const
-{
-    return record(property).val;
-}
-
-QRegExp QtStringPropertyManager::regExp(const QtProperty* property) const
-{
-    return record(property).regExp;
-}
 
 void QtStringPropertyManager::click(QtProperty* property, bool checked)
 {

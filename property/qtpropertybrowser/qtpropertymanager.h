@@ -87,11 +87,11 @@ class QtDoublePropertyManager : public QtRecordPropertyManager<QtDoubleRecord>
 public:
     explicit QtDoublePropertyManager(QObject* parent = nullptr);
 
-    double value(const QtProperty* property) const;
-    double minimum(const QtProperty* property) const;
-    double maximum(const QtProperty* property) const;
-    double singleStep(const QtProperty* property) const;
-    int decimals(const QtProperty* property) const;
+    double value(const QtProperty* property) const { return record(property).val; }
+    double minimum(const QtProperty* property) const { return record(property).minVal; }
+    double maximum(const QtProperty* property) const { return record(property).maxVal; }
+    double singleStep(const QtProperty* property) const { return record(property).singleStep; }
+    int decimals(const QtProperty* property) const { return record(property).decimals; }
 
 public slots:
     void setValue(QtProperty* property, double value);
@@ -117,9 +117,9 @@ class QtEnumPropertyManager : public QtRecordPropertyManager<QtEnumRecord>
 public:
     explicit QtEnumPropertyManager(QObject* parent = nullptr);
 
-    int value(const QtProperty* property) const;
-    QStringList enumNames(const QtProperty* property) const;
-    QMap<int, QIcon> enumIcons(const QtProperty* property) const;
+    int value(const QtProperty* property) const { return record(property).val; }
+    QStringList enumNames(const QtProperty* property) const { return record(property).enumNames; }
+    QMap<int, QIcon> enumIcons(const QtProperty* property) const { return record(property).enumIcons; }
 
 public slots:
     void setValue(QtProperty* property, int value);
@@ -142,8 +142,8 @@ class QtStringPropertyManager : public QtRecordPropertyManager<QtStringRecord>
 public:
     explicit QtStringPropertyManager(QObject* parent = nullptr);
 
-    QString value(const QtProperty* property) const;
-    QRegExp regExp(const QtProperty* property) const;
+    QString value(const QtProperty* property) const { return record(property).val; }
+    QRegExp regExp(const QtProperty* property) const { return record(property).regExp; }
 
     // A command row's button was pressed: announces it through onClick.
     void click(QtProperty* property, bool checked);

@@ -1,15 +1,12 @@
 #include "CFeatureControlWorker.h"
 
+#include "CFeatureNodeInfo.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 #include "Utils.h"
 
 using namespace Vorlen::GenICam;
 using Vorlen::Infra::CString;
 using Vorlen::Infra::TVector;
-
-namespace {
-const int kMetaTypeId = qRegisterMetaType<SFeatureState>("SFeatureState");
-}
 
 bool SFeatureState::isInt() const { return type == int(CInternalParameterNode::featureTypeInteger); }
 bool SFeatureState::isFloat() const { return type == int(CInternalParameterNode::featureTypeFloat); }
@@ -20,7 +17,7 @@ bool SFeatureState::isCommand() const { return type == int(CInternalParameterNod
 CFeatureControlWorker::CFeatureControlWorker(const Vorlen::Memory::TSharedPtr<ICamera>& camera, QObject* parent)
     : CJobQueueThread("CFeatureControlWorker", parent), m_camera(camera)
 {
-    Q_UNUSED(kMetaTypeId);
+    qRegisterMetaType<SFeatureState>("SFeatureState");
 }
 
 SFeatureState CFeatureControlWorker::readState(const Vorlen::Memory::TSharedPtr<ICamera>& camera,
@@ -48,40 +45,25 @@ SFeatureState CFeatureControlWorker::readState(const Vorlen::Memory::TSharedPtr<
     switch (node.getType())
     {
     case CInternalParameterNode::featureTypeInteger: {
-        long v = 0, mx = 0, mn = 0, inc = 1;
-        node.getIntValue(v);
-        if (node.getIntMaxMin(mx, mn))
-        {
-            s.intMin = mn;
-            s.intMax = mx;
-        }
-        else
-        {
-            s.intMin = s.intMax = v;
-        }
-        if (node.getIntIncrement(inc) && inc > 0)
-            s.intInc = inc;
-        s.intValue = v;
+        const auto n = CFeatureNodeInfo::readInt(node, true);
+        s.intValue = n.value;
+        // Without a range the control holds the value alone.
+        s.intMin = n.rangeOk ? n.min : n.value;
+        s.intMax = n.rangeOk ? n.max : n.value;
+        if (n.incrementOk)
+            s.intInc = n.increment;
         break;
     }
     case CInternalParameterNode::featureTypeFloat: {
-        double v = 0, mx = 0, mn = 0, inc = 0;
+        const auto n = CFeatureNodeInfo::readFloat(node, true, true);
+        s.floatValue = n.value;
+        s.floatMin = n.rangeOk ? n.min : n.value;
+        s.floatMax = n.rangeOk ? n.max : n.value;
+        if (n.incrementOk)
+            s.floatInc = n.increment;
         long precision = 2;
-        node.getFloatValue(v);
-        if (node.getFloatMaxMin(mx, mn))
-        {
-            s.floatMin = mn;
-            s.floatMax = mx;
-        }
-        else
-        {
-            s.floatMin = s.floatMax = v;
-        }
-        if (node.getFloatIncrement(inc) && inc > 0)
-            s.floatInc = inc;
         if (node.getFloatDisplayPrecision(precision) && precision >= 0 && precision <= 9)
             s.floatPrecision = int(precision);
-        s.floatValue = v;
         break;
     }
     case CInternalParameterNode::featureTypeBool:

@@ -1,12 +1,8 @@
 #include "CLoadPropertiesThread.h"
 
-namespace {
-const int kTreeTypeId = qRegisterMetaType<CFeatureTreePtr>("CFeatureTreePtr");
-}
-
 CLoadPropertiesThread::CLoadPropertiesThread(QObject* parent) : CJobQueueThread("CLoadPropertiesThread", parent)
 {
-    Q_UNUSED(kTreeTypeId);
+    qRegisterMetaType<CFeatureTreePtr>("CFeatureTreePtr");
 }
 
 void CLoadPropertiesThread::load(const Loader& loader)

@@ -1,13 +1,9 @@
 #include "CUpdateParamThread.h"
 
-namespace {
-const int kInfoTypeId = qRegisterMetaType<CFeatureNodeInfo>("CFeatureNodeInfo");
-}
-
 CUpdateParamThread::CUpdateParamThread(const Reader& read, QObject* parent)
     : CFeatureListThread("CUpdateParamThread", parent), m_read(read)
 {
-    Q_UNUSED(kInfoTypeId);
+    qRegisterMetaType<CFeatureNodeInfo>("CFeatureNodeInfo");
 }
 
 void CUpdateParamThread::SetPropertyList(const QList<QString>& names)

@@ -1,12 +1,8 @@
 #include "CWriteParamThread.h"
 
-namespace {
-const int kContinuationTypeId = qRegisterMetaType<CWriteContinuation>("CWriteContinuation");
-}
-
 CWriteParamThread::CWriteParamThread(QObject* parent) : CJobQueueThread("CWriteParamThread", parent)
 {
-    Q_UNUSED(kContinuationTypeId);
+    qRegisterMetaType<CWriteContinuation>("CWriteContinuation");
 }
 
 void CWriteParamThread::addJob(const WriteJob& job)
