@@ -60,15 +60,9 @@ CFeatureControlPage::CFeatureControlPage(CTavDevicePtr device, const char* conte
     column->addStretch(1);
     scroll->setWidget(body);
 
-    m_worker = new CFeatureControlWorker(device ? device->getDevice()
-                                                : Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera>(),
-                                         this);
-    connect(m_worker, &CFeatureControlWorker::stateRead, this, &CFeatureControlPage::onStateRead,
-            Qt::QueuedConnection);
-    connect(m_worker, &CFeatureControlWorker::writeDone, this, &CFeatureControlPage::onWriteDone,
-            Qt::QueuedConnection);
-    connect(m_worker, &CFeatureControlWorker::executeDone, this, &CFeatureControlPage::onExecuteDone,
-            Qt::QueuedConnection);
+    m_worker = new CFeatureControlWorker(device, this);
+    m_worker->deliverTo(this, &CFeatureControlPage::onStateRead, &CFeatureControlPage::onWriteDone,
+                        &CFeatureControlPage::onExecuteDone);
 
     for (const SLine& line : lines)
     {

@@ -1,6 +1,7 @@
 #include "CFeatureControlWorker.h"
 
 #include "CFeatureNodeInfo.h"
+#include "CTavDevice.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 #include "Utils.h"
 
@@ -18,6 +19,11 @@ CFeatureControlWorker::CFeatureControlWorker(const Vorlen::Memory::TSharedPtr<IC
     : CJobQueueThread("CFeatureControlWorker", parent), m_camera(camera)
 {
     qRegisterMetaType<SFeatureState>("SFeatureState");
+}
+
+CFeatureControlWorker::CFeatureControlWorker(const CTavDevicePtr& device, QObject* parent)
+    : CFeatureControlWorker(device ? device->getDevice() : Vorlen::Memory::TSharedPtr<ICamera>(), parent)
+{
 }
 
 SFeatureState CFeatureControlWorker::readState(const Vorlen::Memory::TSharedPtr<ICamera>& camera,

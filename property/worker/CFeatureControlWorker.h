@@ -17,6 +17,7 @@
 #include <memory>
 
 #include "CJobQueueThread.h"
+#include "CTavMessage.h"
 #include "Vorlen/GenICam.h"
 
 // What a control needs to know about one feature.
@@ -51,6 +52,19 @@ class CFeatureControlWorker : public CJobQueueThread
 public:
     explicit CFeatureControlWorker(const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera>& camera,
                                    QObject* parent = nullptr);
+    // The device's camera (none without a device).
+    explicit CFeatureControlWorker(const CTavDevicePtr& device, QObject* parent = nullptr);
+
+    // Delivers the results to the receiver's handlers on its thread.
+    template <class Receiver>
+    void deliverTo(Receiver* receiver, void (Receiver::*onStateRead)(SFeatureState),
+                   void (Receiver::*onWriteDone)(QString, bool, QString, SFeatureState),
+                   void (Receiver::*onExecuteDone)(QString, bool, QString))
+    {
+        connect(this, &CFeatureControlWorker::stateRead, receiver, onStateRead, Qt::QueuedConnection);
+        connect(this, &CFeatureControlWorker::writeDone, receiver, onWriteDone, Qt::QueuedConnection);
+        connect(this, &CFeatureControlWorker::executeDone, receiver, onExecuteDone, Qt::QueuedConnection);
+    }
 
     // Reads the state of a feature from the camera (any thread).
     static SFeatureState readState(const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera>& camera,

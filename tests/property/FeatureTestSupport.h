@@ -14,6 +14,13 @@
 #include "CTavDevice.h"
 #include "Tavlog4cpp/CTavLog.h"
 
+// The application keeps its configuration in the home CTest gives the test.
+inline const bool g_ownHome = []() {
+    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
+        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
+    return true;
+}();
+
 // The device of the discovered camera with the serial number, or null.
 inline CTavDevicePtr findDeviceBySerial(const QString& serial)
 {

@@ -26,12 +26,6 @@
 #include "qtpropertymanager.h"
 #include "qttreepropertybrowser.h"
 
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 using namespace Vorlen::GenICam;
 
 // The tooltip's two kinds of text, as the rows must write them.
@@ -70,6 +64,8 @@ private:
     QtProperty* row(const QString& name) const { return m_form->findProperty(name); }
     bool rowShown(const QString& name) const;
     bool waitWrite(const QString& name);
+    // Reads the feature again and waits until its row shows it.
+    bool refreshRow(const QString& name);
     QString deviceValue(const char* name);
 
     FakeCameraRig m_rig;
@@ -134,17 +130,26 @@ bool TestFeaturesForm::rowShown(const QString& name) const
     return !items.isEmpty() && m_form->browser()->isItemVisible(items.first());
 }
 
+// Whether the spy saw the signal for the feature (its first argument).
+static bool seen(const QSignalSpy& spy, const QString& name)
+{
+    for (const QList<QVariant>& args : spy)
+        if (args.at(0).toString() == name)
+            return true;
+    return false;
+}
+
 bool TestFeaturesForm::waitWrite(const QString& name)
 {
     QSignalSpy spy(m_form, &CPropertyFeaturesForm::writeFinished);
-    return QTest::qWaitFor(
-        [&]() {
-            for (const QList<QVariant>& args : spy)
-                if (args.at(0).toString() == name)
-                    return true;
-            return false;
-        },
-        10000);
+    return QTest::qWaitFor([&]() { return seen(spy, name); }, 10000);
+}
+
+bool TestFeaturesForm::refreshRow(const QString& name)
+{
+    QSignalSpy spy(m_form, &CPropertyFeaturesForm::rowRefreshed);
+    m_form->UpdateParameter(name);
+    return QTest::qWaitFor([&]() { return seen(spy, name); }, 10000);
 }
 
 QString TestFeaturesForm::deviceValue(const char* name)
@@ -269,18 +274,14 @@ void TestFeaturesForm::rangeWarningAndUnavailableRows()
     // A value outside its range (written behind the camera's back) is shown
     // with the warning, not clamped, and txtTag keeps the information.
     QVERIFY(m_rig.writeRegister(m_cam, 0x108, 9));   // BinningHorizontal, range 1..4
-    QSignalSpy refreshed(m_form, &CPropertyFeaturesForm::rowRefreshed);
-    m_form->updateThread()->appendPropertyList({"BinningHorizontal"});
-    QVERIFY(refreshed.wait(5000));
+    QVERIFY(refreshRow("BinningHorizontal"));
     QtProperty* binning = row("BinningHorizontal");
     QCOMPARE(m_form->managers().integer->value(binning), 9.0);
     QCOMPARE(binning->displayMode(), QtProperty::DisplayIcon);
     QCOMPARE(binning->toolTip(), QString("Parameter out of range"));
     QVERIFY(binning->txtTag().contains(normal("Feature Name: ") + bold("BinningHorizontal")));
     QVERIFY(m_rig.writeRegister(m_cam, 0x108, 1));
-    refreshed.clear();
-    m_form->updateThread()->appendPropertyList({"BinningHorizontal"});
-    QVERIFY(refreshed.wait(5000));
+    QVERIFY(refreshRow("BinningHorizontal"));
     QCOMPARE(binning->displayMode(), QtProperty::DisplayNormal);
     QCOMPARE(binning->toolTip(), binning->txtTag());
 }

@@ -20,12 +20,6 @@
 #include "QtPushButtonFactory.h"
 #include "qtpropertymanager.h"
 
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 class TestFeaturesLifecycle : public QObject
 {
     Q_OBJECT

@@ -13,12 +13,6 @@
 #include "CParamFileController.h"
 #include "TestFiles.h"
 
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 struct Shown
 {
     QString text;

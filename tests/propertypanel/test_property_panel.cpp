@@ -27,12 +27,6 @@
 #include "CSpinBox.h"
 #include "QueuedSignalSpy.h"
 
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 class TestPropertyPanel : public QObject
 {
     Q_OBJECT
