@@ -35,6 +35,15 @@ private slots:
 private:
     // The standard environment, with a clock that does not wait.
     static SParamFileEnv readyEnv();
+    // A parameter file of 50 writes of ReverseX; its path, empty when it could not be written.
+    QString longFile(const QString& name)
+    {
+        QByteArray text = QByteArray(CDeviceParamFile::magic()) + "\n";
+        for (int i = 0; i < 50; ++i)
+            text += "ReverseX=" + QByteArray::number(i % 2) + "\n";
+        const QString path = m_dir.filePath(name);
+        return writeAll(path, text) ? path : QString();
+    }
     CParamFileController::MessageHandler collect()
     {
         return [this](const QString& t, QMessageBox::Icon i, const QString& p) { m_shown.append({t, int(i), p}); };
@@ -84,7 +93,6 @@ void TestParamFiles::paramFileText()
     QCOMPARE(bad.problems.size(), 4);
     QVERIFY(bad.problems[0].startsWith("line 1"));
 }
-
 
 void TestParamFiles::paramFileRoundTripBetweenCameras()
 {
@@ -143,7 +151,6 @@ void TestParamFiles::paramFileRoundTripBetweenCameras()
     }
 }
 
-
 void TestParamFiles::paramFileReportsWhatDidNotLoad()
 {
     const CTavDevicePtr b = m_cams.dev[1];
@@ -192,7 +199,6 @@ void TestParamFiles::paramFileReportsWhatDidNotLoad()
     QVERIFY(QString::fromUtf8(readAll(report)).contains("no-such-key"));
 }
 
-
 void TestParamFiles::paramFileStopsWhenCameraIsLost()
 {
     const CTavDevicePtr b = m_cams.dev[1];
@@ -209,11 +215,8 @@ void TestParamFiles::paramFileStopsWhenCameraIsLost()
         QMetaObject::invokeMethod(b.get(), [b]() { b->closeDevice(true); }, Qt::BlockingQueuedConnection);
         return d;
     };
-    const QString path = m_dir.filePath("long.txt");
-    QByteArray text = QByteArray(CDeviceParamFile::magic()) + "\n";
-    for (int i = 0; i < 50; ++i)
-        text += "ReverseX=" + QByteArray::number(i % 2) + "\n";
-    QVERIFY(writeAll(path, text));
+    const QString path = longFile("long.txt");
+    QVERIFY(!path.isEmpty());
     const QString report = m_dir.filePath("lost-report.log");
     CParamFileLoadThread load(b->getDeviceKey(), path, env, report);
     QSignalSpy finished(&load, &CParamFileLoadThread::loadFinished);
@@ -231,7 +234,6 @@ void TestParamFiles::paramFileStopsWhenCameraIsLost()
     QVERIFY(b->openDevice(true));
 }
 
-
 void TestParamFiles::paramFileLoadCutByClosing()
 {
     // A load whose worker waits on the camera (held here) when its
@@ -241,11 +243,8 @@ void TestParamFiles::paramFileLoadCutByClosing()
     QVERIFY(dev->isConnected());
     Vorlen::GenICam::CAravisCamera* camera = Vorlen::GenICam::toAravisCamera(dev->getDevice());
     QVERIFY(camera);
-    const QString path = m_dir.filePath("cut.txt");
-    QByteArray text = QByteArray(CDeviceParamFile::magic()) + "\n";
-    for (int i = 0; i < 50; ++i)
-        text += "ReverseX=" + QByteArray::number(i % 2) + "\n";
-    QVERIFY(writeAll(path, text));
+    const QString path = longFile("cut.txt");
+    QVERIFY(!path.isEmpty());
     const QString report = m_dir.filePath("cut-report.log");
     QFile::remove(report);
     const QString fileBefore = dev->getCurFile();
@@ -274,7 +273,6 @@ void TestParamFiles::paramFileLoadCutByClosing()
     if (QFile::exists(report))
         QVERIFY(QString::fromUtf8(readAll(report)).contains("stopped", Qt::CaseInsensitive));
 }
-
 
 QTEST_MAIN(TestParamFiles)
 #include "test_param_files.moc"

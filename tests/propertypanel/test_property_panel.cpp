@@ -113,7 +113,6 @@ void TestPropertyPanel::panelPagesFollowTheBus()
     QVERIFY(dev->openDevice(true));
 }
 
-
 void TestPropertyPanel::userSets()
 {
     const CTavDevicePtr dev = m_cams.dev[0];
@@ -185,7 +184,6 @@ void TestPropertyPanel::userSets()
     QVERIFY(writeFeature(dev, "UserSetDefault", "Default"));
 }
 
-
 void TestPropertyPanel::quickSettingsFollowTheCamera()
 {
     const CTavDevicePtr dev = m_cams.dev[0];
@@ -245,7 +243,6 @@ void TestPropertyPanel::quickSettingsFollowTheCamera()
     QVERIFY(writeFeature(dev, "TriggerMode", "Off"));
 }
 
-
 void TestPropertyPanel::imageFormatRefusedWhileGrabbing()
 {
     const CTavDevicePtr dev = m_cams.dev[0];
@@ -298,7 +295,6 @@ void TestPropertyPanel::imageFormatRefusedWhileGrabbing()
     QVERIFY(writeFeature(dev, "Height", "240"));
 }
 
-
 void TestPropertyPanel::workerRetiresWithoutWaiting()
 {
     // A worker in the middle of a camera round trip: the camera's lock is
@@ -337,7 +333,6 @@ void TestPropertyPanel::workerRetiresWithoutWaiting()
     ended->retire();
     QTRY_VERIFY(ended.isNull());
 }
-
 
 void TestPropertyPanel::screenshots()
 {
@@ -381,7 +376,6 @@ void TestPropertyPanel::screenshots()
     for (QTranslator* t : translators)
         QCoreApplication::removeTranslator(t);
 }
-
 
 QTEST_MAIN(TestPropertyPanel)
 #include "test_property_panel.moc"
