@@ -15,10 +15,10 @@
 
 #include "CDeviceManager.h"
 #include "CDoubleSpinBox.h"
+#include "CFeatureTreeBuilder.h"
 #include "CSlider.h"
 #include "CSpinBox.h"
 #include "CTavDevice.h"
-#include "ParamTransTables.h"
 #include "MessageBox.h"
 #include "Utils.h"
 
@@ -36,9 +36,11 @@ qint64 snapToGrid(qint64 value, const SFeatureState& s)
 }
 }
 
-CFeatureControlPage::CFeatureControlPage(CTavDevicePtr device, const char* context, QWidget* parent)
+CFeatureControlPage::CFeatureControlPage(CTavDevicePtr device, const char* context,
+                                         std::initializer_list<SLine> lines, QWidget* parent)
     : QWidget(parent), m_device(device), m_context(context)
 {
+    setObjectName(QLatin1String(context));
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     auto* scroll = new QScrollArea(this);
@@ -58,20 +60,21 @@ CFeatureControlPage::CFeatureControlPage(CTavDevicePtr device, const char* conte
     column->addStretch(1);
     scroll->setWidget(body);
 
-    m_worker = new CFeatureControlWorker(device ? device->getDevice()
-                                                : Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera>(),
-                                         this);
-    connect(m_worker, &CFeatureControlWorker::stateRead, this, &CFeatureControlPage::onStateRead,
-            Qt::QueuedConnection);
-    connect(m_worker, &CFeatureControlWorker::writeDone, this, &CFeatureControlPage::onWriteDone,
-            Qt::QueuedConnection);
-    connect(m_worker, &CFeatureControlWorker::executeDone, this, &CFeatureControlPage::onExecuteDone,
-            Qt::QueuedConnection);
-    m_worker->start(QThread::InheritPriority);
+    m_worker = new CFeatureControlWorker(device, this);
+    m_worker->deliverTo(this, &CFeatureControlPage::onStateRead, &CFeatureControlPage::onWriteDone,
+                        &CFeatureControlPage::onExecuteDone);
 
+    for (const SLine& line : lines)
+    {
+        if (line.kind == rowSection)
+            addSection(line.label);
+        else
+            addRow(QLatin1String(line.feature), line.label, line.kind);
+    }
     connect(this, &CFeatureControlPage::update_receive, this, &CFeatureControlPage::OnUpdateReceive,
             Qt::QueuedConnection);
     CDeviceManager::getInstance()->attach(this);
+    refresh();
 }
 
 CFeatureControlPage::~CFeatureControlPage()
@@ -146,6 +149,8 @@ void CFeatureControlPage::addRow(const QString& name, const char* label, ERowKin
         h->addWidget(row->check, 1);
         connect(row->check, &QCheckBox::clicked, this, [this, row](bool on) { writeValue(row->name, on); });
         break;
+    case rowSection:
+        break;
     case rowCommand:
         row->button = new QPushButton(row->row);
         h->addWidget(row->button);
@@ -185,7 +190,7 @@ void CFeatureControlPage::refresh()
     m_worker->requestRead(featureNames());
 }
 
-CFeatureControlPage::SRow* CFeatureControlPage::findRow(const QString& name)
+CFeatureControlPage::SRow* CFeatureControlPage::findRow(const QString& name) const
 {
     for (SRow* row : m_rows)
         if (row->name == name)
@@ -193,69 +198,10 @@ CFeatureControlPage::SRow* CFeatureControlPage::findRow(const QString& name)
     return nullptr;
 }
 
-const CFeatureControlPage::SRow* CFeatureControlPage::findRow(const QString& name) const
-{
-    for (const SRow* row : m_rows)
-        if (row->name == name)
-            return row;
-    return nullptr;
-}
-
-QWidget* CFeatureControlPage::rowWidget(const QString& name) const
-{
-    const SRow* r = findRow(name);
-    return r ? r->row : nullptr;
-}
-QLabel* CFeatureControlPage::rowLabel(const QString& name) const
-{
-    const SRow* r = findRow(name);
-    return r ? r->labelWidget : nullptr;
-}
-CSlider* CFeatureControlPage::slider(const QString& name) const
-{
-    const SRow* r = findRow(name);
-    return r ? r->slider : nullptr;
-}
-CSpinBox* CFeatureControlPage::intSpinBox(const QString& name) const
-{
-    const SRow* r = findRow(name);
-    return r ? r->spin : nullptr;
-}
-CDoubleSpinBox* CFeatureControlPage::floatSpinBox(const QString& name) const
-{
-    const SRow* r = findRow(name);
-    return r ? r->dspin : nullptr;
-}
-QComboBox* CFeatureControlPage::comboBox(const QString& name) const
-{
-    const SRow* r = findRow(name);
-    return r ? r->combo : nullptr;
-}
-QCheckBox* CFeatureControlPage::checkBox(const QString& name) const
-{
-    const SRow* r = findRow(name);
-    return r ? r->check : nullptr;
-}
-QPushButton* CFeatureControlPage::commandButton(const QString& name) const
-{
-    const SRow* r = findRow(name);
-    return r ? r->button : nullptr;
-}
 SFeatureState CFeatureControlPage::state(const QString& name) const
 {
     const SRow* r = findRow(name);
     return r ? r->state : SFeatureState();
-}
-
-QString CFeatureControlPage::entryText(const QString& feature, const QString& symbol)
-{
-    const auto own = g_mapNameToValueTransMap.constFind(feature);
-    if (own != g_mapNameToValueTransMap.constEnd() && own->contains(symbol))
-        return own->value(symbol);
-    const auto any = g_mapNameToValueTransMap.constFind(QStringLiteral("Any"));
-    if (any != g_mapNameToValueTransMap.constEnd() && any->contains(symbol))
-        return any->value(symbol);
-    return symbol;
 }
 
 void CFeatureControlPage::fillCombo(SRow& row)
@@ -267,7 +213,7 @@ void CFeatureControlPage::fillCombo(SRow& row)
     if (!row.state.symbol.isEmpty() && !symbols.contains(row.state.symbol))
         symbols.append(row.state.symbol);
     for (const QString& symbol : symbols)
-        row.combo->addItem(entryText(row.name, symbol), symbol);
+        row.combo->addItem(CFeatureTreeBuilder::valueText(row.name, symbol), symbol);
     row.combo->setCurrentIndex(row.combo->findData(row.state.symbol));
 }
 
@@ -324,6 +270,7 @@ void CFeatureControlPage::applyState(SRow& row, const SFeatureState& s)
         row.check->setChecked(s.boolValue);
         break;
     }
+    case rowSection:
     case rowCommand:
         break;
     }

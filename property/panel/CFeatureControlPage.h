@@ -48,14 +48,14 @@ public:
     QStringList featureNames() const;
 
     // For tests and the screenshot: the widgets of a feature's row.
-    QWidget* rowWidget(const QString& name) const;
-    QLabel* rowLabel(const QString& name) const;
-    CSlider* slider(const QString& name) const;
-    CSpinBox* intSpinBox(const QString& name) const;
-    CDoubleSpinBox* floatSpinBox(const QString& name) const;
-    QComboBox* comboBox(const QString& name) const;
-    QCheckBox* checkBox(const QString& name) const;
-    QPushButton* commandButton(const QString& name) const;
+    QWidget* rowWidget(const QString& name) const { return widget(name, &SRow::row); }
+    QLabel* rowLabel(const QString& name) const { return widget(name, &SRow::labelWidget); }
+    CSlider* slider(const QString& name) const { return widget(name, &SRow::slider); }
+    CSpinBox* intSpinBox(const QString& name) const { return widget(name, &SRow::spin); }
+    CDoubleSpinBox* floatSpinBox(const QString& name) const { return widget(name, &SRow::dspin); }
+    QComboBox* comboBox(const QString& name) const { return widget(name, &SRow::combo); }
+    QCheckBox* checkBox(const QString& name) const { return widget(name, &SRow::check); }
+    QPushButton* commandButton(const QString& name) const { return widget(name, &SRow::button); }
     // The last state read for the feature (valid false before the first read).
     SFeatureState state(const QString& name) const;
 
@@ -72,19 +72,26 @@ signals:
 protected:
     enum ERowKind
     {
+        rowSection,   // a titled group of the rows that follow
         rowNumber,
         rowEnum,
         rowBool,
         rowCommand
     };
 
-    // context: the translation context of the label (the page's class name);
-    // label: the English label, marked with QT_TRANSLATE_NOOP.
-    CFeatureControlPage(CTavDevicePtr device, const char* context, QWidget* parent);
+    // One line of the page: a feature's row, or a section title (no feature).
+    struct SLine
+    {
+        ERowKind kind;
+        const char* label;   // English, marked with QT_TRANSLATE_NOOP in the page's context
+        const char* feature;
+    };
 
-    // Starts a titled group of rows.
-    void addSection(const char* title);
-    void addRow(const QString& name, const char* label, ERowKind kind);
+    // context: the translation context of the labels, the page's class name
+    // (also its object name). The page reads its features once it exists.
+    CFeatureControlPage(CTavDevicePtr device, const char* context, std::initializer_list<SLine> lines,
+                        QWidget* parent);
+
     // Extra widgets below the rows (the image-format page's ROI buttons).
     QVBoxLayout* bottomLayout() const { return m_bottom; }
     // Called before a write; returning false refuses it with the message shown.
@@ -105,6 +112,9 @@ private slots:
     void onExecuteDone(QString name, bool ok, QString error);
 
 private:
+    void addSection(const char* title);
+    void addRow(const QString& name, const char* label, ERowKind kind);
+
     struct SRow
     {
         QString name;
@@ -130,9 +140,13 @@ private:
     void fillCombo(SRow& row);
     void onNumberEdited(SRow& row, double value);
     void onSliderMoved(SRow& row, int position);
-    SRow* findRow(const QString& name);
-    const SRow* findRow(const QString& name) const;
-    static QString entryText(const QString& feature, const QString& symbol);
+    SRow* findRow(const QString& name) const;
+    template <class Widget>
+    Widget* widget(const QString& name, Widget* SRow::*member) const
+    {
+        const SRow* r = findRow(name);
+        return r ? r->*member : nullptr;
+    }
 
     const char* m_context;
     QList<SRow*> m_rows;

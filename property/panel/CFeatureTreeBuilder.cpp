@@ -8,9 +8,11 @@
 
 using Node = Vorlen::GenICam::CInternalParameterNode;
 
-const char* const kFmtBoldStart = "<b>";
-const char* const kFmtBoldEnd = "</b>";
+const char* const kFmtBoldStart = "<b><font color='#FFFFFF'>";
+const char* const kFmtBoldEnd = "</font></b>";
 const char* const kFmtNewLine = "<br>";
+const char* const kFmtNormalStart = "<font color = '#BCBCBC'>";
+const char* const kFmtNormalEnd = "</font>";
 const char* const kRangeWarningIcon = ":/Pic/Icon_Common_Exclamation_Mark.png";
 
 // Integers whose range cannot be read accept 0 to 2^63.
@@ -27,7 +29,7 @@ class CToolTip
 public:
     CToolTip& normal(const QString& text)
     {
-        m_html += text.toHtmlEscaped();
+        m_html += QLatin1String(kFmtNormalStart) + text.toHtmlEscaped() + QLatin1String(kFmtNormalEnd);
         return *this;
     }
     CToolTip& bold(const QString& text)
@@ -334,7 +336,7 @@ void CFeatureTreeBuilder::updatePropertyDisp(const CFeatureNodeInfo& node, QtPro
             if (node.valueOk)
                 doubles->setValue(property, node.floatValue);
             if (auto* decorated = qobject_cast<DecoratedDoublePropertyManager*>(manager))
-                decorated->setSuffix(property, node.unit.isEmpty() ? QString() : QLatin1Char(' ') + node.unit);
+                decorated->setSuffix(property, node.unit);
         }
         break;
     case Node::featureTypeEnum:

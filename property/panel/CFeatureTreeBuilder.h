@@ -20,6 +20,8 @@ class DecoratedDoublePropertyManager;
 extern const char* const kFmtBoldStart;
 extern const char* const kFmtBoldEnd;
 extern const char* const kFmtNewLine;
+extern const char* const kFmtNormalStart;
+extern const char* const kFmtNormalEnd;
 // Icon of a value outside its range.
 extern const char* const kRangeWarningIcon;
 

@@ -98,20 +98,25 @@ void CParamFileController::onSaveConfig(CTavDevicePtr device)
 
 void CParamFileController::openConfig(const QString& key)
 {
-    if (refuseWhileBusy())
-        return;
-    const QString path = chooseFile(false, key);
-    if (!path.isEmpty())
-        loadFile(key, path);
+    chooseAndRun(false, key);
 }
 
 void CParamFileController::saveConfig(const QString& key)
 {
+    chooseAndRun(true, key);
+}
+
+void CParamFileController::chooseAndRun(bool save, const QString& key)
+{
     if (refuseWhileBusy())
         return;
-    const QString path = chooseFile(true, key);
-    if (!path.isEmpty())
+    const QString path = chooseFile(save, key);
+    if (path.isEmpty())
+        return;
+    if (save)
         saveFile(key, path);
+    else
+        loadFile(key, path);
 }
 
 bool CParamFileController::loadFile(const QString& key, const QString& path)
@@ -119,15 +124,12 @@ bool CParamFileController::loadFile(const QString& key, const QString& path)
     if (refuseWhileBusy())
         return false;
     LOG_DEBUG("load parameter file [%s] into [%s]", path.toLocal8Bit().constData(), key.toLocal8Bit().constData());
-    m_busyKey = key;
     m_load = new CParamFileLoadThread(key, path, m_env, m_reportPath, this);
     connect(m_load, &CParamFileLoadThread::needConnect, this, &CParamFileController::onNeedConnect,
             Qt::QueuedConnection);
-    connect(m_load, &CParamFileThread::progress, this, &CParamFileController::onProgress, Qt::QueuedConnection);
     connect(m_load, &CParamFileLoadThread::loadFinished, this, &CParamFileController::onLoadFinished,
             Qt::QueuedConnection);
-    showWait(tr("Open Config"), tr("Loading parameters..."));
-    m_load->start(QThread::InheritPriority);
+    begin(m_load, key, tr("Open Config"), tr("Loading parameters..."));
     return true;
 }
 
@@ -142,14 +144,30 @@ bool CParamFileController::saveFile(const QString& key, const QString& path)
         return false;
     }
     LOG_DEBUG("save parameter file [%s] from [%s]", path.toLocal8Bit().constData(), key.toLocal8Bit().constData());
-    m_busyKey = key;
     m_save = new CParamFileSaveThread(device, path, this);
-    connect(m_save, &CParamFileThread::progress, this, &CParamFileController::onProgress, Qt::QueuedConnection);
     connect(m_save, &CParamFileSaveThread::saveFinished, this, &CParamFileController::onSaveFinished,
             Qt::QueuedConnection);
-    showWait(tr("Save Config"), tr("Saving parameters..."));
-    m_save->start(QThread::InheritPriority);
+    begin(m_save, key, tr("Save Config"), tr("Saving parameters..."));
     return true;
+}
+
+void CParamFileController::begin(CParamFileThread* worker, const QString& key, const QString& title,
+                                 const QString& text)
+{
+    m_busyKey = key;
+    connect(worker, &CParamFileThread::progress, this, &CParamFileController::onProgress, Qt::QueuedConnection);
+    showWait(title, text);
+    worker->begin();
+}
+
+QString CParamFileController::finish(CParamFileThread* worker)
+{
+    const QString path = worker ? worker->path() : QString();
+    // It has nothing more to say; it goes once its last lines are out.
+    if (worker)
+        worker->retire();
+    closeWait();
+    return path;
 }
 
 void CParamFileController::showWait(const QString& title, const QString& text)
@@ -183,15 +201,9 @@ void CParamFileController::onNeedConnect(QString key)
 
 void CParamFileController::onLoadFinished(int result, int loaded, int total, QString message)
 {
-    const QString path = m_load ? m_load->path() : QString();
     const QString report = m_load ? m_load->reportPath() : QString();
-    if (m_load)
-    {
-        m_load->wait();
-        m_load->deleteLater();
-        m_load = nullptr;
-    }
-    closeWait();
+    const QString path = finish(m_load);
+    m_load = nullptr;
     if (const CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(m_busyKey))
         if (result == CParamFileLoadThread::resultLoaded || result == CParamFileLoadThread::resultPartial)
             device->setCurFile(path);
@@ -213,14 +225,8 @@ void CParamFileController::onLoadFinished(int result, int loaded, int total, QSt
 
 void CParamFileController::onSaveFinished(bool ok, QString message, int count)
 {
-    const QString path = m_save ? m_save->path() : QString();
-    if (m_save)
-    {
-        m_save->wait();
-        m_save->deleteLater();
-        m_save = nullptr;
-    }
-    closeWait();
+    const QString path = finish(m_save);
+    m_save = nullptr;
     if (ok)
     {
         if (const CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(m_busyKey))

@@ -15,6 +15,7 @@
 
 class QWidget;
 class CParamFileSaveThread;
+class CParamFileThread;
 class CWaitDlg;
 
 class CParamFileController : public QObject, public CObserver
@@ -63,10 +64,17 @@ private slots:
 
 private:
     bool refuseWhileBusy();
+    // Runs the worker for the device behind the wait dialog.
+    void begin(CParamFileThread* worker, const QString& key, const QString& title, const QString& text);
+    // The worker is done: it goes (the caller forgets it), the wait dialog
+    // closes. Returns its file.
+    QString finish(CParamFileThread* worker);
     void showWait(const QString& title, const QString& text);
     void closeWait();
     void showMessage(const QString& text, QMessageBox::Icon icon, const QString& path = QString());
     QString chooseFile(bool save, const QString& key);
+    // Asks for the file, then saves or loads it.
+    void chooseAndRun(bool save, const QString& key);
 
     QPointer<QWidget> m_dialogParent;
     FileChooser m_chooser;

@@ -21,38 +21,55 @@
 #include "Tavlog4cpp/TavLogMacros.h"
 
 namespace {
-QToolButton* makeButton(QWidget* parent, const char* name, const char* icon, bool checkable)
+// The panel's tool buttons: the four tabs in tab order, then expand and
+// collapse, which show their text as a tooltip.
+struct SButton
 {
-    auto* b = new QToolButton(parent);
-    b->setObjectName(QLatin1String(name));
-    b->setIcon(QIcon(QLatin1String(icon)));
-    b->setIconSize(QSize(20, 20));
-    b->setCheckable(checkable);
-    b->setAutoRaise(true);
-    // Tabs carry their text under the icon so four of them fit a narrow panel.
-    b->setToolButtonStyle(checkable ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
-    return b;
-}
+    const char* name;
+    const char* icon;
+    const char* text;
+    void (CPropertyForm::*clicked)();
+};
+const SButton kButtons[] = {
+    {"btnfeatures", ":/Pic/Icon_Property_Tab_Features.png", QT_TRANSLATE_NOOP("CPropertyForm", "Features"),
+     &CPropertyForm::on_btnfeatures_clicked},
+    {"btnSettings", ":/Pic/Icon_Property_Tab_Settings.png", QT_TRANSLATE_NOOP("CPropertyForm", "Settings"),
+     &CPropertyForm::on_btnSettings_clicked},
+    {"btnImageFormat", ":/Pic/Icon_Property_Tab_ImageFormat.png", QT_TRANSLATE_NOOP("CPropertyForm", "Image Format"),
+     &CPropertyForm::on_btnImageFormat_clicked},
+    {"btnGPIO", ":/Pic/Icon_Property_Tab_UserSet.png", QT_TRANSLATE_NOOP("CPropertyForm", "GPIO"),
+     &CPropertyForm::on_btnGPIO_clicked},
+    {"btnExpandProperty", ":/Pic/Icon_Property_Expand.png", QT_TRANSLATE_NOOP("CPropertyForm", "Expand all"),
+     &CPropertyForm::on_btnExpandProperty_clicked},
+    {"btnCollpaseProperty", ":/Pic/Icon_Property_Collapse.png", QT_TRANSLATE_NOOP("CPropertyForm", "Collapse all"),
+     &CPropertyForm::onBtnCollpasePropertyClicked},
+};
+const int kTabCount = 4;
 }
 
 CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("CPropertyForm"));
-    m_btnFeatures = makeButton(this, "btnfeatures", ":/Pic/Icon_Property_Tab_Features.png", true);
-    m_btnSettings = makeButton(this, "btnSettings", ":/Pic/Icon_Property_Tab_Settings.png", true);
-    m_btnImageFormat = makeButton(this, "btnImageFormat", ":/Pic/Icon_Property_Tab_ImageFormat.png", true);
-    m_btnGPIO = makeButton(this, "btnGPIO", ":/Pic/Icon_Property_Tab_UserSet.png", true);
-    m_btnExpand = makeButton(this, "btnExpandProperty", ":/Pic/Icon_Property_Expand.png", false);
-    m_btnCollapse = makeButton(this, "btnCollpaseProperty", ":/Pic/Icon_Property_Collapse.png", false);
-
     auto* tabs = new QHBoxLayout();
     tabs->setContentsMargins(4, 4, 4, 0);
     tabs->setSpacing(2);
-    for (QToolButton* b : {m_btnFeatures, m_btnSettings, m_btnImageFormat, m_btnGPIO})
+    for (int i = 0; i < kButtonCount; ++i)
+    {
+        const bool tab = i < kTabCount;
+        auto* b = new QToolButton(this);
+        b->setObjectName(QLatin1String(kButtons[i].name));
+        b->setIcon(QIcon(QLatin1String(kButtons[i].icon)));
+        b->setIconSize(QSize(20, 20));
+        b->setCheckable(tab);
+        b->setAutoRaise(true);
+        // Tabs carry their text under the icon so four of them fit a narrow panel.
+        b->setToolButtonStyle(tab ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+        connect(b, &QToolButton::clicked, this, kButtons[i].clicked);
+        if (i == kTabCount)
+            tabs->addStretch(1);
         tabs->addWidget(b);
-    tabs->addStretch(1);
-    tabs->addWidget(m_btnExpand);
-    tabs->addWidget(m_btnCollapse);
+        m_buttons[i] = b;
+    }
 
     m_stack = new QStackedWidget(this);
     m_stack->setObjectName(QStringLiteral("stackedWidget"));
@@ -75,13 +92,6 @@ CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
     m_waiting = new CBusyIndicator(this);
     m_waiting->setObjectName(QStringLiteral("waitingGif"));
     m_waiting->hide();
-
-    connect(m_btnFeatures, &QToolButton::clicked, this, &CPropertyForm::on_btnfeatures_clicked);
-    connect(m_btnSettings, &QToolButton::clicked, this, &CPropertyForm::on_btnSettings_clicked);
-    connect(m_btnImageFormat, &QToolButton::clicked, this, &CPropertyForm::on_btnImageFormat_clicked);
-    connect(m_btnGPIO, &QToolButton::clicked, this, &CPropertyForm::on_btnGPIO_clicked);
-    connect(m_btnExpand, &QToolButton::clicked, this, &CPropertyForm::on_btnExpandProperty_clicked);
-    connect(m_btnCollapse, &QToolButton::clicked, this, &CPropertyForm::onBtnCollpasePropertyClicked);
 
     m_paramFiles = new CParamFileController(this, this);
 
@@ -118,12 +128,13 @@ void CPropertyForm::Update(CTavMessagePtr msg)
 
 void CPropertyForm::retranslateUi()
 {
-    m_btnFeatures->setText(tr("Features"));
-    m_btnSettings->setText(tr("Settings"));
-    m_btnImageFormat->setText(tr("Image Format"));
-    m_btnGPIO->setText(tr("GPIO"));
-    m_btnExpand->setToolTip(tr("Expand all"));
-    m_btnCollapse->setToolTip(tr("Collapse all"));
+    for (int i = 0; i < kButtonCount; ++i)
+    {
+        if (i < kTabCount)
+            m_buttons[i]->setText(tr(kButtons[i].text));
+        else
+            m_buttons[i]->setToolTip(tr(kButtons[i].text));
+    }
     m_emptyLabel->setText(tr("Connect a camera to see its features."));
 }
 
@@ -207,31 +218,27 @@ void CPropertyForm::OnUpdateReceive(CTavMessagePtr msg)
     {
     case MSG_DEVICE_CONNECTED:
         addDevicePages(device);
-        refreshShow();
         break;
     case MSG_DEVICE_CONNECT_FAILED:
     case MSG_DEVICE_DISCONNECTED:
     case MSG_DEVICE_OFFLINE:
         removeDevicePages(device);
-        refreshShow();
         break;
     case MSG_DEVICE_DISCONNECTING:
         if (CPropertyImageFormatForm* page = m_imageFormat.value(device))
             page->cancelROI();
-        refreshShow();
         break;
     case MSG_STREAM_OPENED:
     case MSG_STREAM_CLOSED:
         if (CPropertyFeaturesForm* page = m_features.value(device))
             page->updateGrabStatus();
-        refreshShow();
         break;
     case MSG_DEVICE_CONNECTING:
-        refreshShow();
         break;
     default:
-        break;
+        return;
     }
+    refreshShow();
 }
 
 void CPropertyForm::setCurDevice(CTavDevicePtr device)
@@ -268,8 +275,8 @@ void CPropertyForm::refreshShow()
     const bool waiting = m_curDevice && (m_curDevice->isConnecting() || (features && features->isLoadingGenParams()));
     showWaitingGif(waiting);
     const bool treeShown = m_tab == tabFeatures && features;
-    m_btnExpand->setEnabled(treeShown);
-    m_btnCollapse->setEnabled(treeShown);
+    m_buttons[buttonExpand]->setEnabled(treeShown);
+    m_buttons[buttonCollapse]->setEnabled(treeShown);
 }
 
 void CPropertyForm::showWaitingGif(bool show)
@@ -303,10 +310,8 @@ void CPropertyForm::setTab(int tab)
     if (m_tab == tabImageFormat && tab != tabImageFormat)
         cancelROI();
     m_tab = tab;
-    m_btnFeatures->setChecked(tab == tabFeatures);
-    m_btnSettings->setChecked(tab == tabSettings);
-    m_btnImageFormat->setChecked(tab == tabImageFormat);
-    m_btnGPIO->setChecked(tab == tabGPIO);
+    for (int i = 0; i < kTabCount; ++i)
+        m_buttons[i]->setChecked(i == tab);
     refreshShow();
 }
 

@@ -97,12 +97,14 @@ private:
     void addDevicePages(const CTavDevicePtr& device);
     void removeDevicePages(const CTavDevicePtr& device);
 
-    QToolButton* m_btnFeatures = nullptr;
-    QToolButton* m_btnSettings = nullptr;
-    QToolButton* m_btnImageFormat = nullptr;
-    QToolButton* m_btnGPIO = nullptr;
-    QToolButton* m_btnExpand = nullptr;
-    QToolButton* m_btnCollapse = nullptr;
+    // The four tabs (by ETab), then expand and collapse.
+    enum
+    {
+        buttonExpand = 4,
+        buttonCollapse = 5,
+        kButtonCount = 6
+    };
+    QToolButton* m_buttons[kButtonCount] = {};
     QStackedWidget* m_stack = nullptr;
     QWidget* m_emptyPage = nullptr;
     QLabel* m_emptyLabel = nullptr;

@@ -17,21 +17,19 @@ qint64 snapDown(qint64 value, qint64 minimum, qint64 increment)
 }
 
 CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget* parent)
-    : CFeatureControlPage(device, "CPropertyImageFormatForm", parent)
+    : CFeatureControlPage(
+          device, "CPropertyImageFormatForm",
+          {{rowSection, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Region of Interest"), nullptr},
+           {rowNumber, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Width"), "Width"},
+           {rowNumber, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Height"), "Height"},
+           {rowNumber, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Offset X"), "OffsetX"},
+           {rowNumber, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Offset Y"), "OffsetY"},
+           {rowSection, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Binning and Format"), nullptr},
+           {rowNumber, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Binning Horizontal"), "BinningHorizontal"},
+           {rowNumber, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Binning Vertical"), "BinningVertical"},
+           {rowEnum, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Pixel Format"), "PixelFormat"}},
+          parent)
 {
-    setObjectName(QStringLiteral("CPropertyImageFormatForm"));
-    addSection(QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Region of Interest"));
-    addRow(QStringLiteral("Width"), QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Width"), rowNumber);
-    addRow(QStringLiteral("Height"), QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Height"), rowNumber);
-    addRow(QStringLiteral("OffsetX"), QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Offset X"), rowNumber);
-    addRow(QStringLiteral("OffsetY"), QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Offset Y"), rowNumber);
-    addSection(QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Binning and Format"));
-    addRow(QStringLiteral("BinningHorizontal"), QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Binning Horizontal"),
-           rowNumber);
-    addRow(QStringLiteral("BinningVertical"), QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Binning Vertical"),
-           rowNumber);
-    addRow(QStringLiteral("PixelFormat"), QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Pixel Format"), rowEnum);
-
     auto* buttons = new QHBoxLayout();
     m_btnDraw = new QPushButton(this);
     m_btnDraw->setObjectName(QStringLiteral("btnDrawROI"));
@@ -49,7 +47,6 @@ CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget
         connect(m_device.get(), &CTavDevice::ROIChanged, this, &CPropertyImageFormatForm::onROIChanged,
                 Qt::QueuedConnection);
     retranslateExtra();
-    refresh();
 }
 
 CPropertyImageFormatForm::~CPropertyImageFormatForm()
@@ -101,33 +98,31 @@ void CPropertyImageFormatForm::onDrawToggled(bool on)
     }
 }
 
-void CPropertyImageFormatForm::cancelROI()
+void CPropertyImageFormatForm::endDrawing(bool cancelled)
 {
-    if (!m_bDrawing)
-        return;
     m_bDrawing = false;
     {
         const QSignalBlocker b(m_btnDraw);
         m_btnDraw->setChecked(false);
     }
-    if (m_device)
-    {
+    if (!m_device)
+        return;
+    if (cancelled)
         emit m_device->signalCancelDrawROI();
-        emit m_device->signalDrawROI(false);
-    }
+    emit m_device->signalDrawROI(false);
+}
+
+void CPropertyImageFormatForm::cancelROI()
+{
+    if (m_bDrawing)
+        endDrawing(true);
 }
 
 void CPropertyImageFormatForm::onROIChanged(int x, int y, int width, int height)
 {
     if (!m_bDrawing)
         return;
-    m_bDrawing = false;
-    {
-        const QSignalBlocker b(m_btnDraw);
-        m_btnDraw->setChecked(false);
-    }
-    if (m_device)
-        emit m_device->signalDrawROI(false);
+    endDrawing(false);
     if (width <= 0 || height <= 0)
         return;
     QString refusal;

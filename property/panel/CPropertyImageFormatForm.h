@@ -35,6 +35,9 @@ protected:
 
 private:
     void onDrawToggled(bool on);
+    // The drawing ends: the button pops up and the view stops drawing;
+    // cancelled tells the view to drop the region.
+    void endDrawing(bool cancelled);
     void onFullFrame();
     // Writes a region: offsets to 0 first so that the new size always fits,
     // then the size, then the offsets.

@@ -22,6 +22,23 @@ const QString kSelector = QStringLiteral("UserSetSelector");
 const QString kDefault = QStringLiteral("UserSetDefault");
 const QString kLoad = QStringLiteral("UserSetLoad");
 const QString kSave = QStringLiteral("UserSetSave");
+
+// The dialog's rows, top to bottom: the feature and its label.
+const struct
+{
+    const QString& feature;
+    const char* label;
+} kRows[] = {{kSelector, QT_TRANSLATE_NOOP("CSaveFeaturesDlg", "User Set Selector")},
+             {kLoad, QT_TRANSLATE_NOOP("CSaveFeaturesDlg", "User Set Load")},
+             {kSave, QT_TRANSLATE_NOOP("CSaveFeaturesDlg", "User Set Save")},
+             {kDefault, QT_TRANSLATE_NOOP("CSaveFeaturesDlg", "User Set Default")}};
+
+template <class Widget>
+Widget* named(Widget* widget, const char* name)
+{
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
 }
 
 CSaveFeaturesDlg::CSaveFeaturesDlg(CTavDevicePtr device, QWidget* parent)
@@ -29,14 +46,9 @@ CSaveFeaturesDlg::CSaveFeaturesDlg(CTavDevicePtr device, QWidget* parent)
 {
     setObjectName(QStringLiteral("CSaveFeaturesDlg"));
     setAttribute(Qt::WA_StyledBackground, true);
-    m_worker = new CFeatureControlWorker(device ? device->getDevice()
-                                                : Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera>(),
-                                         this);
-    connect(m_worker, &CFeatureControlWorker::stateRead, this, &CSaveFeaturesDlg::onStateRead, Qt::QueuedConnection);
-    connect(m_worker, &CFeatureControlWorker::writeDone, this, &CSaveFeaturesDlg::onWriteDone, Qt::QueuedConnection);
-    connect(m_worker, &CFeatureControlWorker::executeDone, this, &CSaveFeaturesDlg::onExecuteDone,
-            Qt::QueuedConnection);
-    m_worker->start(QThread::InheritPriority);
+    m_worker = new CFeatureControlWorker(device, this);
+    m_worker->deliverTo(this, &CSaveFeaturesDlg::onStateRead, &CSaveFeaturesDlg::onWriteDone,
+                        &CSaveFeaturesDlg::onExecuteDone);
     initUI();
     connect(this, &CSaveFeaturesDlg::update_receive, this, &CSaveFeaturesDlg::OnUpdateReceive, Qt::QueuedConnection);
     CDeviceManager::getInstance()->attach(this);
@@ -54,40 +66,28 @@ CSaveFeaturesDlg::~CSaveFeaturesDlg()
 void CSaveFeaturesDlg::initUI()
 {
     m_titleBar = new CDialogTitleBar(this);
-    m_lblSelector = new QLabel(this);
-    m_lblLoad = new QLabel(this);
-    m_lblSave = new QLabel(this);
-    m_lblDefault = new QLabel(this);
-    m_cbUserSetSelector = new QComboBox(this);
-    m_cbUserSetSelector->setObjectName(QStringLiteral("cbUserSetSelector"));
-    m_cbUserSetDefault = new QComboBox(this);
-    m_cbUserSetDefault->setObjectName(QStringLiteral("cbUserSetDefault"));
-    m_btnUserSetLoad = new QPushButton(this);
-    m_btnUserSetLoad->setObjectName(QStringLiteral("btnUserSetLoad"));
-    m_btnUserSetSave = new QPushButton(this);
-    m_btnUserSetSave->setObjectName(QStringLiteral("btnUserSetSave"));
-    m_btnClose = new QPushButton(this);
-    m_btnClose->setObjectName(QStringLiteral("btnClose"));
-    for (QComboBox* c : {m_cbUserSetSelector, m_cbUserSetDefault})
-    {
-        c->setMinimumWidth(140);
-        c->setEnabled(false);
-    }
-    for (QPushButton* b : {m_btnUserSetLoad, m_btnUserSetSave})
-        b->setEnabled(false);
+    m_cbUserSetSelector = named(new QComboBox(this), "cbUserSetSelector");
+    m_btnUserSetLoad = named(new QPushButton(this), "btnUserSetLoad");
+    m_btnUserSetSave = named(new QPushButton(this), "btnUserSetSave");
+    m_cbUserSetDefault = named(new QComboBox(this), "cbUserSetDefault");
+    m_btnClose = named(new QPushButton(this), "btnClose");
+    m_cbUserSetSelector->setMinimumWidth(140);
+    m_cbUserSetDefault->setMinimumWidth(140);
 
     auto* grid = new QGridLayout();
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(8);
-    grid->addWidget(m_lblSelector, 0, 0);
-    grid->addWidget(m_cbUserSetSelector, 0, 1);
-    grid->addWidget(m_lblLoad, 1, 0);
-    grid->addWidget(m_btnUserSetLoad, 1, 1);
-    grid->addWidget(m_lblSave, 2, 0);
-    grid->addWidget(m_btnUserSetSave, 2, 1);
-    grid->addWidget(m_lblDefault, 3, 0);
-    grid->addWidget(m_cbUserSetDefault, 3, 1);
+    QWidget* const controls[] = {m_cbUserSetSelector, m_btnUserSetLoad, m_btnUserSetSave, m_cbUserSetDefault};
+    for (int row = 0; row < 4; ++row)
+    {
+        auto* label = new QLabel(this);
+        m_labels.insert(kRows[row].feature, label);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(controls[row], row, 1);
+        // Nothing to do until the camera has answered.
+        controls[row]->setEnabled(false);
+    }
     layOutFramelessDialog(this, m_titleBar, grid, {m_btnClose});
 
     // User choices only (activated); the controls are filled with signals blocked.
@@ -105,17 +105,15 @@ void CSaveFeaturesDlg::retranslateUi()
 {
     setWindowTitle(tr("Save Features"));
     m_titleBar->setTitle(tr("Save Features"));
-    m_lblSelector->setText(tr("User Set Selector"));
-    m_lblLoad->setText(tr("User Set Load"));
-    m_lblSave->setText(tr("User Set Save"));
-    m_lblDefault->setText(tr("User Set Default"));
+    for (const auto& row : kRows)
+        m_labels.value(row.feature)->setText(tr(row.label));
     m_btnUserSetLoad->setText(tr("Execute"));
     m_btnUserSetSave->setText(tr("Execute"));
     m_btnClose->setText(tr("Close"));
     if (m_selectorState.valid)
-        showCombo(m_cbUserSetSelector, m_lblSelector, m_selectorState);
+        showCombo(m_cbUserSetSelector, m_selectorState);
     if (m_defaultState.valid)
-        showCombo(m_cbUserSetDefault, m_lblDefault, m_defaultState);
+        showCombo(m_cbUserSetDefault, m_defaultState);
 }
 
 void CSaveFeaturesDlg::changeEvent(QEvent* event)
@@ -159,8 +157,9 @@ bool CSaveFeaturesDlg::shownAtLevel(const SFeatureState& state) const
     return isVisibilityShown(unsigned(state.visibility), unsigned(CConfiguration::getInstance()->deviceCtrlVisibility));
 }
 
-void CSaveFeaturesDlg::showCombo(QComboBox* combo, QLabel* label, const SFeatureState& state)
+void CSaveFeaturesDlg::showCombo(QComboBox* combo, const SFeatureState& state)
 {
+    QLabel* label = m_labels.value(state.name);
     const QSignalBlocker block(combo);
     combo->clear();
     const bool visible = !state.valid || shownAtLevel(state);
@@ -180,8 +179,9 @@ void CSaveFeaturesDlg::showCombo(QComboBox* combo, QLabel* label, const SFeature
     combo->setEnabled(state.writeable);
 }
 
-void CSaveFeaturesDlg::showButton(QPushButton* button, QLabel* label, const SFeatureState& state)
+void CSaveFeaturesDlg::showButton(QPushButton* button, const SFeatureState& state)
 {
+    QLabel* label = m_labels.value(state.name);
     const bool visible = !state.valid || shownAtLevel(state);
     button->setVisible(visible);
     label->setVisible(visible);
@@ -193,20 +193,20 @@ void CSaveFeaturesDlg::onStateRead(SFeatureState state)
     if (state.name == kSelector)
     {
         m_selectorState = state;
-        showCombo(m_cbUserSetSelector, m_lblSelector, state);
+        showCombo(m_cbUserSetSelector, state);
     }
     else if (state.name == kDefault)
     {
         m_defaultState = state;
-        showCombo(m_cbUserSetDefault, m_lblDefault, state);
+        showCombo(m_cbUserSetDefault, state);
     }
     else if (state.name == kLoad)
     {
-        showButton(m_btnUserSetLoad, m_lblLoad, state);
+        showButton(m_btnUserSetLoad, state);
     }
     else if (state.name == kSave)
     {
-        showButton(m_btnUserSetSave, m_lblSave, state);
+        showButton(m_btnUserSetSave, state);
     }
     emit paramShown(state.name);
 }

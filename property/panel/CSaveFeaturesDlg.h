@@ -5,6 +5,7 @@
 // (UserSetDefault). The camera is read and written on the dialog's worker;
 // the controls follow parameter updates of the device from the bus.
 #include <QDialog>
+#include <QMap>
 #include <functional>
 
 #include "CFeatureControlWorker.h"
@@ -65,8 +66,8 @@ private slots:
 
 private:
     void retranslateUi();
-    void showCombo(QComboBox* combo, QLabel* label, const SFeatureState& state);
-    void showButton(QPushButton* button, QLabel* label, const SFeatureState& state);
+    void showCombo(QComboBox* combo, const SFeatureState& state);
+    void showButton(QPushButton* button, const SFeatureState& state);
     bool shownAtLevel(const SFeatureState& state) const;
     void showMessage(const QString& text);
     void readAll();
@@ -74,10 +75,7 @@ private:
     CTavDevicePtr m_device;
     CFeatureControlWorker* m_worker = nullptr;
     CDialogTitleBar* m_titleBar = nullptr;
-    QLabel* m_lblSelector = nullptr;
-    QLabel* m_lblLoad = nullptr;
-    QLabel* m_lblSave = nullptr;
-    QLabel* m_lblDefault = nullptr;
+    QMap<QString, QLabel*> m_labels;   // by feature name
     QComboBox* m_cbUserSetSelector = nullptr;
     QComboBox* m_cbUserSetDefault = nullptr;
     QPushButton* m_btnUserSetLoad = nullptr;

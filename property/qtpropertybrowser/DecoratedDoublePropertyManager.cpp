@@ -19,22 +19,24 @@ QString DecoratedDoublePropertyManager::suffix(const QtProperty* property) const
 
 void DecoratedDoublePropertyManager::setPrefix(QtProperty* property, const QString& prefix)
 {
-    auto it = m_values.find(property);
-    if (it == m_values.end() || it->prefix == prefix)
-        return;
-    it->prefix = prefix;
-    emit propertyChanged(property);
-    emit prefixChanged(property, prefix);
+    if (changeText(property, &Data::prefix, prefix))
+        emit prefixChanged(property, prefix);
 }
 
 void DecoratedDoublePropertyManager::setSuffix(QtProperty* property, const QString& suffix)
 {
+    if (changeText(property, &Data::suffix, suffix))
+        emit suffixChanged(property, suffix);
+}
+
+bool DecoratedDoublePropertyManager::changeText(QtProperty* property, QString Data::*text, const QString& value)
+{
     auto it = m_values.find(property);
-    if (it == m_values.end() || it->suffix == suffix)
-        return;
-    it->suffix = suffix;
+    if (it == m_values.end() || (*it).*text == value)
+        return false;
+    (*it).*text = value;
     emit propertyChanged(property);
-    emit suffixChanged(property, suffix);
+    return true;
 }
 
 QString DecoratedDoublePropertyManager::valueText(const QtProperty* property) const
@@ -61,11 +63,9 @@ void DecoratedDoublePropertyManager::uninitializeProperty(QtProperty* property)
 // ------------------------------------------------ DecoratedDoubleSpinBoxFactory
 
 DecoratedDoubleSpinBoxFactory::DecoratedDoubleSpinBoxFactory(QObject* parent)
-    : QtAbstractEditorFactory(parent), m_originalFactory(new QtDoubleSpinBoxFactory(this))
+    : QtEditorFactory(parent), m_originalFactory(new QtDoubleSpinBoxFactory(this))
 {
 }
-
-DecoratedDoubleSpinBoxFactory::~DecoratedDoubleSpinBoxFactory() = default;
 
 void DecoratedDoubleSpinBoxFactory::connectPropertyManager(DecoratedDoublePropertyManager* manager)
 {
@@ -79,10 +79,7 @@ void DecoratedDoubleSpinBoxFactory::connectPropertyManager(DecoratedDoubleProper
 void DecoratedDoubleSpinBoxFactory::disconnectPropertyManager(DecoratedDoublePropertyManager* manager)
 {
     m_originalFactory->removePropertyManager(manager);
-    disconnect(manager, &DecoratedDoublePropertyManager::prefixChanged, this,
-               &DecoratedDoubleSpinBoxFactory::slotPrefixChanged);
-    disconnect(manager, &DecoratedDoublePropertyManager::suffixChanged, this,
-               &DecoratedDoubleSpinBoxFactory::slotSuffixChanged);
+    QtEditorFactory::disconnectPropertyManager(manager);
 }
 
 QWidget* DecoratedDoubleSpinBoxFactory::createEditor(DecoratedDoublePropertyManager* manager, QtProperty* property,
@@ -95,35 +92,18 @@ QWidget* DecoratedDoubleSpinBoxFactory::createEditor(DecoratedDoublePropertyMana
         return widget;
     spinBox->setPrefix(manager->prefix(property));
     spinBox->setSuffix(manager->suffix(property));
-    m_createdEditors[property].append(spinBox);
-    m_editorToProperty.insert(spinBox, property);
-    connect(spinBox, &QObject::destroyed, this, &DecoratedDoubleSpinBoxFactory::slotEditorDestroyed);
+    addEditor(property, spinBox);
     return spinBox;
 }
 
 void DecoratedDoubleSpinBoxFactory::slotPrefixChanged(QtProperty* property, const QString& prefix)
 {
-    for (QDoubleSpinBox* editor : m_createdEditors.value(property))
+    for (QDoubleSpinBox* editor : d.editors(property))
         editor->setPrefix(prefix);
 }
 
 void DecoratedDoubleSpinBoxFactory::slotSuffixChanged(QtProperty* property, const QString& suffix)
 {
-    for (QDoubleSpinBox* editor : m_createdEditors.value(property))
+    for (QDoubleSpinBox* editor : d.editors(property))
         editor->setSuffix(suffix);
-}
-
-void DecoratedDoubleSpinBoxFactory::slotEditorDestroyed(QObject* object)
-{
-    for (auto it = m_editorToProperty.begin(); it != m_editorToProperty.end(); ++it)
-    {
-        if (it.key() != object)
-            continue;
-        QtProperty* property = it.value();
-        m_createdEditors[property].removeAll(it.key());
-        if (m_createdEditors[property].isEmpty())
-            m_createdEditors.remove(property);
-        m_editorToProperty.erase(it);
-        return;
-    }
 }

@@ -32,30 +32,27 @@ private:
         QString prefix;
         QString suffix;
     };
+    // Sets one of the texts; true when it changed (the row is told).
+    bool changeText(QtProperty* property, QString Data::*text, const QString& value);
     QHash<const QtProperty*, Data> m_values;
 };
 
-class DecoratedDoubleSpinBoxFactory : public QtAbstractEditorFactory<DecoratedDoublePropertyManager>
+class DecoratedDoubleSpinBoxFactory : public QtEditorFactory<DecoratedDoublePropertyManager, QDoubleSpinBox>
 {
     Q_OBJECT
 public:
     explicit DecoratedDoubleSpinBoxFactory(QObject* parent = nullptr);
-    ~DecoratedDoubleSpinBoxFactory() override;
 
 protected:
     void connectPropertyManager(DecoratedDoublePropertyManager* manager) override;
     QWidget* createEditor(DecoratedDoublePropertyManager* manager, QtProperty* property, QWidget* parent) override;
     void disconnectPropertyManager(DecoratedDoublePropertyManager* manager) override;
 
-private slots:
+private:
     void slotPrefixChanged(QtProperty* property, const QString& prefix);
     void slotSuffixChanged(QtProperty* property, const QString& suffix);
-    void slotEditorDestroyed(QObject* object);
 
-private:
     // The plain spin box factory builds and feeds the editors; this one adds
     // the prefix and suffix.
     QtDoubleSpinBoxFactory* m_originalFactory;
-    QMap<QtProperty*, QList<QDoubleSpinBox*>> m_createdEditors;
-    QMap<QDoubleSpinBox*, QtProperty*> m_editorToProperty;
 };

@@ -3,10 +3,11 @@
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 
-QtPushButtonFactory::QtPushButtonFactory(QObject* parent) : QtAbstractEditorFactory(parent) {}
+QtPushButtonFactory::QtPushButtonFactory(QObject* parent) : QtEditorFactory(parent) {}
 
 QtPushButtonFactory::~QtPushButtonFactory()
 {
+    // An editor is the button's container.
     const QList<myPushButton*> buttons = d.m_editorToProperty.keys();
     for (myPushButton* button : buttons)
         delete button->parentWidget();
@@ -16,11 +17,6 @@ void QtPushButtonFactory::connectPropertyManager(QtStringPropertyManager* manage
 {
     connect(manager, &QtStringPropertyManager::valueChanged, this, &QtPushButtonFactory::slotPropertyChanged);
     connect(manager, &QtStringPropertyManager::onClick, this, &QtPushButtonFactory::onClick);
-}
-
-void QtPushButtonFactory::disconnectPropertyManager(QtStringPropertyManager* manager)
-{
-    disconnect(manager, nullptr, this, nullptr);
 }
 
 QWidget* QtPushButtonFactory::createEditor(QtStringPropertyManager* manager, QtProperty* property, QWidget* parent)
@@ -39,9 +35,8 @@ QWidget* QtPushButtonFactory::createEditor(QtStringPropertyManager* manager, QtP
     layout->addWidget(button);
     layout->addWidget(label);
     showState(editor, property->isDone());
-    d.initializeEditor(property, button);
+    addEditor(property, button);
     connect(button, &QPushButton::clicked, this, &QtPushButtonFactory::slotClick);
-    connect(button, &QObject::destroyed, this, &QtPushButtonFactory::slotEditorDestroyed);
     return editor;
 }
 
@@ -90,9 +85,4 @@ void QtPushButtonFactory::slotClick(bool checked)
         return;
     if (QtStringPropertyManager* manager = propertyManager(property))
         manager->click(property, checked);
-}
-
-void QtPushButtonFactory::slotEditorDestroyed(QObject* object)
-{
-    d.slotEditorDestroyed(object);
 }

@@ -13,7 +13,7 @@ public:
     explicit myPushButton(QWidget* parent = nullptr) : QPushButton(parent) {}
 };
 
-class QtPushButtonFactory : public QtAbstractEditorFactory<QtStringPropertyManager>
+class QtPushButtonFactory : public QtEditorFactory<QtStringPropertyManager, myPushButton>
 {
     Q_OBJECT
 public:
@@ -30,14 +30,9 @@ signals:
 protected:
     void connectPropertyManager(QtStringPropertyManager* manager) override;
     QWidget* createEditor(QtStringPropertyManager* manager, QtProperty* property, QWidget* parent) override;
-    void disconnectPropertyManager(QtStringPropertyManager* manager) override;
-
-private slots:
-    void slotPropertyChanged(QtProperty* property, const QString& value);
-    void slotClick(bool checked);
-    void slotEditorDestroyed(QObject* object);
 
 private:
+    void slotPropertyChanged(QtProperty* property, const QString& value);
+    void slotClick(bool checked);
     static void showState(QWidget* editor, bool done);
-    EditorFactoryPrivate<myPushButton> d;
 };

@@ -5,12 +5,7 @@
 
 // ---------------------------------------------------- QtDoubleSpinBoxFactory
 
-QtDoubleSpinBoxFactory::QtDoubleSpinBoxFactory(QObject* parent) : QtAbstractEditorFactory(parent) {}
-
-QtDoubleSpinBoxFactory::~QtDoubleSpinBoxFactory()
-{
-    qDeleteAll(d.m_editorToProperty.keys());
-}
+QtDoubleSpinBoxFactory::QtDoubleSpinBoxFactory(QObject* parent) : QtEditorFactory(parent) {}
 
 void QtDoubleSpinBoxFactory::connectPropertyManager(QtDoublePropertyManager* manager)
 {
@@ -21,16 +16,11 @@ void QtDoubleSpinBoxFactory::connectPropertyManager(QtDoublePropertyManager* man
     connect(manager, &QtDoublePropertyManager::decimalsChanged, this, &QtDoubleSpinBoxFactory::slotDecimalsChanged);
 }
 
-void QtDoubleSpinBoxFactory::disconnectPropertyManager(QtDoublePropertyManager* manager)
-{
-    disconnect(manager, nullptr, this, nullptr);
-}
-
 QWidget* QtDoubleSpinBoxFactory::createEditor(QtDoublePropertyManager* manager, QtProperty* property,
                                               QWidget* parent)
 {
     auto* editor = new QDoubleSpinBox(parent);
-    d.initializeEditor(property, editor);
+    addEditor(property, editor);
     // A camera write per finished entry, not per keystroke.
     editor->setKeyboardTracking(false);
     editor->setDecimals(manager->decimals(property));
@@ -39,8 +29,7 @@ QWidget* QtDoubleSpinBoxFactory::createEditor(QtDoublePropertyManager* manager, 
     editor->setValue(manager->value(property));
     editor->setFrame(false);
     connect(editor, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-            &QtDoubleSpinBoxFactory::slotSetValue);
-    connect(editor, &QObject::destroyed, this, &QtDoubleSpinBoxFactory::slotEditorDestroyed);
+            [this, editor](double value) { setValueFrom(editor, value); });
     return editor;
 }
 
@@ -90,28 +79,9 @@ void QtDoubleSpinBoxFactory::slotDecimalsChanged(QtProperty* property, int prec)
     }
 }
 
-void QtDoubleSpinBoxFactory::slotSetValue(double value)
-{
-    QtProperty* property = d.propertyOf(sender());
-    if (!property)
-        return;
-    if (QtDoublePropertyManager* manager = propertyManager(property))
-        manager->setValue(property, value);
-}
-
-void QtDoubleSpinBoxFactory::slotEditorDestroyed(QObject* object)
-{
-    d.slotEditorDestroyed(object);
-}
-
 // ------------------------------------------------------- QtEnumEditorFactory
 
-QtEnumEditorFactory::QtEnumEditorFactory(QObject* parent) : QtAbstractEditorFactory(parent) {}
-
-QtEnumEditorFactory::~QtEnumEditorFactory()
-{
-    qDeleteAll(d.m_editorToProperty.keys());
-}
+QtEnumEditorFactory::QtEnumEditorFactory(QObject* parent) : QtEditorFactory(parent) {}
 
 void QtEnumEditorFactory::connectPropertyManager(QtEnumPropertyManager* manager)
 {
@@ -119,21 +89,16 @@ void QtEnumEditorFactory::connectPropertyManager(QtEnumPropertyManager* manager)
     connect(manager, &QtEnumPropertyManager::enumNamesChanged, this, &QtEnumEditorFactory::slotEnumNamesChanged);
 }
 
-void QtEnumEditorFactory::disconnectPropertyManager(QtEnumPropertyManager* manager)
-{
-    disconnect(manager, nullptr, this, nullptr);
-}
-
 QWidget* QtEnumEditorFactory::createEditor(QtEnumPropertyManager* manager, QtProperty* property, QWidget* parent)
 {
     auto* editor = new CComboBoxEx(parent);
-    d.initializeEditor(property, editor);
+    addEditor(property, editor);
     editor->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     editor->setMinimumContentsLength(1);
     editor->addItems(manager->enumNames(property));
     editor->setCurrentIndex(manager->value(property));
-    connect(editor, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &QtEnumEditorFactory::slotSetValue);
-    connect(editor, &QObject::destroyed, this, &QtEnumEditorFactory::slotEditorDestroyed);
+    connect(editor, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this, editor](int value) { setValueFrom(editor, value); });
     return editor;
 }
 
@@ -160,28 +125,9 @@ void QtEnumEditorFactory::slotEnumNamesChanged(QtProperty* property, const QStri
     }
 }
 
-void QtEnumEditorFactory::slotSetValue(int value)
-{
-    QtProperty* property = d.propertyOf(sender());
-    if (!property)
-        return;
-    if (QtEnumPropertyManager* manager = propertyManager(property))
-        manager->setValue(property, value);
-}
-
-void QtEnumEditorFactory::slotEditorDestroyed(QObject* object)
-{
-    d.slotEditorDestroyed(object);
-}
-
 // --------------------------------------------------------- QtLineEditFactory
 
-QtLineEditFactory::QtLineEditFactory(QObject* parent) : QtAbstractEditorFactory(parent) {}
-
-QtLineEditFactory::~QtLineEditFactory()
-{
-    qDeleteAll(d.m_editorToProperty.keys());
-}
+QtLineEditFactory::QtLineEditFactory(QObject* parent) : QtEditorFactory(parent) {}
 
 void QtLineEditFactory::connectPropertyManager(QtStringPropertyManager* manager)
 {
@@ -189,15 +135,10 @@ void QtLineEditFactory::connectPropertyManager(QtStringPropertyManager* manager)
     connect(manager, &QtStringPropertyManager::regExpChanged, this, &QtLineEditFactory::slotRegExpChanged);
 }
 
-void QtLineEditFactory::disconnectPropertyManager(QtStringPropertyManager* manager)
-{
-    disconnect(manager, nullptr, this, nullptr);
-}
-
 QWidget* QtLineEditFactory::createEditor(QtStringPropertyManager* manager, QtProperty* property, QWidget* parent)
 {
     auto* editor = new QLineEdit(parent);
-    d.initializeEditor(property, editor);
+    addEditor(property, editor);
     const QRegExp regExp = manager->regExp(property);
     if (regExp.isValid() && !regExp.isEmpty())
         editor->setValidator(new QRegExpValidator(regExp, editor));
@@ -207,7 +148,6 @@ QWidget* QtLineEditFactory::createEditor(QtStringPropertyManager* manager, QtPro
     editor->setFrame(false);
     // The text reaches the camera once the user is done with it.
     connect(editor, &QLineEdit::editingFinished, this, &QtLineEditFactory::slotEditingFinished);
-    connect(editor, &QObject::destroyed, this, &QtLineEditFactory::slotEditorDestroyed);
     return editor;
 }
 
@@ -236,15 +176,8 @@ void QtLineEditFactory::slotRegExpChanged(QtProperty* property, const QRegExp& r
 void QtLineEditFactory::slotEditingFinished()
 {
     auto* editor = qobject_cast<QLineEdit*>(sender());
-    QtProperty* property = d.propertyOf(editor);
-    if (!property || !editor->isModified())
+    if (!editor || !d.propertyOf(editor) || !editor->isModified())
         return;
     editor->setModified(false);
-    if (QtStringPropertyManager* manager = propertyManager(property))
-        manager->setValue(property, editor->text());
-}
-
-void QtLineEditFactory::slotEditorDestroyed(QObject* object)
-{
-    d.slotEditorDestroyed(object);
+    setValueFrom(editor, editor->text());
 }

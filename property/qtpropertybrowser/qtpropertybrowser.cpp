@@ -39,60 +39,48 @@ void QtProperty::propertyChanged()
     emit m_manager->propertyChanged(this);
 }
 
+template <class T>
+void QtProperty::changeTo(T& field, const T& value)
+{
+    if (field == value)
+        return;
+    field = value;
+    propertyChanged();
+}
+
 void QtProperty::setToolTip(const QString& text)
 {
-    if (m_toolTip == text)
-        return;
-    m_toolTip = text;
-    propertyChanged();
+    changeTo(m_toolTip, text);
 }
 
 void QtProperty::setStatusTip(const QString& text)
 {
-    if (m_statusTip == text)
-        return;
-    m_statusTip = text;
-    propertyChanged();
+    changeTo(m_statusTip, text);
 }
 
 void QtProperty::setWhatsThis(const QString& text)
 {
-    if (m_whatsThis == text)
-        return;
-    m_whatsThis = text;
-    propertyChanged();
+    changeTo(m_whatsThis, text);
 }
 
 void QtProperty::setPropertyName(const QString& text)
 {
-    if (m_name == text)
-        return;
-    m_name = text;
-    propertyChanged();
+    changeTo(m_name, text);
 }
 
 void QtProperty::setEnabled(bool enable)
 {
-    if (m_enabled == enable)
-        return;
-    m_enabled = enable;
-    propertyChanged();
+    changeTo(m_enabled, enable);
 }
 
 void QtProperty::setModified(bool modified)
 {
-    if (m_modified == modified)
-        return;
-    m_modified = modified;
-    propertyChanged();
+    changeTo(m_modified, modified);
 }
 
 void QtProperty::setAvailable(bool available)
 {
-    if (m_available == available)
-        return;
-    m_available = available;
-    propertyChanged();
+    changeTo(m_available, available);
 }
 
 void QtProperty::setNotAvailableText(const QString& text)
@@ -126,10 +114,7 @@ void QtProperty::setDisplayIcon(const QIcon& icon)
 
 void QtProperty::setDisplayMode(EDisplayMode mode)
 {
-    if (m_displayMode == mode)
-        return;
-    m_displayMode = mode;
-    propertyChanged();
+    changeTo(m_displayMode, mode);
 }
 
 void QtProperty::addSubProperty(QtProperty* property)

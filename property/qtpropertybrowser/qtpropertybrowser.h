@@ -96,6 +96,9 @@ public:
 protected:
     explicit QtProperty(QtAbstractPropertyManager* manager);
     void propertyChanged();
+    // Sets the field and tells the manager, unless it holds the value already.
+    template <class T>
+    void changeTo(T& field, const T& value);
 
 private:
     friend class QtAbstractPropertyManager;
@@ -299,6 +302,40 @@ public:
 
     QMap<QtProperty*, QList<Editor*>> m_createdEditors;
     QMap<Editor*, QtProperty*> m_editorToProperty;
+};
+
+// An editor factory whose editors are widgets of one class: it keeps them
+// per property, forgets the ones closed, deletes the ones still open when
+// it goes, and hands an edit made in an editor on to the property's manager.
+template <class PropertyManager, class Editor>
+class QtEditorFactory : public QtAbstractEditorFactory<PropertyManager>
+{
+public:
+    explicit QtEditorFactory(QObject* parent) : QtAbstractEditorFactory<PropertyManager>(parent) {}
+    ~QtEditorFactory() override { qDeleteAll(d.m_editorToProperty.keys()); }
+
+protected:
+    void disconnectPropertyManager(PropertyManager* manager) override
+    {
+        QObject::disconnect(manager, nullptr, this, nullptr);
+    }
+    // Keeps the editor of the property until it is destroyed.
+    void addEditor(QtProperty* property, Editor* editor)
+    {
+        d.initializeEditor(property, editor);
+        QObject::connect(editor, &QObject::destroyed, this, &QtEditorFactory::slotEditorDestroyed);
+    }
+    // The value the user set in the editor goes to its property's manager.
+    template <class Value>
+    void setValueFrom(QObject* editor, const Value& value)
+    {
+        QtProperty* property = d.propertyOf(editor);
+        if (PropertyManager* manager = property ? this->propertyManager(property) : nullptr)
+            manager->setValue(property, value);
+    }
+    void slotEditorDestroyed(QObject* object) { d.slotEditorDestroyed(object); }
+
+    EditorFactoryPrivate<Editor> d;
 };
 
 // A browser shows top-level properties and, below them, their sub-properties,

@@ -27,57 +27,20 @@ void QtGroupPropertyManager::uninitializeProperty(QtProperty*) {}
 
 // --------------------------------------------------- QtDoublePropertyManager
 
-QtDoublePropertyManager::QtDoublePropertyManager(QObject* parent) : QtAbstractPropertyManager(parent) {}
-
-QtDoublePropertyManager::~QtDoublePropertyManager()
-{
-    clear();
-}
-
-double QtDoublePropertyManager::value(const QtProperty* property) const
-{
-    return m_values.value(property).val;
-}
-
-double QtDoublePropertyManager::minimum(const QtProperty* property) const
-{
-    return m_values.value(property).minVal;
-}
-
-double QtDoublePropertyManager::maximum(const QtProperty* property) const
-{
-    return m_values.value(property).maxVal;
-}
-
-double QtDoublePropertyManager::singleStep(const QtProperty* property) const
-{
-    return m_values.value(property).singleStep;
-}
-
-int QtDoublePropertyManager::decimals(const QtProperty* property) const
-{
-    return m_values.value(property).decimals;
-}
+QtDoublePropertyManager::QtDoublePropertyManager(QObject* parent) : QtRecordPropertyManager(parent) {}
 
 QString QtDoublePropertyManager::valueText(const QtProperty* property) const
 {
-    auto it = m_values.constFind(property);
-    if (it == m_values.constEnd())
-        return QString();
-    return QLocale::c().toString(it->val, 'f', it->decimals);
-}
-
-QIcon QtDoublePropertyManager::valueIcon(const QtProperty* property) const
-{
-    return displayModeIcon(property);
+    const QtDoubleRecord* r = recordOf(property);
+    return r ? QLocale::c().toString(r->val, 'f', r->decimals) : QString();
 }
 
 void QtDoublePropertyManager::setValue(QtProperty* property, double val)
 {
-    auto it = m_values.find(property);
-    if (it == m_values.end() || it->val == val)
+    QtDoubleRecord* r = recordOf(property);
+    if (!r || r->val == val)
         return;
-    it->val = val;
+    r->val = val;
     emit propertyChanged(property);
     emit valueChanged(property, val);
 }
@@ -94,78 +57,48 @@ void QtDoublePropertyManager::setMaximum(QtProperty* property, double maxVal)
 
 void QtDoublePropertyManager::setRange(QtProperty* property, double minVal, double maxVal)
 {
-    auto it = m_values.find(property);
-    if (it == m_values.end())
+    QtDoubleRecord* r = recordOf(property);
+    if (!r)
         return;
     if (minVal > maxVal)
         qSwap(minVal, maxVal);
-    if (it->minVal == minVal && it->maxVal == maxVal)
+    if (r->minVal == minVal && r->maxVal == maxVal)
         return;
-    it->minVal = minVal;
-    it->maxVal = maxVal;
+    r->minVal = minVal;
+    r->maxVal = maxVal;
     emit rangeChanged(property, minVal, maxVal);
 }
 
 void QtDoublePropertyManager::setSingleStep(QtProperty* property, double step)
 {
-    auto it = m_values.find(property);
-    if (it == m_values.end() || step < 0 || it->singleStep == step)
+    QtDoubleRecord* r = recordOf(property);
+    if (!r || step < 0 || r->singleStep == step)
         return;
-    it->singleStep = step;
+    r->singleStep = step;
     emit singleStepChanged(property, step);
 }
 
 void QtDoublePropertyManager::setDecimals(QtProperty* property, int prec)
 {
-    auto it = m_values.find(property);
+    QtDoubleRecord* r = recordOf(property);
     prec = qBound(0, prec, 13);
-    if (it == m_values.end() || it->decimals == prec)
+    if (!r || r->decimals == prec)
         return;
-    it->decimals = prec;
+    r->decimals = prec;
     emit decimalsChanged(property, prec);
     emit propertyChanged(property);
 }
 
-void QtDoublePropertyManager::initializeProperty(QtProperty* property)
-{
-    m_values.insert(property, Data());
-}
-
-void QtDoublePropertyManager::uninitializeProperty(QtProperty* property)
-{
-    m_values.remove(property);
-}
-
 // ----------------------------------------------------- QtEnumPropertyManager
 
-QtEnumPropertyManager::QtEnumPropertyManager(QObject* parent) : QtAbstractPropertyManager(parent) {}
-
-QtEnumPropertyManager::~QtEnumPropertyManager()
-{
-    clear();
-}
-
-int QtEnumPropertyManager::value(const QtProperty* property) const
-{
-    return m_values.value(property).val;
-}
-
-QStringList QtEnumPropertyManager::enumNames(const QtProperty* property) const
-{
-    return m_values.value(property).enumNames;
-}
-
-QMap<int, QIcon> QtEnumPropertyManager::enumIcons(const QtProperty* property) const
-{
-    return m_values.value(property).enumIcons;
-}
+QtEnumPropertyManager::QtEnumPropertyManager(QObject* parent) : QtRecordPropertyManager(parent) {}
 
 QString QtEnumPropertyManager::valueText(const QtProperty* property) const
 {
-    auto it = m_values.constFind(property);
-    if (it == m_values.constEnd() || it->val < 0 || it->val >= it->enumNames.size())
+    const QtEnumRecord* r = recordOf(property);
+    if (!r || r->val < 0 || r->val >= r->enumNames.size())
         return QString();
-    return it->enumNames.at(it->val);
+    return r->enumNames.at(r->val);
 }
 
 QIcon QtEnumPropertyManager::valueIcon(const QtProperty* property) const
@@ -173,73 +106,44 @@ QIcon QtEnumPropertyManager::valueIcon(const QtProperty* property) const
     const QIcon mode = displayModeIcon(property);
     if (!mode.isNull())
         return mode;
-    auto it = m_values.constFind(property);
-    return it == m_values.constEnd() ? QIcon() : it->enumIcons.value(it->val);
+    const QtEnumRecord* r = recordOf(property);
+    return r ? r->enumIcons.value(r->val) : QIcon();
 }
 
 void QtEnumPropertyManager::setValue(QtProperty* property, int val)
 {
-    auto it = m_values.find(property);
-    if (it == m_values.end())
+    QtEnumRecord* r = recordOf(property);
+    if (!r || val >= r->enumNames.size() || (val < 0 && !r->enumNames.isEmpty()) || r->val == val)
         return;
-    if (val >= it->enumNames.size() || (val < 0 && !it->enumNames.isEmpty()))
-        return;
-    if (it->val == val)
-        return;
-    it->val = val;
+    r->val = val;
     emit propertyChanged(property);
     emit valueChanged(property, val);
 }
 
 void QtEnumPropertyManager::setEnumNames(QtProperty* property, const QStringList& names)
 {
-    auto it = m_values.find(property);
-    if (it == m_values.end() || it->enumNames == names)
+    QtEnumRecord* r = recordOf(property);
+    if (!r || r->enumNames == names)
         return;
-    it->enumNames = names;
-    it->val = names.isEmpty() ? -1 : (it->val >= 0 && it->val < names.size() ? it->val : 0);
+    r->enumNames = names;
+    r->val = names.isEmpty() ? -1 : (r->val >= 0 && r->val < names.size() ? r->val : 0);
     emit enumNamesChanged(property, names);
     emit propertyChanged(property);
 }
 
 void QtEnumPropertyManager::setEnumIcons(QtProperty* property, const QMap<int, QIcon>& icons)
 {
-    auto it = m_values.find(property);
-    if (it == m_values.end())
+    QtEnumRecord* r = recordOf(property);
+    if (!r)
         return;
-    it->enumIcons = icons;
+    r->enumIcons = icons;
     emit enumIconsChanged(property, icons);
     emit propertyChanged(property);
 }
 
-void QtEnumPropertyManager::initializeProperty(QtProperty* property)
-{
-    m_values.insert(property, Data());
-}
-
-void QtEnumPropertyManager::uninitializeProperty(QtProperty* property)
-{
-    m_values.remove(property);
-}
-
 // --------------------------------------------------- QtStringPropertyManager
 
-QtStringPropertyManager::QtStringPropertyManager(QObject* parent) : QtAbstractPropertyManager(parent) {}
-
-QtStringPropertyManager::~QtStringPropertyManager()
-{
-    clear();
-}
-
-QString QtStringPropertyManager::value(const QtProperty* property) const
-{
-    return m_values.value(property).val;
-}
-
-QRegExp QtStringPropertyManager::regExp(const QtProperty* property) const
-{
-    return m_values.value(property).regExp;
-}
+QtStringPropertyManager::QtStringPropertyManager(QObject* parent) : QtRecordPropertyManager(parent) {}
 
 void QtStringPropertyManager::click(QtProperty* property, bool checked)
 {
@@ -251,38 +155,23 @@ QString QtStringPropertyManager::valueText(const QtProperty* property) const
     return value(property);
 }
 
-QIcon QtStringPropertyManager::valueIcon(const QtProperty* property) const
-{
-    return displayModeIcon(property);
-}
-
 void QtStringPropertyManager::setValue(QtProperty* property, const QString& val)
 {
-    auto it = m_values.find(property);
-    if (it == m_values.end() || it->val == val)
+    QtStringRecord* r = recordOf(property);
+    if (!r || r->val == val)
         return;
-    if (it->regExp.isValid() && !it->regExp.isEmpty() && !it->regExp.exactMatch(val))
+    if (r->regExp.isValid() && !r->regExp.isEmpty() && !r->regExp.exactMatch(val))
         return;
-    it->val = val;
+    r->val = val;
     emit propertyChanged(property);
     emit valueChanged(property, val);
 }
 
 void QtStringPropertyManager::setRegExp(QtProperty* property, const QRegExp& regExp)
 {
-    auto it = m_values.find(property);
-    if (it == m_values.end() || it->regExp == regExp)
+    QtStringRecord* r = recordOf(property);
+    if (!r || r->regExp == regExp)
         return;
-    it->regExp = regExp;
+    r->regExp = regExp;
     emit regExpChanged(property, regExp);
-}
-
-void QtStringPropertyManager::initializeProperty(QtProperty* property)
-{
-    m_values.insert(property, Data());
-}
-
-void QtStringPropertyManager::uninitializeProperty(QtProperty* property)
-{
-    m_values.remove(property);
 }

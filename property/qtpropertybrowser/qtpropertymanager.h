@@ -8,6 +8,63 @@
 
 #include "qtpropertybrowser.h"
 
+// The icon shown beside a value: the property's display icon in any mode
+// other than the normal one.
+QIcon displayModeIcon(const QtProperty* property);
+
+// A manager whose properties each hold one Data record, made when the
+// property is added and dropped when it goes.
+template <class Data>
+class QtRecordPropertyManager : public QtAbstractPropertyManager
+{
+public:
+    explicit QtRecordPropertyManager(QObject* parent) : QtAbstractPropertyManager(parent) {}
+    ~QtRecordPropertyManager() override { clear(); }
+
+protected:
+    // A copy of the property's record (a default one for a stranger).
+    Data record(const QtProperty* property) const { return m_values.value(property); }
+    // The property's record; null for a stranger.
+    const Data* recordOf(const QtProperty* property) const
+    {
+        auto it = m_values.constFind(property);
+        return it == m_values.constEnd() ? nullptr : &it.value();
+    }
+    Data* recordOf(const QtProperty* property)
+    {
+        auto it = m_values.find(property);
+        return it == m_values.end() ? nullptr : &it.value();
+    }
+    QIcon valueIcon(const QtProperty* property) const override { return displayModeIcon(property); }
+    void initializeProperty(QtProperty* property) override { m_values.insert(property, Data()); }
+    void uninitializeProperty(QtProperty* property) override { m_values.remove(property); }
+
+private:
+    QHash<const QtProperty*, Data> m_values;
+};
+
+struct QtDoubleRecord
+{
+    double val = 0;
+    double minVal = -2147483647.0;
+    double maxVal = 2147483647.0;
+    double singleStep = 1;
+    int decimals = 2;
+};
+
+struct QtEnumRecord
+{
+    int val = -1;
+    QStringList enumNames;
+    QMap<int, QIcon> enumIcons;
+};
+
+struct QtStringRecord
+{
+    QString val;
+    QRegExp regExp;
+};
+
 class QtGroupPropertyManager : public QtAbstractPropertyManager
 {
     Q_OBJECT
@@ -24,18 +81,17 @@ protected:
 // Doubles with a range, a step and a number of decimals. A value outside
 // the range is kept as it is: the feature tree shows what the camera holds
 // and marks it, rather than clamping it.
-class QtDoublePropertyManager : public QtAbstractPropertyManager
+class QtDoublePropertyManager : public QtRecordPropertyManager<QtDoubleRecord>
 {
     Q_OBJECT
 public:
     explicit QtDoublePropertyManager(QObject* parent = nullptr);
-    ~QtDoublePropertyManager() override;
 
-    double value(const QtProperty* property) const;
-    double minimum(const QtProperty* property) const;
-    double maximum(const QtProperty* property) const;
-    double singleStep(const QtProperty* property) const;
-    int decimals(const QtProperty* property) const;
+    double value(const QtProperty* property) const { return record(property).val; }
+    double minimum(const QtProperty* property) const { return record(property).minVal; }
+    double maximum(const QtProperty* property) const { return record(property).maxVal; }
+    double singleStep(const QtProperty* property) const { return record(property).singleStep; }
+    int decimals(const QtProperty* property) const { return record(property).decimals; }
 
 public slots:
     void setValue(QtProperty* property, double value);
@@ -53,32 +109,17 @@ signals:
 
 protected:
     QString valueText(const QtProperty* property) const override;
-    QIcon valueIcon(const QtProperty* property) const override;
-    void initializeProperty(QtProperty* property) override;
-    void uninitializeProperty(QtProperty* property) override;
-
-private:
-    struct Data
-    {
-        double val = 0;
-        double minVal = -2147483647.0;
-        double maxVal = 2147483647.0;
-        double singleStep = 1;
-        int decimals = 2;
-    };
-    QHash<const QtProperty*, Data> m_values;
 };
 
-class QtEnumPropertyManager : public QtAbstractPropertyManager
+class QtEnumPropertyManager : public QtRecordPropertyManager<QtEnumRecord>
 {
     Q_OBJECT
 public:
     explicit QtEnumPropertyManager(QObject* parent = nullptr);
-    ~QtEnumPropertyManager() override;
 
-    int value(const QtProperty* property) const;
-    QStringList enumNames(const QtProperty* property) const;
-    QMap<int, QIcon> enumIcons(const QtProperty* property) const;
+    int value(const QtProperty* property) const { return record(property).val; }
+    QStringList enumNames(const QtProperty* property) const { return record(property).enumNames; }
+    QMap<int, QIcon> enumIcons(const QtProperty* property) const { return record(property).enumIcons; }
 
 public slots:
     void setValue(QtProperty* property, int value);
@@ -93,28 +134,16 @@ signals:
 protected:
     QString valueText(const QtProperty* property) const override;
     QIcon valueIcon(const QtProperty* property) const override;
-    void initializeProperty(QtProperty* property) override;
-    void uninitializeProperty(QtProperty* property) override;
-
-private:
-    struct Data
-    {
-        int val = -1;
-        QStringList enumNames;
-        QMap<int, QIcon> enumIcons;
-    };
-    QHash<const QtProperty*, Data> m_values;
 };
 
-class QtStringPropertyManager : public QtAbstractPropertyManager
+class QtStringPropertyManager : public QtRecordPropertyManager<QtStringRecord>
 {
     Q_OBJECT
 public:
     explicit QtStringPropertyManager(QObject* parent = nullptr);
-    ~QtStringPropertyManager() override;
 
-    QString value(const QtProperty* property) const;
-    QRegExp regExp(const QtProperty* property) const;
+    QString value(const QtProperty* property) const { return record(property).val; }
+    QRegExp regExp(const QtProperty* property) const { return record(property).regExp; }
 
     // A command row's button was pressed: announces it through onClick.
     void click(QtProperty* property, bool checked);
@@ -130,19 +159,4 @@ signals:
 
 protected:
     QString valueText(const QtProperty* property) const override;
-    QIcon valueIcon(const QtProperty* property) const override;
-    void initializeProperty(QtProperty* property) override;
-    void uninitializeProperty(QtProperty* property) override;
-
-private:
-    struct Data
-    {
-        QString val;
-        QRegExp regExp;
-    };
-    QHash<const QtProperty*, Data> m_values;
 };
-
-// The icon shown beside a value: the property's display icon in any mode
-// other than the normal one.
-QIcon displayModeIcon(const QtProperty* property);

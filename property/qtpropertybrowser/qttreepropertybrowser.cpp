@@ -99,41 +99,6 @@ QtTreePropertyBrowser::~QtTreePropertyBrowser()
     closeEditor();
 }
 
-int QtTreePropertyBrowser::indentation() const
-{
-    return m_treeWidget->indentation();
-}
-
-void QtTreePropertyBrowser::setIndentation(int i)
-{
-    m_treeWidget->setIndentation(i);
-}
-
-bool QtTreePropertyBrowser::rootIsDecorated() const
-{
-    return m_treeWidget->rootIsDecorated();
-}
-
-void QtTreePropertyBrowser::setRootIsDecorated(bool show)
-{
-    m_treeWidget->setRootIsDecorated(show);
-}
-
-bool QtTreePropertyBrowser::alternatingRowColors() const
-{
-    return m_treeWidget->alternatingRowColors();
-}
-
-void QtTreePropertyBrowser::setAlternatingRowColors(bool enable)
-{
-    m_treeWidget->setAlternatingRowColors(enable);
-}
-
-bool QtTreePropertyBrowser::isHeaderVisible() const
-{
-    return !m_treeWidget->isHeaderHidden();
-}
-
 void QtTreePropertyBrowser::setHeaderVisible(bool visible)
 {
     m_treeWidget->setHeaderHidden(!visible);

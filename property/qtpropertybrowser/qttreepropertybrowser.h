@@ -26,13 +26,6 @@ public:
     explicit QtTreePropertyBrowser(QWidget* parent = nullptr);
     ~QtTreePropertyBrowser() override;
 
-    int indentation() const;
-    void setIndentation(int i);
-    bool rootIsDecorated() const;
-    void setRootIsDecorated(bool show);
-    bool alternatingRowColors() const;
-    void setAlternatingRowColors(bool enable);
-    bool isHeaderVisible() const;
     void setHeaderVisible(bool visible);
     ResizeMode resizeMode() const { return m_resizeMode; }
     void setResizeMode(ResizeMode mode);

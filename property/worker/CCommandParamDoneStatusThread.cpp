@@ -2,67 +2,44 @@
 
 #include "Tavlog4cpp/TavLogMacros.h"
 
-CCommandParamDoneStatusThread::CCommandParamDoneStatusThread(const CFeatureFormCamera::Ptr& camera,
-                                                             QObject* parent)
-    : CRetiringThread(parent), m_camera(camera)
+CCommandParamDoneStatusThread::CCommandParamDoneStatusThread(const StateReader& read, QObject* parent)
+    : CFeatureListThread("CCommandParamDoneStatusThread", parent), m_read(read)
 {
     qRegisterMetaType<CFeatureNodeInfo>("CFeatureNodeInfo");
 }
 
-CCommandParamDoneStatusThread::~CCommandParamDoneStatusThread()
-{
-    requestStop();
-    wait();
-}
-
 void CCommandParamDoneStatusThread::addProperty(const QString& name)
 {
-    QMutexLocker lock(&m_mutex);
-    if (!m_listProperty.contains(name))
-        m_listProperty.append(name);
+    addNames({name}, false);
 }
 
-int CCommandParamDoneStatusThread::pendingCount()
+void CCommandParamDoneStatusThread::pass()
 {
-    QMutexLocker lock(&m_mutex);
-    return m_listProperty.size();
-}
-
-void CCommandParamDoneStatusThread::requestStop()
-{
-    m_bRunning = false;
-}
-
-void CCommandParamDoneStatusThread::run()
-{
-    LOG_DEBUG("CCommandParamDoneStatusThread run begin");
-    while (m_bRunning)
+    // The camera is asked without the list's lock, from the last name to the first.
+    for (QList<QString> names = listedNames(); !names.isEmpty() && !isStopping(); names = listedNames())
     {
+        for (int i = names.size() - 1; i >= 0 && !isStopping(); --i)
         {
-            // Lock order: this list, then the camera's lock inside commandState.
-            QMutexLocker lock(&m_mutex);
-            for (int i = m_listProperty.size() - 1; i >= 0 && m_bRunning; --i)
+            const QString& name = names.at(i);
+            CFeatureNodeInfo info;
+            switch (m_read(name, info))
             {
-                const QString name = m_listProperty.at(i);
-                CFeatureNodeInfo info;
-                switch (m_camera->commandState(name, info))
-                {
-                case CFeatureFormCamera::commandRunning:
-                    continue;
-                case CFeatureFormCamera::commandDone:
-                    emit setDone(name, info);
-                    break;
-                case CFeatureFormCamera::commandGone:
-                    LOG_WARN("command abandoned, the device is gone. name: [%s]", name.toLocal8Bit().constData());
-                    emit abandoned(name);
-                    break;
-                case CFeatureFormCamera::commandNone:
-                    break;
-                }
-                m_listProperty.removeAt(i);
+            case CFeatureFormCamera::commandRunning:
+                continue;
+            case CFeatureFormCamera::commandDone:
+                emit setDone(name, info);
+                break;
+            case CFeatureFormCamera::commandGone:
+                LOG_WARN("command abandoned, the device is gone. name: [%s]", name.toLocal8Bit().constData());
+                emit abandoned(name);
+                break;
+            case CFeatureFormCamera::commandNone:
+                break;
             }
+            removeName(name);
         }
-        msleep(5);
+        // Only while a command still runs: the camera has no event for its end.
+        if (pendingNames() > 0)
+            msleep(kPollMs);
     }
-    LOG_DEBUG("CCommandParamDoneStatusThread run end");
 }

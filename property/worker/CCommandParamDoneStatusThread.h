@@ -1,24 +1,26 @@
 #pragma once
-// Polls the commands a features page started until the camera reports each
-// of them done, and says so by queued signals. It knows nothing of the
-// page: a page that closes retires it.
-#include <QList>
-#include <QMutex>
-#include <QString>
+// Watches the commands a features page started until the camera reports
+// each of them done, and says so by queued signals. While a command runs it
+// asks again every kPollMs; with none running the worker sleeps until one
+// is added. It knows nothing of the page: the reader it is given asks the
+// camera, and a page that closes retires it.
+#include <functional>
 
 #include "CFeatureFormCamera.h"
-#include "CRetiringThread.h"
+#include "CFeatureListThread.h"
 
-class CCommandParamDoneStatusThread : public CRetiringThread
+class CCommandParamDoneStatusThread : public CFeatureListThread
 {
     Q_OBJECT
 public:
-    explicit CCommandParamDoneStatusThread(const CFeatureFormCamera::Ptr& camera, QObject* parent = nullptr);
-    ~CCommandParamDoneStatusThread() override;
+    // How the command stands now (on the worker); info is filled when done.
+    using StateReader = std::function<CFeatureFormCamera::ECommandState(const QString& name, CFeatureNodeInfo& info)>;
+    static const int kPollMs = 5;
 
-    // Adds the command unless it is already being watched.
+    explicit CCommandParamDoneStatusThread(const StateReader& read, QObject* parent = nullptr);
+
+    // Adds the command unless it is already watched. Never waits on the camera.
     void addProperty(const QString& name);
-    int pendingCount();
 
 signals:
     // The command finished; info is its row's state now.
@@ -27,12 +29,8 @@ signals:
     void abandoned(QString name);
 
 protected:
-    void run() override;
-    void requestStop() override;
+    void pass() override;
 
 private:
-    CFeatureFormCamera::Ptr m_camera;
-    QList<QString> m_listProperty;   // guarded by m_mutex
-    QMutex m_mutex;
-    std::atomic<bool> m_bRunning{true};
+    const StateReader m_read;
 };

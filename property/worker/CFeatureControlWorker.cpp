@@ -1,15 +1,13 @@
 #include "CFeatureControlWorker.h"
 
+#include "CFeatureNodeInfo.h"
+#include "CTavDevice.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 #include "Utils.h"
 
 using namespace Vorlen::GenICam;
 using Vorlen::Infra::CString;
 using Vorlen::Infra::TVector;
-
-namespace {
-const int kMetaTypeId = qRegisterMetaType<SFeatureState>("SFeatureState");
-}
 
 bool SFeatureState::isInt() const { return type == int(CInternalParameterNode::featureTypeInteger); }
 bool SFeatureState::isFloat() const { return type == int(CInternalParameterNode::featureTypeFloat); }
@@ -18,15 +16,14 @@ bool SFeatureState::isBool() const { return type == int(CInternalParameterNode::
 bool SFeatureState::isCommand() const { return type == int(CInternalParameterNode::featureTypeCommand); }
 
 CFeatureControlWorker::CFeatureControlWorker(const Vorlen::Memory::TSharedPtr<ICamera>& camera, QObject* parent)
-    : CRetiringThread(parent), m_camera(camera)
+    : CJobQueueThread("CFeatureControlWorker", parent), m_camera(camera)
 {
-    Q_UNUSED(kMetaTypeId);
+    qRegisterMetaType<SFeatureState>("SFeatureState");
 }
 
-CFeatureControlWorker::~CFeatureControlWorker()
+CFeatureControlWorker::CFeatureControlWorker(const CTavDevicePtr& device, QObject* parent)
+    : CFeatureControlWorker(device ? device->getDevice() : Vorlen::Memory::TSharedPtr<ICamera>(), parent)
 {
-    stop();
-    wait();
 }
 
 SFeatureState CFeatureControlWorker::readState(const Vorlen::Memory::TSharedPtr<ICamera>& camera,
@@ -54,40 +51,25 @@ SFeatureState CFeatureControlWorker::readState(const Vorlen::Memory::TSharedPtr<
     switch (node.getType())
     {
     case CInternalParameterNode::featureTypeInteger: {
-        long v = 0, mx = 0, mn = 0, inc = 1;
-        node.getIntValue(v);
-        if (node.getIntMaxMin(mx, mn))
-        {
-            s.intMin = mn;
-            s.intMax = mx;
-        }
-        else
-        {
-            s.intMin = s.intMax = v;
-        }
-        if (node.getIntIncrement(inc) && inc > 0)
-            s.intInc = inc;
-        s.intValue = v;
+        const auto n = CFeatureNodeInfo::readInt(node, true);
+        s.intValue = n.value;
+        // Without a range the control holds the value alone.
+        s.intMin = n.rangeOk ? n.min : n.value;
+        s.intMax = n.rangeOk ? n.max : n.value;
+        if (n.incrementOk)
+            s.intInc = n.increment;
         break;
     }
     case CInternalParameterNode::featureTypeFloat: {
-        double v = 0, mx = 0, mn = 0, inc = 0;
+        const auto n = CFeatureNodeInfo::readFloat(node, true, true);
+        s.floatValue = n.value;
+        s.floatMin = n.rangeOk ? n.min : n.value;
+        s.floatMax = n.rangeOk ? n.max : n.value;
+        if (n.incrementOk)
+            s.floatInc = n.increment;
         long precision = 2;
-        node.getFloatValue(v);
-        if (node.getFloatMaxMin(mx, mn))
-        {
-            s.floatMin = mn;
-            s.floatMax = mx;
-        }
-        else
-        {
-            s.floatMin = s.floatMax = v;
-        }
-        if (node.getFloatIncrement(inc) && inc > 0)
-            s.floatInc = inc;
         if (node.getFloatDisplayPrecision(precision) && precision >= 0 && precision <= 9)
             s.floatPrecision = int(precision);
-        s.floatValue = v;
         break;
     }
     case CInternalParameterNode::featureTypeBool:
@@ -115,122 +97,97 @@ void CFeatureControlWorker::requestRead(const QStringList& names)
     QMutexLocker lock(&m_mutex);
     for (const QString& name : names)
     {
-        bool waiting = false;
-        for (const SRequest& r : m_requests)
-            waiting = waiting || (r.kind == kindRead && r.name == name);
-        if (!waiting)
-            m_requests.enqueue({kindRead, name, QVariant()});
+        if (m_waitingReads.contains(name))
+            continue;
+        m_waitingReads.insert(name);
+        post([this, name]() { read(name); });
     }
-    m_wake.wakeOne();
 }
 
 void CFeatureControlWorker::requestWrite(const QString& name, const QVariant& value, bool coalesce)
 {
     QMutexLocker lock(&m_mutex);
-    for (SRequest& r : m_requests)
+    if (coalesce)
     {
-        if (coalesce && r.kind == kindWrite && r.name == name)
+        if (const ValueSlot waiting = m_waitingWrites.value(name))
         {
-            r.value = value;
+            *waiting = value;
             return;
         }
     }
-    m_requests.enqueue({kindWrite, name, value});
-    m_wake.wakeOne();
+    const ValueSlot slot = std::make_shared<QVariant>(value);
+    m_waitingWrites.insert(name, slot);
+    post([this, name, slot]() { write(name, slot); });
 }
 
 void CFeatureControlWorker::requestExecute(const QString& name)
 {
-    QMutexLocker lock(&m_mutex);
-    m_requests.enqueue({kindExecute, name, QVariant()});
-    m_wake.wakeOne();
+    post([this, name]() { execute(name); });
 }
 
-void CFeatureControlWorker::stop()
+void CFeatureControlWorker::read(const QString& name)
 {
-    QMutexLocker lock(&m_mutex);
-    m_bRunning = false;
-    m_requests.clear();
-    m_wake.wakeAll();
-}
-
-int CFeatureControlWorker::pendingCount()
-{
-    QMutexLocker lock(&m_mutex);
-    return m_requests.size();
-}
-
-void CFeatureControlWorker::run()
-{
-    LOG_DEBUG("CFeatureControlWorker run begin");
-    for (;;)
     {
-        SRequest request;
-        {
-            QMutexLocker lock(&m_mutex);
-            while (m_bRunning && m_requests.isEmpty())
-                m_wake.wait(&m_mutex);
-            if (!m_bRunning)
-                break;
-            request = m_requests.dequeue();
-        }
-        handle(request);
+        QMutexLocker lock(&m_mutex);
+        m_waitingReads.remove(name);
     }
-    LOG_DEBUG("CFeatureControlWorker run end");
+    emit stateRead(readState(m_camera, name));
 }
 
-void CFeatureControlWorker::handle(const SRequest& request)
+void CFeatureControlWorker::execute(const QString& name)
 {
-    if (request.kind == kindRead)
+    const QByteArray n = name.toLatin1();
+    CInternalParameterNode node(m_camera, n.constData());
+    QString error;
+    const bool ok = node.isValid() && node.execute();
+    if (!ok)
     {
-        emit stateRead(readState(m_camera, request.name));
-        return;
+        error = GetErrorDesc();
+        LOG_ERROR("execute %s failed: %s", n.constData(), error.toLocal8Bit().constData());
     }
-    const QByteArray n = request.name.toLatin1();
+    emit executeDone(name, ok, error);
+}
+
+void CFeatureControlWorker::write(const QString& name, const ValueSlot& slot)
+{
+    QVariant value;
+    {
+        // From here on a newer write of the feature queues a job of its own.
+        QMutexLocker lock(&m_mutex);
+        if (m_waitingWrites.value(name) == slot)
+            m_waitingWrites.remove(name);
+        value = *slot;
+    }
+    const QByteArray n = name.toLatin1();
     CInternalParameterNode node(m_camera, n.constData());
     bool ok = false;
-    QString error;
-    if (request.kind == kindExecute)
-    {
-        ok = node.isValid() && node.execute();
-        if (!ok)
-        {
-            error = GetErrorDesc();
-            LOG_ERROR("execute %s failed: %s", n.constData(), error.toLocal8Bit().constData());
-        }
-        emit executeDone(request.name, ok, error);
-        return;
-    }
-    if (!node.isValid())
-    {
-        ok = false;
-    }
-    else
+    if (node.isValid())
     {
         switch (node.getType())
         {
         case CInternalParameterNode::featureTypeInteger:
-            ok = node.setIntValue(long(request.value.toLongLong()));
+            ok = node.setIntValue(long(value.toLongLong()));
             break;
         case CInternalParameterNode::featureTypeFloat:
-            ok = node.setFloatValue(request.value.toDouble());
+            ok = node.setFloatValue(value.toDouble());
             break;
         case CInternalParameterNode::featureTypeBool:
-            ok = node.setBoolValue(request.value.toBool());
+            ok = node.setBoolValue(value.toBool());
             break;
         case CInternalParameterNode::featureTypeEnum:
-            ok = node.setEnumValueBySymbol(CString(request.value.toString().toUtf8().constData()));
+            ok = node.setEnumValueBySymbol(CString(value.toString().toUtf8().constData()));
             break;
         default:
-            ok = node.setValueFromString(CString(request.value.toString().toUtf8().constData()));
+            ok = node.setValueFromString(CString(value.toString().toUtf8().constData()));
             break;
         }
     }
+    QString error;
     if (!ok)
     {
         error = GetErrorDesc();
-        LOG_ERROR("set %s to %s failed: %s", n.constData(), request.value.toString().toLocal8Bit().constData(),
+        LOG_ERROR("set %s to %s failed: %s", n.constData(), value.toString().toLocal8Bit().constData(),
                   error.toLocal8Bit().constData());
     }
-    emit writeDone(request.name, ok, error, readState(m_camera, request.name));
+    emit writeDone(name, ok, error, readState(m_camera, name));
 }

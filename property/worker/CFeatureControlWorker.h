@@ -3,19 +3,21 @@
 // format, user sets): reads the state of named features, writes values and
 // executes commands on its own thread, and reports each result by a queued
 // signal. Requests are kept in order; a read of a feature already waiting
-// is not queued twice, and a newer write of a feature replaces one that has
-// not started yet.
+// is not queued twice, and a newer write of a feature replaces the last one
+// of it that has not started yet. An owner that goes away retires it: the
+// worker stops and deletes itself once the request under way (a camera
+// round trip) has ended.
+#include <QHash>
 #include <QMetaType>
 #include <QMutex>
-#include <QQueue>
+#include <QSet>
 #include <QString>
 #include <QStringList>
-#include <QThread>
 #include <QVariant>
-#include <QWaitCondition>
-#include <atomic>
+#include <memory>
 
-#include "CRetiringThread.h"
+#include "CJobQueueThread.h"
+#include "CTavMessage.h"
 #include "Vorlen/GenICam.h"
 
 // What a control needs to know about one feature.
@@ -44,13 +46,25 @@ struct SFeatureState
 };
 Q_DECLARE_METATYPE(SFeatureState)
 
-class CFeatureControlWorker : public CRetiringThread
+class CFeatureControlWorker : public CJobQueueThread
 {
     Q_OBJECT
 public:
     explicit CFeatureControlWorker(const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera>& camera,
                                    QObject* parent = nullptr);
-    ~CFeatureControlWorker() override;
+    // The device's camera (none without a device).
+    explicit CFeatureControlWorker(const CTavDevicePtr& device, QObject* parent = nullptr);
+
+    // Delivers the results to the receiver's handlers on its thread.
+    template <class Receiver>
+    void deliverTo(Receiver* receiver, void (Receiver::*onStateRead)(SFeatureState),
+                   void (Receiver::*onWriteDone)(QString, bool, QString, SFeatureState),
+                   void (Receiver::*onExecuteDone)(QString, bool, QString))
+    {
+        connect(this, &CFeatureControlWorker::stateRead, receiver, onStateRead, Qt::QueuedConnection);
+        connect(this, &CFeatureControlWorker::writeDone, receiver, onWriteDone, Qt::QueuedConnection);
+        connect(this, &CFeatureControlWorker::executeDone, receiver, onExecuteDone, Qt::QueuedConnection);
+    }
 
     // Reads the state of a feature from the camera (any thread).
     static SFeatureState readState(const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera>& camera,
@@ -63,11 +77,6 @@ public:
     // waiting (a sequence such as offset 0, size, offset must keep each step).
     void requestWrite(const QString& name, const QVariant& value, bool coalesce = true);
     void requestExecute(const QString& name);
-    // Ends the loop after the request under way; waiting requests are dropped.
-    void stop();
-    // An owner that goes away calls retire(): the worker stops and deletes
-    // itself once the request under way (a camera round trip) has ended.
-    int pendingCount();
 
 signals:
     void stateRead(SFeatureState state);
@@ -76,23 +85,14 @@ signals:
     void writeDone(QString name, bool ok, QString error, SFeatureState state);
     void executeDone(QString name, bool ok, QString error);
 
-protected:
-    void run() override;
-    void requestStop() override { stop(); }
-
 private:
-    enum EKind { kindRead, kindWrite, kindExecute };
-    struct SRequest
-    {
-        EKind kind = kindRead;
-        QString name;
-        QVariant value;
-    };
-    void handle(const SRequest& request);
+    using ValueSlot = std::shared_ptr<QVariant>;
+    void read(const QString& name);
+    void write(const QString& name, const ValueSlot& value);
+    void execute(const QString& name);
 
-    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera> m_camera;
-    QQueue<SRequest> m_requests;
+    const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera> m_camera;
     QMutex m_mutex;
-    QWaitCondition m_wake;
-    std::atomic<bool> m_bRunning{true};
+    QSet<QString> m_waitingReads;              // guarded by m_mutex
+    QHash<QString, ValueSlot> m_waitingWrites;   // guarded by m_mutex: the last write of each, not started
 };

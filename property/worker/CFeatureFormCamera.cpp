@@ -35,42 +35,19 @@ bool CFeatureFormCamera::mayRun() const
     return !m_bClosed && m_device && m_device->isConnected();
 }
 
-bool CFeatureFormCamera::loadTree(CFeatureNodeInfo& root, const ChangeSink& sink)
+bool CFeatureFormCamera::readRoot(CFeatureNodeInfo& root, NodeList& children)
 {
     QMutexLocker lock(&m_cameraMutex);
-    if (!loadChildren(root))
-        return false;
-    Vorlen::Memory::TSharedPtr<CInternalEventManager> manager(new CInternalEventManager(m_camera));
-    QMutexLocker subscription(&m_subscriptionMutex);
-    // A page that closed meanwhile has already let its subscription go.
-    if (!mayRun())
-        return false;
-    const bool subscribed = manager->subscribeParamUpdate([sink](const SParamUpdataArg& arg) {
-        QList<QString> names;
-        for (const Vorlen::Infra::CString& s : arg.paramNames)
-            names.append(QString::fromLocal8Bit(s.c_str()));
-        sink(names);
-    });
-    if (subscribed)
-        m_eventManager = manager;
-    else
-        LOG_ERROR("subscribeParamUpdate failed. [%s]", GetErrorDesc().toLocal8Bit().constData());
-    return true;
-}
-
-bool CFeatureFormCamera::loadChildren(CFeatureNodeInfo& root)
-{
-    LOG_DEBUG("Start to load properties.");
     if (!mayRun())
         return false;
     Vorlen::Memory::TSharedPtr<Node> rootNode(new Node(m_camera, "Root"));
     root = CFeatureNodeInfo::read(rootNode.get());
-    Vorlen::Infra::TVector<Vorlen::Memory::TSharedPtr<Node>> children;
-    if (!rootNode->getChildren(children))
-    {
-        LOG_ERROR("Get children params failed!");
-        return false;
-    }
+    return rootNode->getChildren(children);
+}
+
+bool CFeatureFormCamera::readChildren(const NodeList& children, CFeatureNodeInfo& root)
+{
+    QMutexLocker lock(&m_cameraMutex);
     int nodesRead = 0;
     auto perNode = [this, &nodesRead]() {
         ++nodesRead;
@@ -91,6 +68,25 @@ bool CFeatureFormCamera::loadChildren(CFeatureNodeInfo& root)
         root.children.push_back(std::move(info));
     }
     return true;
+}
+
+void CFeatureFormCamera::subscribe(const ChangeSink& sink)
+{
+    Vorlen::Memory::TSharedPtr<CInternalEventManager> manager(new CInternalEventManager(m_camera));
+    QMutexLocker subscription(&m_subscriptionMutex);
+    // A page that closed meanwhile has already let its subscription go.
+    if (!mayRun() || m_eventManager)
+        return;
+    const bool subscribed = manager->subscribeParamUpdate([sink](const SParamUpdataArg& arg) {
+        QList<QString> names;
+        for (const Vorlen::Infra::CString& s : arg.paramNames)
+            names.append(QString::fromLocal8Bit(s.c_str()));
+        sink(names);
+    });
+    if (subscribed)
+        m_eventManager = manager;
+    else
+        LOG_ERROR("subscribeParamUpdate failed. [%s]", GetErrorDesc().toLocal8Bit().constData());
 }
 
 CFeatureNodeInfo CFeatureFormCamera::readNode(const QString& name)

@@ -42,8 +42,15 @@ public:
     void setLoadProbe(const std::function<bool(int nodesRead)>& probe) { m_loadProbe = probe; }
 
     // ---- on the workers, each a camera round trip under the shared lock
-    // Reads the node tree; on success subscribes sink to camera-side changes.
-    bool loadTree(CFeatureNodeInfo& root, const ChangeSink& sink);
+    using NodeList = Vorlen::Infra::TVector<Vorlen::Memory::TSharedPtr<Node>>;
+    // Reads the node "Root" into root and hands out its children; false
+    // when they cannot be read (read failed, page closing, camera gone).
+    bool readRoot(CFeatureNodeInfo& root, NodeList& children);
+    // Reads, depth first, the subtree of each child into root's children;
+    // false when the load stops (page closing, camera gone, the probe).
+    bool readChildren(const NodeList& children, CFeatureNodeInfo& root);
+    // Subscribes sink to camera-side changes, unless the page has closed.
+    void subscribe(const ChangeSink& sink);
     // The feature's state now; invalid when the page closes or the camera is gone.
     CFeatureNodeInfo readNode(const QString& name);
     // Runs work on the named node; false (work not run) when the page closes
@@ -52,8 +59,6 @@ public:
     ECommandState commandState(const QString& name, CFeatureNodeInfo& info);
 
 private:
-    bool loadChildren(CFeatureNodeInfo& root);
-
     CTavDevicePtr m_device;
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera> m_camera;
     QMutex m_cameraMutex;                  // serialises the workers' camera calls

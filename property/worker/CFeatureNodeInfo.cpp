@@ -4,10 +4,40 @@
 #include "Vorlen/Infra/Error.h"
 
 using namespace Vorlen::GenICam;
+using Node = CFeatureNodeInfo::Node;
 
 static QString qstr(const Vorlen::Infra::CString& s)
 {
     return QString::fromLocal8Bit(s.c_str());
+}
+
+static void readUnit(const Node& node, CFeatureNodeInfo& info)
+{
+    Vorlen::Infra::CString unit;
+    info.hasUnit = node.getUnit(unit);
+    info.unit = qstr(unit);
+}
+
+template <class T>
+static CFeatureNodeInfo::SNumber<T> readNumber(const Node& node, bool withValue, bool (Node::*value)(T&) const,
+                                               bool (Node::*range)(T&, T&) const, bool (Node::*increment)(T&) const)
+{
+    CFeatureNodeInfo::SNumber<T> n;
+    n.valueOk = withValue && (node.*value)(n.value);
+    n.rangeOk = (node.*range)(n.max, n.min);
+    n.incrementOk = increment && (node.*increment)(n.increment) && n.increment > 0;
+    return n;
+}
+
+CFeatureNodeInfo::SNumber<long> CFeatureNodeInfo::readInt(const Node& node, bool withValue)
+{
+    return readNumber<long>(node, withValue, &Node::getIntValue, &Node::getIntMaxMin, &Node::getIntIncrement);
+}
+
+CFeatureNodeInfo::SNumber<double> CFeatureNodeInfo::readFloat(const Node& node, bool withValue, bool withIncrement)
+{
+    return readNumber<double>(node, withValue, &Node::getFloatValue, &Node::getFloatMaxMin,
+                              withIncrement ? &Node::getFloatIncrement : nullptr);
 }
 
 CFeatureNodeInfo CFeatureNodeInfo::read(const Node* node)
@@ -39,36 +69,26 @@ CFeatureNodeInfo CFeatureNodeInfo::read(const Node* node)
     {
     case Node::featureTypeInteger:
     {
-        long v = 0, mx = 0, mn = 0, inc = 1;
-        if (info.readable && node->getIntValue(v))
-        {
-            info.valueOk = true;
-            info.intValue = v;
-        }
-        info.intRangeOk = node->getIntMaxMin(mx, mn);
-        info.intMax = mx;
-        info.intMin = mn;
-        info.intIncOk = node->getIntIncrement(inc) && inc > 0;
-        info.intInc = info.intIncOk ? inc : 1;
-        Vorlen::Infra::CString unit;
-        info.hasUnit = node->getUnit(unit);
-        info.unit = qstr(unit);
+        const SNumber<long> n = readInt(*node, info.readable);
+        info.valueOk = n.valueOk;
+        info.intValue = n.value;
+        info.intRangeOk = n.rangeOk;
+        info.intMax = n.max;
+        info.intMin = n.min;
+        info.intIncOk = n.incrementOk;
+        info.intInc = n.incrementOk ? n.increment : 1;
+        readUnit(*node, info);
         break;
     }
     case Node::featureTypeFloat:
     {
-        double v = 0, mx = 0, mn = 0;
-        Vorlen::Infra::CString unit;
-        info.hasUnit = node->getUnit(unit);
-        info.unit = qstr(unit);
-        if (info.readable && node->getFloatValue(v))
-        {
-            info.valueOk = true;
-            info.floatValue = v;
-        }
-        info.floatRangeOk = node->getFloatMaxMin(mx, mn);
-        info.floatMax = mx;
-        info.floatMin = mn;
+        const SNumber<double> n = readFloat(*node, info.readable, false);
+        readUnit(*node, info);
+        info.valueOk = n.valueOk;
+        info.floatValue = n.value;
+        info.floatRangeOk = n.rangeOk;
+        info.floatMax = n.max;
+        info.floatMin = n.min;
         break;
     }
     case Node::featureTypeEnum:

@@ -78,6 +78,17 @@ public:
     bool isCategory() const { return type == Node::featureTypeCategory || type == Node::featureTypeNone; }
     int nodeCount() const;
 
+    // A number node's value (when asked for), range and increment, each with
+    // whether the camera gave it; an increment counts only when above 0.
+    template <class T>
+    struct SNumber
+    {
+        bool valueOk = false, rangeOk = false, incrementOk = false;
+        T value = 0, min = 0, max = 0, increment = 0;
+    };
+    static SNumber<long> readInt(const Node& node, bool withValue);
+    static SNumber<double> readFloat(const Node& node, bool withValue, bool withIncrement);
+
     // Whether the last failed call of this thread means the camera is gone.
     static bool lastErrorMeansDeviceLost();
 };

@@ -1,28 +1,16 @@
 #include "CLoadPropertiesThread.h"
 
-#include "Tavlog4cpp/TavLogMacros.h"
-
-namespace {
-const int kTreeTypeId = qRegisterMetaType<CFeatureTreePtr>("CFeatureTreePtr");
+CLoadPropertiesThread::CLoadPropertiesThread(QObject* parent) : CJobQueueThread("CLoadPropertiesThread", parent)
+{
+    qRegisterMetaType<CFeatureTreePtr>("CFeatureTreePtr");
 }
 
-CLoadPropertiesThread::CLoadPropertiesThread(const CFeatureFormCamera::Ptr& camera,
-                                             const CFeatureFormCamera::ChangeSink& sink, QObject* parent)
-    : CRetiringThread(parent), m_camera(camera), m_sink(sink)
+void CLoadPropertiesThread::load(const Loader& loader)
 {
-    Q_UNUSED(kTreeTypeId);
-}
-
-CLoadPropertiesThread::~CLoadPropertiesThread()
-{
-    wait();
-}
-
-void CLoadPropertiesThread::run()
-{
-    LOG_DEBUG("CLoadPropertiesThread run begin");
-    auto tree = std::make_shared<CFeatureNodeInfo>();
-    const bool ok = m_camera->loadTree(*tree, m_sink);
-    emit loaded(tree, ok);
-    LOG_DEBUG("CLoadPropertiesThread run end");
+    post([this, loader]() {
+        auto tree = std::make_shared<CFeatureNodeInfo>();
+        const bool ok = loader(*tree);
+        emit loaded(tree, ok);
+        stop();
+    });
 }

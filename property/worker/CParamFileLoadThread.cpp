@@ -34,31 +34,29 @@ SParamFileEnv SParamFileEnv::standard()
 
 CParamFileLoadThread::CParamFileLoadThread(const QString& deviceKey, const QString& path, const SParamFileEnv& env,
                                            const QString& reportPath, QObject* parent)
-    : CParamFileThread(path, parent), m_key(deviceKey), m_env(env),
+    : CParamFileThread("CParamFileLoadThread", path, parent), m_key(deviceKey), m_env(env),
       m_reportPath(reportPath.isEmpty() ? getLoadConfigReportPath() : reportPath)
 {
 }
 
-void CParamFileLoadThread::run()
+void CParamFileLoadThread::work()
 {
-    LOG_DEBUG("CParamFileLoadThread run begin");
     QList<SFailure> failures;
     QStringList skipped, problems, notes;
     const auto finish = [&](int result, int loaded, int total, const QString& message) {
         writeReport(result, loaded, total, message, failures, skipped, problems, notes);
         emit loadFinished(result, loaded, total, message);
-        LOG_DEBUG("CParamFileLoadThread run end");
     };
 
     // The device map is only complete after the first discovery pass.
     if (!m_env.isFirstDiscoveryFinished())
     {
         m_env.startDiscovery();
-        while (!m_env.isFirstDiscoveryFinished() && !m_bStop)
+        while (!m_env.isFirstDiscoveryFinished() && !isStopping())
             m_env.sleep(500);
         m_env.sleep(1000);
     }
-    if (m_bStop)
+    if (isStopping())
         return finish(resultStopped, 0, 0, tr("Loading was stopped."));
 
     CDeviceParamFile file;
@@ -76,7 +74,7 @@ void CParamFileLoadThread::run()
     if (!device->isConnected())
     {
         emit needConnect(m_key);
-        for (int i = 0; i < kConnectPolls && !device->isConnected() && !m_bStop; ++i)
+        for (int i = 0; i < kConnectPolls && !device->isConnected() && !isStopping(); ++i)
             m_env.sleep(100);
         if (!device->isConnected())
             return finish(resultFailed, 0, file.entries.size(), tr("The camera %1 could not be connected.").arg(m_key));
@@ -240,7 +238,7 @@ void CParamFileLoadThread::run()
         loadedCount += loaded.value(e.key()) ? 1 : 0;
     if (lost)
         return finish(resultStopped, loadedCount, total,
-                      m_bStop ? tr("Loading was stopped.") : tr("The camera was disconnected while loading."));
+                      isStopping() ? tr("Loading was stopped.") : tr("The camera was disconnected while loading."));
     if (failures.isEmpty() && problems.isEmpty() && file.hasHeader)
         return finish(resultLoaded, loadedCount, total, QString());
     finish(loadedCount > 0 ? resultPartial : resultFailed, loadedCount, total, QString());

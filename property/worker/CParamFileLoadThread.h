@@ -54,7 +54,7 @@ signals:
     void loadFinished(int result, int loaded, int total, QString message);
 
 protected:
-    void run() override;
+    void work() override;
 
 private:
     struct SFailure

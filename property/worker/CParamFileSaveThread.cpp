@@ -36,23 +36,18 @@ QList<QList<QPair<QString, QString>>> combinations(const QStringList& selectors,
 }
 
 CParamFileSaveThread::CParamFileSaveThread(CTavDevicePtr device, const QString& path, QObject* parent)
-    : CParamFileThread(path, parent), m_device(device)
+    : CParamFileThread("CParamFileSaveThread", path, parent), m_device(device)
 {
 }
 
-void CParamFileSaveThread::run()
+void CParamFileSaveThread::work()
 {
-    LOG_DEBUG("CParamFileSaveThread run begin");
-    const auto finish = [this](bool ok, const QString& message, int count) {
-        emit saveFinished(ok, message, count);
-        LOG_DEBUG("CParamFileSaveThread run end");
-    };
     if (!keepGoing(m_device))
-        return finish(false, tr("The camera is not connected."), 0);
+        return saveFinished(false, tr("The camera is not connected."), 0);
     const auto camera = m_device->getDevice();
     CParamFileNodeMap map(camera);
     if (!map.build([this]() { return keepGoing(m_device); }))
-        return finish(false, keepGoing(m_device) ? tr("The camera's features could not be read.")
+        return saveFinished(false, keepGoing(m_device) ? tr("The camera's features could not be read.")
                                                  : tr("The camera was disconnected."), 0);
 
     CDeviceParamFile file;
@@ -95,7 +90,7 @@ void CParamFileSaveThread::run()
     for (const auto* n : plain)
     {
         if (!keepGoing(m_device))
-            return finish(false, tr("The camera was disconnected."), 0);
+            return saveFinished(false, tr("The camera was disconnected."), 0);
         QString value;
         if (map.isReadWrite(n->name) && map.readValue(n->name, value))
             file.entries.append({n->name, {}, value, 0});
@@ -115,7 +110,7 @@ void CParamFileSaveThread::run()
         for (const auto& combo : combinations(selectors, map))
         {
             if (!keepGoing(m_device))
-                return finish(false, tr("The camera was disconnected."), 0);
+                return saveFinished(false, tr("The camera was disconnected."), 0);
             bool selected = true;
             for (const auto& sv : combo)
             {
@@ -147,7 +142,7 @@ void CParamFileSaveThread::run()
     {
         LOG_ERROR("write parameter file failed. [%s] %s", m_path.toLocal8Bit().constData(),
                   error.toLocal8Bit().constData());
-        return finish(false, tr("The file could not be written: %1").arg(error), 0);
+        return saveFinished(false, tr("The file could not be written: %1").arg(error), 0);
     }
-    finish(true, QString(), file.entries.size());
+    emit saveFinished(true, QString(), file.entries.size());
 }

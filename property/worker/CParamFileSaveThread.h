@@ -16,7 +16,7 @@ signals:
     void saveFinished(bool ok, QString message, int count);
 
 protected:
-    void run() override;
+    void work() override;
 
 private:
     CTavDevicePtr m_device;

@@ -2,15 +2,20 @@
 
 #include "CTavDevice.h"
 
-CParamFileThread::CParamFileThread(const QString& path, QObject* parent) : CRetiringThread(parent), m_path(path) {}
-
-CParamFileThread::~CParamFileThread()
+CParamFileThread::CParamFileThread(const char* name, const QString& path, QObject* parent)
+    : CJobQueueThread(name, parent), m_path(path)
 {
-    stop();
-    wait();
+}
+
+void CParamFileThread::begin()
+{
+    post([this]() {
+        work();
+        stop();
+    });
 }
 
 bool CParamFileThread::keepGoing(const CTavDevicePtr& device) const
 {
-    return !m_bStop && device && device->isConnected() && !device->isDisconnecting();
+    return !isStopping() && device && device->isConnected() && !device->isDisconnecting();
 }

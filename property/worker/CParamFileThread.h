@@ -1,36 +1,34 @@
 #pragma once
-// What the two parameter-file workers share: the device, the file, a stop
-// flag and the progress signal. The device's own connected flag is read
-// between camera operations, so a camera that goes away stops the work.
-// An owner that goes away retires the worker: it stops at the next feature
-// and deletes itself, and what it reports then goes nowhere.
+// What the two parameter-file workers share: the file, the one-shot run of
+// their work on a job-queue worker, and the progress signal. The device's
+// own connected flag is read between camera operations, so a camera that
+// goes away stops the work, as does stop(). An owner that goes away retires
+// the worker: it stops at the next feature and deletes itself, and what it
+// reports then goes nowhere.
 #include <QString>
-#include <atomic>
 
-#include "CRetiringThread.h"
-
+#include "CJobQueueThread.h"
 #include "CTavMessage.h"
 
-class CParamFileThread : public CRetiringThread
+class CParamFileThread : public CJobQueueThread
 {
     Q_OBJECT
 public:
-    CParamFileThread(const QString& path, QObject* parent = nullptr);
-    ~CParamFileThread() override;
-
     QString path() const { return m_path; }
-    // Ends the work at the next feature.
-    void stop() { m_bStop = true; }
-    bool isStopRequested() const { return m_bStop; }
+    // Starts the work; the thread ends when the work is done.
+    void begin();
 
 signals:
     void progress(int done, int total);
 
 protected:
-    // False once stop() was called or the device is no longer connected.
-    bool keepGoing(const CTavDevicePtr& device) const;
-    void requestStop() override { stop(); }
+    // name: the class name for the thread's log lines.
+    CParamFileThread(const char* name, const QString& path, QObject* parent);
 
-    QString m_path;
-    std::atomic<bool> m_bStop{false};
+    // The load or the save, on the worker.
+    virtual void work() = 0;
+    // False once stop() was asked or the device is no longer connected.
+    bool keepGoing(const CTavDevicePtr& device) const;
+
+    const QString m_path;
 };

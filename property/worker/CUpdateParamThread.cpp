@@ -1,76 +1,36 @@
 #include "CUpdateParamThread.h"
 
-#include "Tavlog4cpp/TavLogMacros.h"
-
-namespace {
-const int kInfoTypeId = qRegisterMetaType<CFeatureNodeInfo>("CFeatureNodeInfo");
-}
-
-CUpdateParamThread::CUpdateParamThread(const CFeatureFormCamera::Ptr& camera, QObject* parent)
-    : CRetiringThread(parent), m_camera(camera)
+CUpdateParamThread::CUpdateParamThread(const Reader& read, QObject* parent)
+    : CFeatureListThread("CUpdateParamThread", parent), m_read(read)
 {
-    Q_UNUSED(kInfoTypeId);
-}
-
-CUpdateParamThread::~CUpdateParamThread()
-{
-    requestStop();
-    wait();
+    qRegisterMetaType<CFeatureNodeInfo>("CFeatureNodeInfo");
 }
 
 void CUpdateParamThread::SetPropertyList(const QList<QString>& names)
 {
-    QMutexLocker lock(&m_mutex);
-    m_listProperty = names;
-    m_wake.wakeAll();
+    addNames(names, true);
 }
 
 void CUpdateParamThread::appendPropertyList(const QList<QString>& names)
 {
-    QMutexLocker lock(&m_mutex);
-    for (const QString& name : names)
-        if (!m_listProperty.contains(name))
-            m_listProperty.append(name);
-    m_wake.wakeAll();
+    addNames(names, false);
 }
 
 QString CUpdateParamThread::getProperty()
 {
-    QMutexLocker lock(&m_mutex);
-    return m_listProperty.isEmpty() ? QString() : m_listProperty.takeFirst();
+    return takeName();
 }
 
-int CUpdateParamThread::pendingCount()
+void CUpdateParamThread::pass()
 {
-    QMutexLocker lock(&m_mutex);
-    return m_listProperty.size();
-}
-
-void CUpdateParamThread::requestStop()
-{
-    QMutexLocker lock(&m_mutex);
-    m_bStopped = true;
-    m_listProperty.clear();
-    m_wake.wakeAll();
-}
-
-void CUpdateParamThread::run()
-{
-    LOG_DEBUG("CUpdateParamThread run begin");
-    for (;;)
+    // A burst of names drains at once, one camera read after the other.
+    while (!isStopping())
     {
-        QString name;
-        {
-            QMutexLocker lock(&m_mutex);
-            while (!m_bStopped && m_listProperty.isEmpty())
-                m_wake.wait(&m_mutex);
-            if (m_bStopped)
-                break;
-            name = m_listProperty.takeFirst();
-        }
-        const CFeatureNodeInfo info = m_camera->readNode(name);
+        const QString name = getProperty();
+        if (name.isEmpty())
+            return;
+        const CFeatureNodeInfo info = m_read(name);
         if (info.valid)
             emit nodeRead(info);
     }
-    LOG_DEBUG("CUpdateParamThread run end");
 }

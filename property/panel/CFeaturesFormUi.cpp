@@ -1,0 +1,75 @@
+#include "CFeaturesFormUi.h"
+
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+#include "qttreepropertybrowser.h"
+
+void CFeaturesFormUi::setupUi(QWidget* form)
+{
+    form->setObjectName("CPropertyFeaturesForm");
+    auto* layout = new QVBoxLayout(form);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->setSpacing(4);
+
+    // Level and search on one row, the page's buttons on the next, so the
+    // panel stays narrow enough to leave the video area its room.
+    auto* bar = new QHBoxLayout();
+    cbVisibility = new QComboBox(form);
+    cbVisibility->setObjectName("cbVisibility");
+    cbVisibility->addItems({QString(), QString(), QString()});
+    lineEditKey = new QLineEdit(form);
+    lineEditKey->setObjectName("lineEditKey");
+    lineEditKey->setClearButtonEnabled(true);
+    bar->addWidget(cbVisibility);
+    bar->addWidget(lineEditKey, 1);
+    layout->addLayout(bar);
+    auto* buttons = new QHBoxLayout();
+    const QList<QPair<QPushButton**, const char*>> named = {
+        {&btnExpand, "btnExpand"}, {&btnReset, "btnReset"}, {&btnSave, "btnSave"}, {&btnTranslate, "btnTranslate"}};
+    for (const auto& button : named)
+    {
+        *button.first = new QPushButton(form);
+        (*button.first)->setObjectName(button.second);
+        buttons->addWidget(*button.first);
+    }
+    btnTranslate->setCheckable(true);
+    btnTranslate->setChecked(true);
+    layout->addLayout(buttons);
+
+    auto* splitter = new QSplitter(Qt::Vertical, form);
+    browser = new QtTreePropertyBrowser(splitter);
+    browser->setObjectName("propertyBrowser");
+    browser->setHeaderVisible(false);
+    textDesc = new QTextEdit(splitter);
+    textDesc->setObjectName("textEditDesc");
+    textDesc->setReadOnly(true);
+    splitter->addWidget(browser);
+    splitter->addWidget(textDesc);
+    splitter->setStretchFactor(0, 4);
+    splitter->setStretchFactor(1, 1);
+    layout->addWidget(splitter, 1);
+}
+
+void CFeaturesFormUi::retranslateUi(bool expanded)
+{
+    cbVisibility->setItemText(0, tr("Beginner"));
+    cbVisibility->setItemText(1, tr("Expert"));
+    cbVisibility->setItemText(2, tr("Guru"));
+    lineEditKey->setPlaceholderText(tr("Search features"));
+    btnExpand->setText(expanded ? tr("Collapse All") : tr("Expand All"));
+    // Wide enough for either text, so toggling never clips or shifts the row.
+    const QFontMetrics metrics(btnExpand->font());
+    btnExpand->setMinimumWidth(
+        qMax(metrics.horizontalAdvance(tr("Collapse All")), metrics.horizontalAdvance(tr("Expand All"))) + 36);
+    btnReset->setText(tr("Reset"));
+    btnSave->setText(tr("Save"));
+    btnTranslate->setText(tr("Translate"));
+    btnTranslate->setToolTip(tr("Switch between translated and raw feature names"));
+}
