@@ -12,7 +12,6 @@
 #include <QStringList>
 #include <QVBoxLayout>
 
-#include "CCameraTask.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDialogTitleBar.h"
@@ -61,12 +60,12 @@ CSetIPDlg::CSetIPDlg(bool modal, QWidget* parent) : QDialog(parent)
     m_pSetIpThread = new CSetIpThread(this);
     connect(m_pSetIpThread, &CSetIpThread::signalSetIpEnd, this, &CSetIPDlg::onSetIpEnd, Qt::QueuedConnection);
     connect(CConfiguration::getInstance(), &CConfiguration::signalRestoreCfg, this, &CSetIPDlg::onRestoreCfg);
-    m_pSetIpThread->start();
 }
 
 CSetIPDlg::~CSetIPDlg()
 {
-    m_pSetIpThread->stop();
+    // A write under way finishes on its own; its answer goes nowhere.
+    m_pSetIpThread->retire();
 }
 
 void CSetIPDlg::buildUi()
@@ -441,7 +440,7 @@ void CSetIPDlg::on_btnOk_clicked()
     const QString gateway = QString::fromStdString(IPIntToStr(IPStrToInt(devGateway.toStdString())));
     const bool persistent = m_cbSetPersistentIP->isChecked();
     showWait(tr("Setting IP, please wait..."));
-    CCameraTask::run(
+    m_pSetIpThread->run(
         this,
         [camera, ip, mask, gateway]() {
             auto* c = dynamic_cast<CInternalCamera*>(camera.get());
