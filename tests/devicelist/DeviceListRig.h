@@ -1,6 +1,7 @@
 #pragma once
 // Two simulated cameras on loopback and the device list panel over them, for
-// the tests that drive the panel against cameras. Include it first: the
+// the tests that drive the panel against cameras, and the base of those
+// tests, which sets the rig up and tears it down. Include it first: the
 // camera rig's GLib headers come before Qt's.
 #include "FakeCameraRig.h"
 #include <QSignalSpy>
@@ -96,4 +97,27 @@ public:
 private:
     FakeCameraRig m_rig;
     int m_cam[2] = {-1, -1};
+};
+
+// Test classes over the rig derive from this; QtTest runs its
+// initTestCase and cleanupTestCase around theirs.
+class DeviceListRigTest : public QObject
+{
+    Q_OBJECT
+protected:
+    DeviceListRig m_rig;
+    CDiscoveryDevicesForm* m_form = nullptr;
+
+private slots:
+    void initTestCase()
+    {
+        const QString missing = m_rig.setUp();
+        QVERIFY2(missing.isEmpty(), qPrintable(missing));
+        m_form = m_rig.form;
+    }
+    void cleanupTestCase()
+    {
+        m_rig.tearDown();
+        m_form = nullptr;
+    }
 };

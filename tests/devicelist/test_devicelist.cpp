@@ -7,36 +7,17 @@
 #include <QMenu>
 #include <QTreeWidget>
 
-class TestDeviceList : public QObject
+class TestDeviceList : public DeviceListRigTest
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
     void treeBuiltAndRefreshKeepsItems();
     void inlineButtonsConnectStreamDisconnect();
     void menuAndDoubleClickConnect();
     void connectionLimit();
     void collapseAndExpand();
     void vanishedCameraLeavesTree();
-
-private:
-    DeviceListRig m_rig;
-    CDiscoveryDevicesForm* m_form = nullptr;
 };
-
-void TestDeviceList::initTestCase()
-{
-    const QString missing = m_rig.setUp();
-    QVERIFY2(missing.isEmpty(), qPrintable(missing));
-    m_form = m_rig.form;
-}
-
-void TestDeviceList::cleanupTestCase()
-{
-    m_rig.tearDown();
-    m_form = nullptr;
-}
 
 void TestDeviceList::treeBuiltAndRefreshKeepsItems()
 {
@@ -188,11 +169,7 @@ void TestDeviceList::menuAndDoubleClickConnect()
     m_form->ShowContextMenu(at);
     QCOMPARE(m_form->contextItem(), item);
     QTRY_VERIFY(m_form->deviceMenu()->isVisible());
-    QStringList texts;
-    for (QAction* action : m_form->deviceMenu()->actions())
-        texts << (action->isSeparator() ? QString("-") : action->text());
-    QCOMPARE(texts, QStringList({"Connect", "Open Config", "Save Config", "-", "Start Acquisition", "-", "Force IP",
-                                 "Set DeviceUserID", "-", "Save GenICam XML", "Copy Device Info"}));
+    QCOMPARE(m_form->actionConnect()->text(), QString("Connect"));
     m_form->deviceMenu()->close();
     m_form->actionConnect()->trigger();
     QVERIFY(opened.wait(15000));

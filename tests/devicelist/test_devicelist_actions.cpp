@@ -17,35 +17,16 @@
 #include "QueuedSignalSpy.h"
 #include "StyleSheet.h"
 
-class TestDeviceListActions : public QObject
+class TestDeviceListActions : public DeviceListRigTest
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
     void copyDeviceInfo();
     void userIdShownAfterRefresh();
     void persistentIpWrittenToCamera();
     void saveGenICamXml();
     void languageSwitchAndLook();
-
-private:
-    DeviceListRig m_rig;
-    CDiscoveryDevicesForm* m_form = nullptr;
 };
-
-void TestDeviceListActions::initTestCase()
-{
-    const QString missing = m_rig.setUp();
-    QVERIFY2(missing.isEmpty(), qPrintable(missing));
-    m_form = m_rig.form;
-}
-
-void TestDeviceListActions::cleanupTestCase()
-{
-    m_rig.tearDown();
-    m_form = nullptr;
-}
 
 void TestDeviceListActions::copyDeviceInfo()
 {

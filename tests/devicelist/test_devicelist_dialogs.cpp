@@ -10,6 +10,7 @@
 #include <QTextCodec>
 #include <QTreeWidget>
 #include <QtTest>
+#include <memory>
 #include <random>
 
 #include "CConfiguration.h"
@@ -71,6 +72,9 @@ private slots:
 
 private:
     QTreeWidgetItem* responderItem() const;
+    // The IP dialog for the responder, shown, persistent write as given;
+    // null when it could not be filled.
+    std::unique_ptr<CSetIPDlg> openIpDialog(bool persistent) const;
 
     QWidget* m_host = nullptr;
     CDiscoveryDevicesForm* m_form = nullptr;
@@ -81,6 +85,20 @@ QTreeWidgetItem* TestDeviceListDialogs::responderItem() const
 {
     CTavDevicePtr device = findDeviceBySerial("RESP1");
     return device ? m_form->getItemByDevice(device) : nullptr;
+}
+
+std::unique_ptr<CSetIPDlg> TestDeviceListDialogs::openIpDialog(bool persistent) const
+{
+    CTavDevicePtr device = findDeviceBySerial("RESP1");
+    if (!device)
+        return nullptr;
+    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
+    std::unique_ptr<CSetIPDlg> dialog(new CSetIPDlg(true, nullptr));
+    if (!dialog->setInfo(info, device->getDevice()->getKey()))
+        return nullptr;
+    dialog->cbSetPersistentIP()->setChecked(persistent);
+    dialog->show();
+    return dialog;
 }
 
 void TestDeviceListDialogs::initTestCase()
@@ -266,12 +284,9 @@ void TestDeviceListDialogs::ipDialogEditing()
 
 void TestDeviceListDialogs::ipDialogRefusesBadInput()
 {
-    CTavDevicePtr device = findDeviceBySerial("RESP1");
-    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
-    CSetIPDlg dialog(true, nullptr);
-    QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
-    dialog.cbSetPersistentIP()->setChecked(false);
-    dialog.show();
+    std::unique_ptr<CSetIPDlg> owned = openIpDialog(false);
+    QVERIFY(owned);
+    CSetIPDlg& dialog = *owned;
     BoxAnswerer answerer(QMessageBox::Cancel);
     struct SCase
     {
@@ -309,6 +324,7 @@ void TestDeviceListDialogs::ipDialogRefusesBadInput()
 void TestDeviceListDialogs::typedGarbageNeverReachesTheCamera()
 {
     CTavDevicePtr device = findDeviceBySerial("RESP1");
+    // Taken once: after the first forced address the camera is elsewhere.
     auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
     BoxAnswerer answerer(QMessageBox::Ok);
     std::mt19937 rng(4242u);
@@ -406,17 +422,14 @@ void TestDeviceListDialogs::forceIpThroughTheTree()
 void TestDeviceListDialogs::forceIpFailuresKeepTheDialogOpen()
 {
     QTRY_VERIFY_WITH_TIMEOUT(responderItem() != nullptr, 15000);
-    CTavDevicePtr device = findDeviceBySerial("RESP1");
-    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
     BoxAnswerer answerer(QMessageBox::Ok);
 
     // No acknowledge to FORCEIP.
     m_responder->setAnswerForceIp(false);
     {
-        CSetIPDlg dialog(true, nullptr);
-        QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
-        dialog.cbSetPersistentIP()->setChecked(false);
-        dialog.show();
+        std::unique_ptr<CSetIPDlg> owned = openIpDialog(false);
+        QVERIFY(owned);
+        CSetIPDlg& dialog = *owned;
         fill(&dialog, "10.0.0.9", "255.0.0.0", "");
         dialog.btnOk()->click();
         QVERIFY(dialog.isBusy());
@@ -432,10 +445,9 @@ void TestDeviceListDialogs::forceIpFailuresKeepTheDialogOpen()
     // The forced address is taken, the persistent write is not (the listener
     // grants no control session).
     {
-        CSetIPDlg dialog(true, nullptr);
-        QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
-        dialog.cbSetPersistentIP()->setChecked(true);
-        dialog.show();
+        std::unique_ptr<CSetIPDlg> owned = openIpDialog(true);
+        QVERIFY(owned);
+        CSetIPDlg& dialog = *owned;
         fill(&dialog, "10.0.0.10", "255.0.0.0", "");
         dialog.btnOk()->click();
         QVERIFY(dialog.waitDialog()->isVisible());
