@@ -173,7 +173,7 @@
     </message>
 </context>
 <context>
-    <name>CDiscoveryDevicesForm</name>
+    <name>CDeviceListController</name>
     <message>
         <source>Save GenICam XML</source>
         <translation>保存GenICam XML</translation>
@@ -183,37 +183,56 @@
         <translation>XML (*.xml *.zip)</translation>
     </message>
     <message>
-        <source>Device List</source>
-        <translation>设备列表</translation>
+        <source> IP address is invalid!</source>
+        <translation> IP地址无效！</translation>
     </message>
     <message>
-        <source>refresh</source>
-        <translation>刷新</translation>
+        <source>Connection failed. Device is incompatible with the current USB port!
+Please plug in the device into suitable PC USB port!
+</source>
+        <translation>连接失败。设备与当前USB端口不兼容！
+请将设备插入合适的电脑USB端口！
+</translation>
     </message>
     <message>
-        <source>Device Info</source>
-        <translation>设备信息</translation>
+        <source>Current physical link is not USB3.0. Connection maybe fail!
+Are you sure you want to continue?</source>
+        <translation>当前物理链路不是USB3.0，连接可能失败！
+确定要继续吗？</translation>
     </message>
     <message>
-        <source>Collapse</source>
-        <translation>收起</translation>
+        <source>Connection failed. Device does not exist!
+</source>
+        <translation>连接失败。设备不存在！
+</translation>
     </message>
     <message>
-        <source>Expand</source>
-        <translation>展开</translation>
+        <source>The maximum number of connections has been reached.</source>
+        <translation>已达到最大连接数。</translation>
     </message>
     <message>
-        <source>GigE</source>
-        <translation>GigE</translation>
+        <source>Connect</source>
+        <translation>连接</translation>
     </message>
     <message>
-        <source>USB</source>
-        <translation>USB</translation>
+        <source>Connecting, please wait...</source>
+        <translation>正在连接，请稍候...</translation>
     </message>
     <message>
-        <source>Interface Info</source>
-        <translation>接口信息</translation>
+        <source>Device not found.</source>
+        <translation>未找到设备。</translation>
     </message>
+    <message>
+        <source>network card has modified!</source>
+        <translation>网卡已被修改！</translation>
+    </message>
+    <message>
+        <source>Download xml file failed.</source>
+        <translation>下载XML文件失败。</translation>
+    </message>
+</context>
+<context>
+    <name>CDeviceListMenus</name>
     <message>
         <source>Disconnect</source>
         <translation>断开连接</translation>
@@ -247,6 +266,10 @@
         <translation>设置设备用户ID</translation>
     </message>
     <message>
+        <source>Save GenICam XML</source>
+        <translation>保存GenICam XML</translation>
+    </message>
+    <message>
         <source>Copy Device Info</source>
         <translation>复制设备信息</translation>
     </message>
@@ -254,53 +277,66 @@
         <source>Add Remote Camera</source>
         <translation>添加远程相机</translation>
     </message>
+</context>
+<context>
+    <name>CDiscoveryButtonsForm</name>
+    <message>
+        <source>Connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>断开连接</translation>
+    </message>
+    <message>
+        <source>Force IP</source>
+        <translation>修改IP</translation>
+    </message>
+</context>
+<context>
+    <name>CDiscoveryDevicesForm</name>
+    <message>
+        <source>GigE</source>
+        <translation>GigE</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message>
+        <source>Interface Info</source>
+        <translation>接口信息</translation>
+    </message>
+    <message>
+        <source>Device Info</source>
+        <translation>设备信息</translation>
+    </message>
     <message>
         <source> Connection failed!</source>
         <translation> 连接失败！</translation>
     </message>
+</context>
+<context>
+    <name>CDiscoveryDevicesFormUi</name>
     <message>
-        <source> IP address is invalid!</source>
-        <translation> IP地址无效！</translation>
+        <source>Device List</source>
+        <translation>设备列表</translation>
     </message>
     <message>
-        <source>Connection failed. Device is incompatible with the current USB port!
-Please plug in the device into suitable PC USB port!
-</source>
-        <translation>连接失败。设备与当前USB端口不兼容！
-请将设备插入合适的电脑USB端口！
-</translation>
+        <source>refresh</source>
+        <translation>刷新</translation>
     </message>
     <message>
-        <source>Current physical link is not USB3.0. Connection maybe fail!
-Are you sure you want to continue?</source>
-        <translation>当前物理链路不是USB3.0，连接可能失败！
-确定要继续吗？</translation>
+        <source>Device Info</source>
+        <translation>设备信息</translation>
     </message>
     <message>
-        <source>Connection failed. Device does not exist!
-</source>
-        <translation>连接失败。设备不存在！
-</translation>
+        <source>Collapse</source>
+        <translation>收起</translation>
     </message>
     <message>
-        <source>The maximum number of connections has been reached.</source>
-        <translation>已达到最大连接数。</translation>
-    </message>
-    <message>
-        <source>Connecting, please wait...</source>
-        <translation>正在连接，请稍候...</translation>
-    </message>
-    <message>
-        <source>Device not found.</source>
-        <translation>未找到设备。</translation>
-    </message>
-    <message>
-        <source>network card has modified!</source>
-        <translation>网卡已被修改！</translation>
-    </message>
-    <message>
-        <source>Download xml file failed.</source>
-        <translation>下载XML文件失败。</translation>
+        <source>Expand</source>
+        <translation>展开</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,16 @@ QString text(const Vorlen::Infra::CString& value)
 {
     return QString::fromLocal8Bit(value.c_str());
 }
+
+// The rows every camera kind but GigE Vision starts its device section with.
+QList<InfoRow> identityRows(const CInternalCameraInfo& info)
+{
+    return QList<InfoRow>() << InfoRow(CDeviceInfoRows::tr("Vendor"), text(info.getVenderName()))
+                            << InfoRow(CDeviceInfoRows::tr("Model"), text(info.getModelName()))
+                            << InfoRow(CDeviceInfoRows::tr("Version"), text(info.getVersion()))
+                            << InfoRow(CDeviceInfoRows::tr("Manufacture"), text(info.getManufactureInfo()))
+                            << InfoRow(CDeviceInfoRows::tr("Serial Number"), text(info.getSerialNum()));
+}
 } // namespace
 
 QString CDeviceInfoRows::accessPermissionText(int permission)
@@ -91,12 +101,7 @@ bool CDeviceInfoRows::build(const CTavDevicePtr& device, SDeviceInfoRows& rows)
                   << InfoRow(tr("Speed"), text(info->getSpeed()));
         }
         CInternalUsbCameraInfo info(camera);
-        dev << InfoRow(tr("Vendor"), text(info.getVenderName()))
-            << InfoRow(tr("Model"), text(info.getModelName()))
-            << InfoRow(tr("Version"), text(info.getVersion()))
-            << InfoRow(tr("Manufacture"), text(info.getManufactureInfo()))
-            << InfoRow(tr("Serial Number"), text(info.getSerialNum()))
-            << InfoRow(tr("Device GUID"), text(info.getDeviceGuid()))
+        dev << identityRows(info) << InfoRow(tr("Device GUID"), text(info.getDeviceGuid()))
             << InfoRow(tr("Speed"), text(info.getSpeedType()))
             << InfoRow(tr("Max Power"), text(info.getMaxPower()))
             << InfoRow(tr("Driver Installed"), info.getDriverValid() ? tr("True") : tr("False"));
@@ -108,19 +113,11 @@ bool CDeviceInfoRows::build(const CTavDevicePtr& device, SDeviceInfoRows& rows)
                   << InfoRow(tr("Vendor Name"), text(info->getVendorName()))
                   << InfoRow(tr("Port ID"), text(info->getPortId()));
         }
-        CInternalCLCameraInfo info(camera);
-        dev << InfoRow(tr("Vendor"), text(info.getVenderName())) << InfoRow(tr("Model"), text(info.getModelName()))
-            << InfoRow(tr("Version"), text(info.getVersion()))
-            << InfoRow(tr("Manufacture"), text(info.getManufactureInfo()))
-            << InfoRow(tr("Serial Number"), text(info.getSerialNum()));
+        dev << identityRows(CInternalCLCameraInfo(camera));
         break;
     }
     case typePCIe: {
-        CInternalPCIeCameraInfo info(camera);
-        dev << InfoRow(tr("Vendor"), text(info.getVenderName())) << InfoRow(tr("Model"), text(info.getModelName()))
-            << InfoRow(tr("Version"), text(info.getVersion()))
-            << InfoRow(tr("Manufacture"), text(info.getManufactureInfo()))
-            << InfoRow(tr("Serial Number"), text(info.getSerialNum()));
+        dev << identityRows(CInternalPCIeCameraInfo(camera));
         break;
     }
     case typeGenTL: {
@@ -132,11 +129,8 @@ bool CDeviceInfoRows::build(const CTavDevicePtr& device, SDeviceInfoRows& rows)
         CInternalGenTLCameraInfo info(camera);
         int status = -1;
         const bool haveStatus = info.getAccessStatus(status);
-        dev << InfoRow(tr("Vendor"), text(info.getVenderName())) << InfoRow(tr("Model"), text(info.getModelName()))
-            << InfoRow(tr("Version"), text(info.getVersion()))
-            << InfoRow(tr("Manufacture"), text(info.getManufactureInfo()))
-            << InfoRow(tr("Serial Number"), text(info.getSerialNum()))
-            << InfoRow(tr("Devide ID"), text(info.getDeviceID())) << InfoRow(tr("TL Type"), text(info.getTLType()))
+        dev << identityRows(info) << InfoRow(tr("Devide ID"), text(info.getDeviceID()))
+            << InfoRow(tr("TL Type"), text(info.getTLType()))
             << InfoRow(accessStatusLabel(), genTLAccessStatusText(haveStatus ? status : -1));
         break;
     }

@@ -1,8 +1,12 @@
 #include "CDiscoveryButtonsForm.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QToolButton>
+#include <utility>
+
+#include "DeviceListRules.h"
 
 namespace {
 QToolButton* makeButton(QWidget* parent, const char* name, const char* icon)
@@ -20,6 +24,9 @@ QToolButton* makeButton(QWidget* parent, const char* name, const char* icon)
 CDiscoveryButtonsForm::CDiscoveryButtonsForm(QWidget* parent) : QFrame(parent)
 {
     setObjectName(QStringLiteral("CDiscoveryButtonsForm"));
+    // The form covers its whole row (device rows span their first column):
+    // mouse moves over it reach the tree, which tracks the row under the mouse.
+    setMouseTracking(true);
     m_btnForceIP = makeButton(this, "btnForceIP", ":/Pic/Icon_DevList_Settings.png");
     m_btnConnect = makeButton(this, "btnConnect", ":/Pic/Icon_DevList_Connect.png");
     m_btnDisconnect = makeButton(this, "btnDisconnect", ":/Pic/Icon_DevList_Disconnect.png");
@@ -30,6 +37,17 @@ CDiscoveryButtonsForm::CDiscoveryButtonsForm(QWidget* parent) : QFrame(parent)
     layout->addWidget(m_btnForceIP);
     layout->addWidget(m_btnConnect);
     layout->addWidget(m_btnDisconnect);
+    retranslateUi();
+}
+
+void CDiscoveryButtonsForm::applyState(const SInlineButtonsState& state)
+{
+    const std::pair<QToolButton*, const SButtonState*> buttons[] = {
+        {m_btnConnect, &state.connect}, {m_btnDisconnect, &state.disconnect}, {m_btnForceIP, &state.forceIp}};
+    for (const auto& button : buttons) {
+        button.first->setVisible(button.second->visible);
+        button.first->setEnabled(button.second->enabled);
+    }
 }
 
 void CDiscoveryButtonsForm::disableAll()
@@ -37,4 +55,18 @@ void CDiscoveryButtonsForm::disableAll()
     m_btnForceIP->setEnabled(false);
     m_btnConnect->setEnabled(false);
     m_btnDisconnect->setEnabled(false);
+}
+
+void CDiscoveryButtonsForm::retranslateUi()
+{
+    m_btnConnect->setToolTip(tr("Connect"));
+    m_btnDisconnect->setToolTip(tr("Disconnect"));
+    m_btnForceIP->setToolTip(tr("Force IP"));
+}
+
+void CDiscoveryButtonsForm::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+    QFrame::changeEvent(event);
 }

@@ -1,9 +1,11 @@
 #pragma once
 // The inline buttons of the device row under the mouse: Force IP, Connect and
-// Disconnect. Which ones show, and their state, is set by the device tree.
+// Disconnect, with their tool tips. Which ones show, and whether they are
+// enabled, the device tree sets from the row's state (DeviceListRules.h).
 #include <QFrame>
 
 class QToolButton;
+struct SInlineButtonsState;
 
 class CDiscoveryButtonsForm : public QFrame
 {
@@ -14,10 +16,16 @@ public:
     QToolButton* getConnectBtn() const { return m_btnConnect; }
     QToolButton* getDisconnectBtn() const { return m_btnDisconnect; }
     QToolButton* getForceIPBtn() const { return m_btnForceIP; }
+    void applyState(const SInlineButtonsState& state);
     // All three disabled while a connection or disconnection is under way.
     void disableAll();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslateUi();
+
     QToolButton* m_btnForceIP;
     QToolButton* m_btnConnect;
     QToolButton* m_btnDisconnect;

@@ -4,75 +4,36 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEvent>
-#include <QFileDialog>
 #include <QFrame>
-#include <QHBoxLayout>
-#include <QHeaderView>
-#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
-#include <QVBoxLayout>
+#include <utility>
 
-#include "CCameraTask.h"
 #include "CConfiguration.h"
 #include "CDeviceInfoRows.h"
+#include "CDeviceInfoSections.h"
 #include "CDeviceManager.h"
-#include "CDiscoveryDevicesThread.h"
-#include "CDiscoveryButtonsForm.h"
 #include "CDiscoveryRootForm.h"
-#include "CSetDevUserIDDlg.h"
-#include "CSetIPDlg.h"
 #include "CTavDevice.h"
-#include "CUnicastDlg.h"
-#include "CWaitDlg.h"
-#include "Tavlog4cpp/TavLogMacros.h"
+#include "DeviceStateReader.h"
 #include "MenuPosition.h"
 #include "MessageBox.h"
-#include "Utils.h"
-#include "Vorlen/GenICam.h"
-
-using namespace Vorlen::GenICam;
-
-namespace {
-const char* const kIconFiles[CDiscoveryDevicesForm::iconCount] = {
-    ":/Pic/Icon_DevList_DeviceStatus_Error.png", ":/Pic/Icon_DevList_DeviceStatus_Connected.png",
-    ":/Pic/Icon_DevList_DeviceStatus_Normal.png", ":/Pic/Icon_DevList_DeviceStatus_Acquisition.png",
-    ":/Pic/Icon_DevList_DeviceStatus_Warn.png"};
-const int kIconIndexRole = Qt::UserRole + 1;
-const int kButtonsColumnWidth = 76;
-
-QString fromSdk(const Vorlen::Infra::CString& s)
-{
-    return QString::fromLocal8Bit(s.c_str());
-}
-
-void prepareTree(QTreeWidget* tree, int indentation)
-{
-    tree->setRootIsDecorated(false);
-    tree->setIndentation(indentation);
-    tree->setHeaderHidden(true);
-    tree->verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
-    tree->horizontalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
-}
-} // namespace
+#include "Tavlog4cpp/TavLogMacros.h"
 
 CDiscoveryDevicesForm::CDiscoveryDevicesForm(QWidget* parent) : QWidget(parent)
 {
     registerMessageMetaTypes();
-    for (int i = 0; i < iconCount; ++i)
-        m_icons[i] = QIcon(QLatin1String(kIconFiles[i]));
-    buildUi();
-    buildMenus();
-    m_pWaitDlg = new CWaitDlg(this);
-
-    m_openedDeviceCounter = []() { return CDeviceManager::getInstance()->getOpenedDeviceCount(); };
-    m_xmlFileChooser = [](QWidget* parent, const QString& suggested) {
-        return QFileDialog::getSaveFileName(parent, tr("Save GenICam XML"), suggested, tr("XML (*.xml *.zip)"));
-    };
+    m_ui.setupUi(this);
+    m_info.reset(new CDeviceInfoSections(m_ui.deviceInfo));
+    m_menus = new CDeviceListMenus(this);
+    m_model = new CDeviceListModel(m_ui.deviceList, this);
+    m_ui.deviceList->setIconSize(m_model->iconSize());
+    m_buttons = new CDeviceRowButtons(m_ui.deviceList, m_model, this);
+    m_controller = new CDeviceListController(m_model, this);
+    connectWidgets();
 
     createRootItem(cameraTypeGigE);
     createRootItem(cameraTypeUsb);
@@ -84,15 +45,21 @@ CDiscoveryDevicesForm::CDiscoveryDevicesForm(QWidget* parent) : QWidget(parent)
             &CDiscoveryDevicesForm::on_discoveryDevicesFinished);
     connect(this, &CDiscoveryDevicesForm::openDeviceSuccess, this, &CDiscoveryDevicesForm::on_OpenDeviceSuccess);
     connect(this, &CDiscoveryDevicesForm::closeDeviceSuccess, this, &CDiscoveryDevicesForm::on_CloseDeviceSuccess);
+    connect(m_model, &CDeviceListModel::currentItemRemoved, this, [this]() { m_info->clear(); });
+    connect(m_model, &CDeviceListModel::contextItemRemoved, this, [this]() {
+        if (deviceMenu()->isVisible())
+            deviceMenu()->close();
+    });
+    connect(m_controller, &CDeviceListController::deviceSelected, this, &CDiscoveryDevicesForm::select_device);
+    connect(m_controller, &CDeviceListController::remoteDiscoveryRequested, this,
+            [this]() { m_ui.btnRefresh->setEnabled(false); });
+    connect(m_controller, &CDeviceListController::cameraTaskFinished, this,
+            &CDiscoveryDevicesForm::cameraTaskFinished);
 
     m_pAutoRefreshTimer = new QTimer(this);
     m_pAutoRefreshTimer->setInterval(kAutoRefreshIntervalMs);
     connect(m_pAutoRefreshTimer, &QTimer::timeout, this, &CDiscoveryDevicesForm::onAutoRefreshTimeout);
     m_pAutoRefreshTimer->start();
-    m_pDiscoveryRetryTimer = new QTimer(this);
-    m_pDiscoveryRetryTimer->setSingleShot(true);
-    m_pDiscoveryRetryTimer->setInterval(100);
-    connect(m_pDiscoveryRetryTimer, &QTimer::timeout, this, &CDiscoveryDevicesForm::startPendingDiscovery);
 
     CDeviceManager* manager = CDeviceManager::getInstance();
     m_pManager = manager;
@@ -109,156 +76,56 @@ CDiscoveryDevicesForm::~CDiscoveryDevicesForm()
         m_pManager->detach(this);
 }
 
-void CDiscoveryDevicesForm::buildUi()
+void CDiscoveryDevicesForm::connectWidgets()
 {
-    setObjectName(QStringLiteral("CDiscoveryDevicesForm"));
-    setMinimumWidth(250);
-    m_contents = new QWidget(this);
-
-    m_frameDevList = new QFrame(m_contents);
-    m_frameDevList->setObjectName(QStringLiteral("frame_DevList"));
-    m_lblDevList = new QLabel(m_frameDevList);
-    m_lblDevList->setObjectName(QStringLiteral("label_DevList"));
-    m_btnRefresh = new QPushButton(m_frameDevList);
-    m_btnRefresh->setObjectName(QStringLiteral("reflesh"));
-    m_btnRefresh->setIcon(QIcon(QStringLiteral(":/Pic/Icon_DevList_Refresh.png")));
-    m_btnCollpaseDevice = new QToolButton(m_frameDevList);
-    m_btnCollpaseDevice->setObjectName(QStringLiteral("btnCollpaseDevice"));
-    m_btnCollpaseDevice->setIcon(QIcon(QStringLiteral(":/Pic/Icon_Panel_Collapse_Left.png")));
-    m_btnCollpaseDevice->setAutoRaise(true);
-    m_deviceList = new QTreeWidget(m_frameDevList);
-    m_deviceList->setObjectName(QStringLiteral("deviceList"));
-    m_deviceList->setColumnCount(2);
-    prepareTree(m_deviceList, 23);
-    m_deviceList->setMouseTracking(true);
-    m_deviceList->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_deviceList->header()->setStretchLastSection(false);
-    m_deviceList->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_deviceList->header()->setSectionResizeMode(1, QHeaderView::Fixed);
-    m_deviceList->header()->resizeSection(1, kButtonsColumnWidth);
-    m_deviceList->setIconSize(m_icons[iconNormal].availableSizes().value(0, QSize(16, 16)));
-
-    auto* listHeader = new QHBoxLayout;
-    listHeader->addWidget(m_lblDevList, 1);
-    listHeader->addWidget(m_btnRefresh);
-    listHeader->addWidget(m_btnCollpaseDevice);
-    auto* listLayout = new QVBoxLayout(m_frameDevList);
-    listLayout->setContentsMargins(0, 0, 0, 0);
-    listLayout->addLayout(listHeader);
-    listLayout->addWidget(m_deviceList, 1);
-
-    m_frameDevInfo = new QFrame(m_contents);
-    m_frameDevInfo->setObjectName(QStringLiteral("frame_DevInfo"));
-    m_lblDevInfo = new QLabel(m_frameDevInfo);
-    m_lblDevInfo->setObjectName(QStringLiteral("label_DevInfo"));
-    m_deviceInfo = new QTreeWidget(m_frameDevInfo);
-    m_deviceInfo->setObjectName(QStringLiteral("deviceInfo"));
-    m_deviceInfo->setColumnCount(2);
-    prepareTree(m_deviceInfo, 25);
-    auto* infoLayout = new QVBoxLayout(m_frameDevInfo);
-    infoLayout->setContentsMargins(0, 0, 0, 0);
-    infoLayout->addWidget(m_lblDevInfo);
-    infoLayout->addWidget(m_deviceInfo, 1);
-
-    m_pInfoInterfaceRoot = new QTreeWidgetItem(m_deviceInfo);
-    m_pInfoInterfaceRoot->setFirstColumnSpanned(true);
-    m_pInfoInterfaceForm = new CDiscoveryRootForm(m_deviceInfo);
-    m_pInfoInterfaceForm->setChecked(true);
-    m_deviceInfo->setItemWidget(m_pInfoInterfaceRoot, 0, m_pInfoInterfaceForm);
-    m_pInfoDeviceRoot = new QTreeWidgetItem(m_deviceInfo);
-    m_pInfoDeviceRoot->setFirstColumnSpanned(true);
-    m_pInfoDeviceForm = new CDiscoveryRootForm(m_deviceInfo);
-    m_pInfoDeviceForm->setChecked(true);
-    m_deviceInfo->setItemWidget(m_pInfoDeviceRoot, 0, m_pInfoDeviceForm);
-
-    auto* contentsLayout = new QVBoxLayout(m_contents);
-    contentsLayout->setContentsMargins(0, 0, 0, 0);
-    contentsLayout->addWidget(m_frameDevList, 3);
-    contentsLayout->addWidget(m_frameDevInfo, 2);
-
-    m_btnExpandDevice = new QToolButton(this);
-    m_btnExpandDevice->setObjectName(QStringLiteral("btnExpandDevice"));
-    m_btnExpandDevice->setIcon(QIcon(QStringLiteral(":/Pic/Icon_Panel_Expand_Left.png")));
-    m_btnExpandDevice->setFixedWidth(kCollapsedWidth);
-    m_btnExpandDevice->setAutoRaise(true);
-    m_btnExpandDevice->hide();
-
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_contents, 1);
-    layout->addWidget(m_btnExpandDevice, 0, Qt::AlignTop);
-
-    connect(m_btnRefresh, &QPushButton::clicked, this, &CDiscoveryDevicesForm::on_reflesh_clicked);
-    connect(m_btnCollpaseDevice, &QToolButton::clicked, this, &CDiscoveryDevicesForm::onBtnCollpaseClicked);
-    connect(m_btnExpandDevice, &QToolButton::clicked, this, &CDiscoveryDevicesForm::on_btnExpandDevice_clicked);
-    connect(m_deviceList, &QTreeWidget::itemClicked, this, &CDiscoveryDevicesForm::on_deviceList_itemClicked);
-    connect(m_deviceList, &QTreeWidget::itemDoubleClicked, this,
-            &CDiscoveryDevicesForm::on_deviceList_itemDoubleClicked);
-    connect(m_deviceList, &QTreeWidget::itemEntered, this, &CDiscoveryDevicesForm::on_deviceList_itemEntered);
-    connect(m_deviceList, &QWidget::customContextMenuRequested, this, &CDiscoveryDevicesForm::ShowContextMenu);
-    connect(m_deviceInfo, &QTreeWidget::itemDoubleClicked, this,
+    QTreeWidget* list = m_ui.deviceList;
+    connect(m_ui.btnRefresh, &QPushButton::clicked, this, &CDiscoveryDevicesForm::on_reflesh_clicked);
+    connect(m_ui.btnCollpaseDevice, &QToolButton::clicked, this, &CDiscoveryDevicesForm::onBtnCollpaseClicked);
+    connect(m_ui.btnExpandDevice, &QToolButton::clicked, this, &CDiscoveryDevicesForm::on_btnExpandDevice_clicked);
+    connect(list, &QTreeWidget::itemClicked, this, &CDiscoveryDevicesForm::on_deviceList_itemClicked);
+    connect(list, &QTreeWidget::itemDoubleClicked, this, &CDiscoveryDevicesForm::on_deviceList_itemDoubleClicked);
+    connect(list, &QTreeWidget::itemEntered, this, &CDiscoveryDevicesForm::on_deviceList_itemEntered);
+    connect(list, &QWidget::customContextMenuRequested, this, &CDiscoveryDevicesForm::ShowContextMenu);
+    connect(m_ui.deviceInfo, &QTreeWidget::itemDoubleClicked, this,
             &CDiscoveryDevicesForm::on_deviceInfo_itemDoubleClicked);
-    connect(m_pInfoInterfaceForm, &CDiscoveryRootForm::signalCheckBoxClicked, this,
+    connect(m_info->form(CDeviceInfoSections::interfaceSection), &CDiscoveryRootForm::signalCheckBoxClicked, this,
             &CDiscoveryDevicesForm::onDeviceInfoInterfaceClicked);
-    connect(m_pInfoDeviceForm, &CDiscoveryRootForm::signalCheckBoxClicked, this,
+    connect(m_info->form(CDeviceInfoSections::deviceSection), &CDiscoveryRootForm::signalCheckBoxClicked, this,
             &CDiscoveryDevicesForm::onDeviceInfoDeviceClicked);
-}
+    connect(m_buttons, &CDeviceRowButtons::connectClicked, this, &CDiscoveryDevicesForm::on_connectDevice);
+    connect(m_buttons, &CDeviceRowButtons::disconnectClicked, this, &CDiscoveryDevicesForm::on_disconnectDevice);
+    connect(m_buttons, &CDeviceRowButtons::forceIpClicked, this, &CDiscoveryDevicesForm::on_modifyIp);
 
-void CDiscoveryDevicesForm::buildMenus()
-{
-    m_pDeviceMenu = new QMenu(this);
-    m_actConnect = m_pDeviceMenu->addAction(QString(), this, &CDiscoveryDevicesForm::onActionConnectTriggered);
-    m_actOpenConfig = m_pDeviceMenu->addAction(QString(), this, &CDiscoveryDevicesForm::onActionOpenConfigTriggered);
-    m_actSaveConfig = m_pDeviceMenu->addAction(QString(), this, &CDiscoveryDevicesForm::onActionSaveConfigTriggered);
-    m_pDeviceMenu->addSeparator();
-    m_actPlay = m_pDeviceMenu->addAction(QString(), this, &CDiscoveryDevicesForm::onActionPlayTriggered);
-    m_pDeviceMenu->addSeparator();
-    m_actForceIp = m_pDeviceMenu->addAction(QString(), this, &CDiscoveryDevicesForm::on_ActionForceIpTriggered);
-    m_actSetDevUserID =
-        m_pDeviceMenu->addAction(QString(), this, &CDiscoveryDevicesForm::onActionSetDevUserIDTriggered);
-    m_pDeviceMenu->addSeparator();
-    m_actSaveXml = m_pDeviceMenu->addAction(QString(), this, &CDiscoveryDevicesForm::onActionSaveGenICamXml);
-    m_actCopyInfo = m_pDeviceMenu->addAction(QString(), this, &CDiscoveryDevicesForm::onActionCopyinfo);
-
-    m_pRootMenu = new QMenu(this);
-    m_actUnicast = m_pRootMenu->addAction(QString(), this, &CDiscoveryDevicesForm::onActionUnicastTriggered);
+    const std::pair<QAction*, void (CDiscoveryDevicesForm::*)()> actions[] = {
+        {actionConnect(), &CDiscoveryDevicesForm::onActionConnectTriggered},
+        {actionOpenConfig(), &CDiscoveryDevicesForm::onActionOpenConfigTriggered},
+        {actionSaveConfig(), &CDiscoveryDevicesForm::onActionSaveConfigTriggered},
+        {actionPlay(), &CDiscoveryDevicesForm::onActionPlayTriggered},
+        {actionForceIp(), &CDiscoveryDevicesForm::on_ActionForceIpTriggered},
+        {actionSetDevUserID(), &CDiscoveryDevicesForm::onActionSetDevUserIDTriggered},
+        {actionSaveXml(), &CDiscoveryDevicesForm::onActionSaveGenICamXml},
+        {actionCopyInfo(), &CDiscoveryDevicesForm::onActionCopyinfo},
+        {actionUnicast(), &CDiscoveryDevicesForm::onActionUnicastTriggered}};
+    for (const auto& action : actions)
+        connect(action.first, &QAction::triggered, this, action.second);
 }
 
 void CDiscoveryDevicesForm::retranslateUi()
 {
-    m_lblDevList->setText(tr("Device List"));
-    m_btnRefresh->setText(tr("refresh"));
-    m_lblDevInfo->setText(tr("Device Info"));
-    m_btnCollpaseDevice->setToolTip(tr("Collapse"));
-    m_btnExpandDevice->setToolTip(tr("Expand"));
-    if (m_roots[cameraTypeGigE].form)
-        m_roots[cameraTypeGigE].form->setText(tr("GigE"));
-    if (m_roots[cameraTypeUsb].form)
-        m_roots[cameraTypeUsb].form->setText(tr("USB"));
-    m_pInfoInterfaceForm->setText(tr("Interface Info"));
-    m_pInfoDeviceForm->setText(tr("Device Info"));
+    m_ui.retranslateUi();
+    if (CDiscoveryRootForm* gige = rootForm(cameraTypeGigE))
+        gige->setText(tr("GigE"));
+    if (CDiscoveryRootForm* usb = rootForm(cameraTypeUsb))
+        usb->setText(tr("USB"));
+    m_info->setTitles(tr("Interface Info"), tr("Device Info"));
     retranslateMenu();
-    // Labels of the information rows and the inline buttons' tool tips.
-    refleshDeviceInfo(m_pCurrentItem);
-    for (const SRootRecord& root : m_roots)
-        for (int i = 0; root.item && i < root.item->childCount(); ++i)
-            refleshItemButtons(root.item->child(i));
+    // The labels of the information rows.
+    refleshDeviceInfo(currentItem());
 }
 
 void CDiscoveryDevicesForm::retranslateMenu()
 {
-    const bool disconnectText = m_actConnect->property("disconnect").toBool();
-    m_actConnect->setText(disconnectText ? tr("Disconnect") : tr("Connect"));
-    m_actOpenConfig->setText(tr("Open Config"));
-    m_actSaveConfig->setText(tr("Save Config"));
-    const bool stopText = m_actPlay->property("stop").toBool();
-    m_actPlay->setText(stopText ? tr("Stop Acquisition") : tr("Start Acquisition"));
-    m_actForceIp->setText(tr("Force IP"));
-    m_actSetDevUserID->setText(tr("Set DeviceUserID"));
-    m_actSaveXml->setText(tr("Save GenICam XML"));
-    m_actCopyInfo->setText(tr("Copy Device Info"));
-    m_actUnicast->setText(tr("Add Remote Camera"));
+    m_menus->retranslate();
 }
 
 void CDiscoveryDevicesForm::changeEvent(QEvent* event)
@@ -266,16 +133,6 @@ void CDiscoveryDevicesForm::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange)
         retranslateUi();
     QWidget::changeEvent(event);
-}
-
-void CDiscoveryDevicesForm::setOpenedDeviceCounter(std::function<int()> counter)
-{
-    m_openedDeviceCounter = std::move(counter);
-}
-
-void CDiscoveryDevicesForm::setXmlFileChooser(std::function<QString(QWidget*, const QString&)> chooser)
-{
-    m_xmlFileChooser = std::move(chooser);
 }
 
 // ------------------------------------------------------------------ bus
@@ -295,17 +152,17 @@ void CDiscoveryDevicesForm::OnUpdateReceive(CTavMessagePtr msg)
         break;
     case MSG_DEVICE_CONNECTING:
     case MSG_DEVICE_DISCONNECTING:
-        disableBtns(getItemByDevice(msg->device));
+        m_buttons->disableBtns(getItemByDevice(msg->device));
         break;
     case MSG_DEVICE_CONNECTED:
-        closeWait();
+        m_controller->connectionSettled();
         emit openDeviceSuccess(msg->device);
         break;
     case MSG_DEVICE_CONNECT_FAILED: {
-        closeWait();
+        m_controller->connectionSettled();
         QTreeWidgetItem* item = getItemByDevice(msg->device);
         loadItemIcon(item);
-        refleshItemButtons(item);
+        m_buttons->refleshItemButtons(item);
         messageBox((msg->device ? msg->device->getDeviceKey() : QString()) + tr(" Connection failed!"), this,
                    QMessageBox::Ok, QMessageBox::Critical);
         break;
@@ -333,8 +190,8 @@ void CDiscoveryDevicesForm::on_OpenDeviceSuccess(CTavDevicePtr device)
     if (!item)
         return;
     loadItemIcon(item);
-    refleshItemButtons(item);
-    if (item == m_pCurrentItem)
+    m_buttons->refleshItemButtons(item);
+    if (item == currentItem())
         refleshDeviceInfo(item);
 }
 
@@ -354,103 +211,28 @@ void CDiscoveryDevicesForm::onRefreshAccessStatus(CTavDevicePtr device)
     if (!item)
         return;
     loadItemIcon(item);
-    if (item != m_pCurrentItem || cameraTypeOf(item) != cameraTypeGigE)
-        return;
-    const QString label = CDeviceInfoRows::accessStatusLabel();
-    for (int i = 0; i < m_pInfoDeviceRoot->childCount(); ++i) {
-        QTreeWidgetItem* row = m_pInfoDeviceRoot->child(i);
-        if (row->text(0) == label)
-            row->setText(1, CDeviceInfoRows::accessPermissionText(int(device->getAccessPermission())));
-    }
+    if (item == currentItem() && deviceCameraType(item->type()) == cameraTypeGigE)
+        m_info->setDeviceValue(CDeviceInfoRows::accessStatusLabel(),
+                               CDeviceInfoRows::accessPermissionText(int(device->getAccessPermission())));
 }
 
 // ------------------------------------------------------------------ roots and items
 
 QTreeWidgetItem* CDiscoveryDevicesForm::createRootItem(unsigned int type)
 {
-    if (type > 3 && type != 5) {
-        LOG_ERROR("param nInterfaceType %d is invalid!", int(type));
-        return nullptr;
-    }
-    if (type == 2 || type == 3 || type == 5)
-        return nullptr;
-    SRootRecord& root = m_roots[type];
-    if (root.created) {
-        LOG_WARN("this type has been created!");
-        return root.item;
-    }
-    root.item = new QTreeWidgetItem(m_deviceList, treeItemType(int(type), true));
-    root.item->setFirstColumnSpanned(true);
-    root.form = new CDiscoveryRootForm(m_deviceList);
-    root.form->setText(type == cameraTypeGigE ? tr("GigE") : tr("USB"));
-    root.form->setChecked(true);
-    root.form->setCheckBoxVisible(false);
-    m_deviceList->setItemWidget(root.item, 0, root.form);
-    connect(root.form, &CDiscoveryRootForm::signalCheckBoxClicked, this, &CDiscoveryDevicesForm::onRootItemClicked);
-    root.created = true;
-    return root.item;
-}
-
-QTreeWidgetItem* CDiscoveryDevicesForm::getRootItem(unsigned int type) const
-{
-    if (type > 255) {
-        LOG_ERROR("param nInterfaceType %d is invalid!", int(type));
-        return nullptr;
-    }
-    return type < unsigned(cameraTypeCount) ? m_roots[type].item : nullptr;
-}
-
-bool CDiscoveryDevicesForm::isCreatedRootItem(unsigned int type) const
-{
-    if (type > 255) {
-        LOG_ERROR("param nDeviceType %d is invalid!", int(type));
-        return false;
-    }
-    return type < unsigned(cameraTypeCount) && m_roots[type].created;
-}
-
-CDiscoveryRootForm* CDiscoveryDevicesForm::rootForm(unsigned int type) const
-{
-    return type < unsigned(cameraTypeCount) ? m_roots[type].form : nullptr;
-}
-
-bool CDiscoveryDevicesForm::isRootItem(QTreeWidgetItem* item) const
-{
-    if (!item)
-        return false;
-    for (const SRootRecord& root : m_roots)
-        if (root.item == item)
-            return true;
-    return false;
-}
-
-bool CDiscoveryDevicesForm::isGigERootItem(QTreeWidgetItem* item) const
-{
-    return item && item == m_roots[cameraTypeGigE].item;
-}
-
-QString CDiscoveryDevicesForm::getDeviceKey(QTreeWidgetItem* item)
-{
-    return item ? item->data(0, Qt::UserRole).toString() : QString();
-}
-
-QTreeWidgetItem* CDiscoveryDevicesForm::getItemByKey(const QString& key) const
-{
-    if (key.isEmpty())
-        return nullptr;
-    for (const SRootRecord& root : m_roots) {
-        if (!root.item)
-            continue;
-        for (int i = 0; i < root.item->childCount(); ++i)
-            if (getDeviceKey(root.item->child(i)) == key)
-                return root.item->child(i);
-    }
-    return nullptr;
+    const bool existed = type < unsigned(cameraTypeCount) && isCreatedRootItem(type);
+    QTreeWidgetItem* item = m_model->createRootItem(type);
+    if (!item || existed)
+        return item;
+    rootForm(type)->setText(type == cameraTypeGigE ? tr("GigE") : tr("USB"));
+    connect(rootForm(type), &CDiscoveryRootForm::signalCheckBoxClicked, this,
+            &CDiscoveryDevicesForm::onRootItemClicked);
+    return item;
 }
 
 QTreeWidgetItem* CDiscoveryDevicesForm::getItemByDevice(const CTavDevicePtr& device) const
 {
-    return device ? getItemByKey(device->getDeviceKey()) : nullptr;
+    return device ? m_model->getItemByKey(device->getDeviceKey()) : nullptr;
 }
 
 CTavDevicePtr CDiscoveryDevicesForm::deviceOf(QTreeWidgetItem* item, const char* handler) const
@@ -459,15 +241,13 @@ CTavDevicePtr CDiscoveryDevicesForm::deviceOf(QTreeWidgetItem* item, const char*
         LOG_ERROR("pItem is null.");
         return CTavDevicePtr();
     }
-    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(getDeviceKey(item));
-    if (!device)
-        LOG_ERROR("%s getDeviceByKey failed.", handler);
-    return device;
+    return lookUpDevice(getDeviceKey(item), handler);
 }
 
-int CDiscoveryDevicesForm::cameraTypeOf(QTreeWidgetItem* item) const
+SDeviceState CDiscoveryDevicesForm::stateOf(QTreeWidgetItem* item) const
 {
-    return item ? item->type() - treeItemDeviceFirst : -1;
+    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(getDeviceKey(item));
+    return readDeviceState(device, deviceCameraType(item->type()));
 }
 
 void CDiscoveryDevicesForm::setHoverItem(QTreeWidgetItem* item)
@@ -475,49 +255,18 @@ void CDiscoveryDevicesForm::setHoverItem(QTreeWidgetItem* item)
     on_deviceList_itemEntered(item, 0);
 }
 
-void CDiscoveryDevicesForm::setCurrentDeviceItem(QTreeWidgetItem* item)
-{
-    m_pCurrentItem = item;
-    m_deviceList->setCurrentItem(item);
-}
-
 // ------------------------------------------------------------------ merge
 
 void CDiscoveryDevicesForm::on_reflesh_clicked()
 {
-    m_btnRefresh->setEnabled(false);
-    requestDiscovery(QString());
-}
-
-void CDiscoveryDevicesForm::requestDiscovery(const QString& ip)
-{
-    // A unicast probe waiting for its turn is not replaced by a plain refresh
-    // (that pass would not probe it).
-    if (!m_bDiscoveryPending || !ip.isEmpty())
-        m_strPendingIp = ip;
-    m_bDiscoveryPending = true;
-    startPendingDiscovery();
-}
-
-void CDiscoveryDevicesForm::startPendingDiscovery()
-{
-    if (!m_bDiscoveryPending)
-        return;
-    // The worker forgets a request that comes while a pass runs: hand it over
-    // once the worker is idle, without waiting here.
-    if (CDiscoveryDevicesThread::getInstance()->isDisconvrying()) {
-        m_pDiscoveryRetryTimer->start();
-        return;
-    }
-    m_bDiscoveryPending = false;
-    CDeviceManager::getInstance()->refreshDeviceMap(m_strPendingIp, 0);
-    m_strPendingIp.clear();
+    m_ui.btnRefresh->setEnabled(false);
+    m_controller->refresh();
 }
 
 void CDiscoveryDevicesForm::onAutoRefreshTimeout()
 {
     // Not while a pass is still under way: the worker takes one request at a time.
-    if (!CConfiguration::getInstance()->autoRefreshEnable || !m_btnRefresh->isEnabled())
+    if (!CConfiguration::getInstance()->autoRefreshEnable || !m_ui.btnRefresh->isEnabled())
         return;
     on_reflesh_clicked();
 }
@@ -526,390 +275,117 @@ void CDiscoveryDevicesForm::on_discoveryDevicesFinished()
 {
     QMap<QString, CTavDevicePtr> devices = CDeviceManager::getInstance()->getAllDevices();
     updateDeviceList(devices);
+    m_controller->passFinished();
 }
 
 void CDiscoveryDevicesForm::updateDeviceList(QMap<QString, CTavDevicePtr>& devices)
 {
-    int counters[cameraTypeCount] = {0, 0, 0, 0, 0, 0};
-    for (auto it = devices.begin(); it != devices.end(); ++it) {
-        const CTavDevicePtr& device = it.value();
-        ICameraPtr camera = device ? device->getDevice() : ICameraPtr();
-        if (!camera)
-            continue;
-        const int type = int(camera->getType());
-        if (type < 0 || type >= cameraTypeCount)
-            continue;
-        const int itemType = treeItemType(type, false);
-        Vorlen::Infra::CString name;
-        if (!device->generateDeviceNameByUserID(name))
-            LOG_ERROR("generateDeviceNameByUserID failed");
-        insertCamera(type, counters[type], QString::fromUtf8(name.c_str()), fromSdk(camera->getKey()), itemType);
-        if (itemType == treeItemGigEDevice)
-            device->refreshAccessPermission();
-    }
-    for (int type = 0; type < cameraTypeCount; ++type) {
-        SRootRecord& root = m_roots[type];
-        if (!root.created)
-            continue;
-        while (root.item->childCount() > counters[type]) {
-            QTreeWidgetItem* child = root.item->child(counters[type]);
-            forgetItem(child);
-            delete root.item->takeChild(counters[type]);
-        }
-        root.form->setCheckBoxVisible(root.item->childCount() > 0);
-    }
+    const QList<SDeviceRow> rows = readDeviceRows(devices);
+    // The access-status worker reads the permissions; message 9 brings them.
+    for (const SDeviceRow& row : rows)
+        if (row.cameraType == cameraTypeGigE)
+            if (CTavDevicePtr device = devices.value(row.key))
+                device->refreshAccessPermission();
+    m_model->merge(rows);
     refleshAllItemIcon();
-    m_deviceList->expandAll();
-    for (SRootRecord& root : m_roots)
-        if (root.created)
-            root.form->setChecked(true);
-    refleshDeviceInfo(m_pCurrentItem);
-    m_btnRefresh->setEnabled(true);
+    m_ui.deviceList->expandAll();
+    refleshDeviceInfo(currentItem());
+    m_ui.btnRefresh->setEnabled(true);
 }
 
-void CDiscoveryDevicesForm::insertCamera(int cameraType, int& counter, const QString& name, const QString& key,
-                                         int itemType)
-{
-    QTreeWidgetItem* root = (cameraType >= 0 && cameraType < cameraTypeCount) ? m_roots[cameraType].item : nullptr;
-    if (!root)
-        return;
-    // New items take the name as Latin-1 text, updated ones as UTF-8.
-    const QString latin1 = QString::fromLatin1(name.toUtf8());
-    if (counter >= root->childCount()) {
-        auto* item = new QTreeWidgetItem(root, itemType);
-        item->setText(0, latin1);
-        item->setToolTip(0, latin1);
-        item->setData(0, Qt::UserRole, key);
-    } else if (getDeviceKey(root->child(counter)) == key) {
-        QTreeWidgetItem* item = root->child(counter);
-        if (item->text(0) != name)
-            item->setText(0, name);
-        if (item->toolTip(0) != name)
-            item->setToolTip(0, name);
-    } else {
-        auto* item = new QTreeWidgetItem(itemType);
-        item->setText(0, latin1);
-        item->setToolTip(0, latin1);
-        item->setData(0, Qt::UserRole, key);
-        root->insertChild(counter, item);
-    }
-    ++counter;
-}
-
-void CDiscoveryDevicesForm::forgetItem(QTreeWidgetItem* item)
-{
-    if (m_pHoverItem == item)
-        m_pHoverItem = nullptr;
-    if (m_pCurrentItem == item) {
-        m_pCurrentItem = nullptr;
-        clearDeviceInfo();
-    }
-    if (m_pContextItem == item) {
-        m_pContextItem = nullptr;
-        if (m_pDeviceMenu->isVisible())
-            m_pDeviceMenu->close();
-    }
-}
-
-// ------------------------------------------------------------------ icons
+// ------------------------------------------------------------------ state of a row
 
 bool CDiscoveryDevicesForm::isValidIp(QTreeWidgetItem* item)
 {
-    if (!item) {
-        LOG_ERROR("pItem is null.");
-        return false;
-    }
-    if (isInterfaceItemType(item->type()))
-        return false;
-    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(getDeviceKey(item));
-    if (!device || !device->getDevice()) {
-        LOG_ERROR("isValidIp getDeviceByKey failed.");
-        return false;
-    }
-    CInternalGigECameraInfo info(device->getDevice());
-    const QString config = fromSdk(info.getIpconfig());
-    return !config.isEmpty() && config != QLatin1String("Invalid On This Interface");
+    return !(item && isInterfaceItemType(item->type())) && hasValidIp(deviceOf(item, "isValidIp"));
 }
 
 bool CDiscoveryDevicesForm::isUSB3Interface(QTreeWidgetItem* item)
 {
-    const QString speed = getUSBSpeed(item);
-    // A USB3 Vision camera can run on a SuperSpeed (or SuperSpeedPlus) port,
-    // or slowly on a high-speed one; not on anything slower.
-    return speed.contains(QLatin1String("Super")) || speed.contains(QLatin1String("High"));
+    return isUsb3PortSpeed(getUSBSpeed(item));
 }
 
 QString CDiscoveryDevicesForm::getUSBSpeed(QTreeWidgetItem* item)
 {
-    CTavDevicePtr device = deviceOf(item, "getUSBSpeed");
-    if (!device || !device->getDevice())
-        return QString();
-    return fromSdk(CInternalUsbCameraInfo(device->getDevice()).getSpeedType());
-}
-
-int CDiscoveryDevicesForm::itemIconIndex(QTreeWidgetItem* item) const
-{
-    return item ? item->data(0, kIconIndexRole).toInt() - 1 : -1;
+    return usbSpeedOf(deviceOf(item, "getUSBSpeed"));
 }
 
 void CDiscoveryDevicesForm::refleshAllItemIcon()
 {
-    for (const SRootRecord& root : m_roots) {
-        if (!root.item)
-            continue;
-        for (int i = 0; i < root.item->childCount(); ++i)
-            loadItemIcon(root.item->child(i));
-    }
+    for (QTreeWidgetItem* item : m_model->deviceItems())
+        loadItemIcon(item);
 }
 
 void CDiscoveryDevicesForm::loadItemIcon(QTreeWidgetItem* item)
 {
-    if (!item || !isDeviceItemType(item->type()))
-        return;
-    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(getDeviceKey(item));
-    const bool connected = device && device->isConnected();
-    const bool grabbing = connected && device->isGrabing();
-    const int connectedIcon = grabbing ? iconAcquisition : (connected ? iconConnected : iconNormal);
-    int icon = connectedIcon;
-    if (item->type() == treeItemGigEDevice) {
-        if (!isValidIp(item))
-            icon = iconWarn;
-        else if (!connected && device->getAccessPermission() == accessPermissionControl)
-            icon = iconError;
-    } else if (item->type() == treeItemUsbDevice) {
-        if (!isUSB3Interface(item))
-            icon = iconError;
-        else if (!getUSBSpeed(item).startsWith(QLatin1String("Super")))
-            icon = iconWarn;
-    }
-    item->setIcon(0, m_icons[icon]);
-    item->setData(0, kIconIndexRole, icon + 1);
+    if (item && isDeviceItemType(item->type()))
+        m_model->setItemIcon(item, statusIcon(stateOf(item)));
 }
 
 void CDiscoveryDevicesForm::loadAcuisitionICon(const CTavDevicePtr& device, bool grabbing)
 {
-    QTreeWidgetItem* item = getItemByDevice(device);
-    if (!item)
-        return;
-    if (device->isConnected()) {
-        const int icon = grabbing ? iconAcquisition : iconConnected;
-        item->setIcon(0, m_icons[icon]);
-        item->setData(0, kIconIndexRole, icon + 1);
-    } else {
-        loadItemIcon(item);
-    }
+    if (QTreeWidgetItem* item = getItemByDevice(device))
+        m_model->setItemIcon(item, acquisitionIcon(stateOf(item), grabbing));
 }
 
 // ------------------------------------------------------------------ information tree
 
-void CDiscoveryDevicesForm::clearDeviceInfo()
-{
-    qDeleteAll(m_pInfoInterfaceRoot->takeChildren());
-    qDeleteAll(m_pInfoDeviceRoot->takeChildren());
-}
-
-void CDiscoveryDevicesForm::setInfoRows(QTreeWidgetItem* section, const QList<QPair<QString, QString>>& rows)
-{
-    qDeleteAll(section->takeChildren());
-    for (const auto& row : rows) {
-        auto* item = new QTreeWidgetItem(section);
-        item->setText(0, row.first);
-        item->setText(1, row.second);
-        item->setToolTip(1, row.second);
-    }
-}
-
 void CDiscoveryDevicesForm::refleshDeviceInfo(QTreeWidgetItem* item)
 {
-    if (!item || !isDeviceItemType(item->type())) {
-        clearDeviceInfo();
-        return;
-    }
-    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(getDeviceKey(item));
-    if (!device) {
-        LOG_ERROR("refleshDeviceInfo getDeviceByKey failed.");
-        clearDeviceInfo();
-        return;
-    }
-    SDeviceInfoRows rows;
-    if (!CDeviceInfoRows::build(device, rows)) {
-        LOG_ERROR("refleshDeviceInfo getCamera by Key failed.");
-        clearDeviceInfo();
-        return;
-    }
-    setInfoRows(m_pInfoInterfaceRoot, rows.interfaceRows);
-    setInfoRows(m_pInfoDeviceRoot, rows.deviceRows);
-    m_pInfoInterfaceRoot->setExpanded(m_pInfoInterfaceForm->isChecked());
-    m_pInfoDeviceRoot->setExpanded(m_pInfoDeviceForm->isChecked());
-    m_deviceInfo->resizeColumnToContents(0);
+    if (item && isDeviceItemType(item->type()))
+        m_info->showDevice(CDeviceManager::getInstance()->getDeviceByKey(getDeviceKey(item)));
+    else
+        m_info->clear();
 }
 
 QList<QPair<QString, QString>> CDiscoveryDevicesForm::infoRows(bool deviceSection) const
 {
-    QList<QPair<QString, QString>> rows;
-    QTreeWidgetItem* section = deviceSection ? m_pInfoDeviceRoot : m_pInfoInterfaceRoot;
-    for (int i = 0; i < section->childCount(); ++i)
-        rows << qMakePair(section->child(i)->text(0), section->child(i)->text(1));
-    return rows;
+    return m_info->rows(deviceSection ? CDeviceInfoSections::deviceSection : CDeviceInfoSections::interfaceSection);
 }
 
 void CDiscoveryDevicesForm::setDeviceInfoHide(bool hide)
 {
-    m_frameDevInfo->setHidden(hide);
+    m_ui.frameDevInfo->setHidden(hide);
 }
 
 void CDiscoveryDevicesForm::onDeviceInfoInterfaceClicked(bool checked)
 {
-    m_pInfoInterfaceRoot->setExpanded(checked);
+    m_info->setExpanded(CDeviceInfoSections::interfaceSection, checked);
 }
 
 void CDiscoveryDevicesForm::onDeviceInfoDeviceClicked(bool checked)
 {
-    m_pInfoDeviceRoot->setExpanded(checked);
+    m_info->setExpanded(CDeviceInfoSections::deviceSection, checked);
 }
 
 void CDiscoveryDevicesForm::onRootItemClicked(bool checked)
 {
-    auto* form = qobject_cast<CDiscoveryRootForm*>(sender());
-    for (SRootRecord& root : m_roots)
-        if (root.form && root.form == form)
-            root.item->setExpanded(checked);
+    for (int type = 0; type < cameraTypeCount; ++type)
+        if (rootForm(type) && rootForm(type) == sender())
+            getRootItem(type)->setExpanded(checked);
 }
 
 void CDiscoveryDevicesForm::on_deviceInfo_itemDoubleClicked(QTreeWidgetItem* item, int)
 {
     // Expands or collapses a section from its header row.
-    if (item == m_pInfoInterfaceRoot || item == m_pInfoDeviceRoot) {
-        CDiscoveryRootForm* form = item == m_pInfoInterfaceRoot ? m_pInfoInterfaceForm : m_pInfoDeviceForm;
-        form->setChecked(!form->isChecked());
-        item->setExpanded(form->isChecked());
-    }
+    m_info->toggle(item);
 }
 
 // ------------------------------------------------------------------ inline buttons
-
-CDiscoveryButtonsForm* CDiscoveryDevicesForm::buttonsOf(QTreeWidgetItem* item) const
-{
-    return item ? qobject_cast<CDiscoveryButtonsForm*>(m_deviceList->itemWidget(item, 1)) : nullptr;
-}
-
-void CDiscoveryDevicesForm::refleshConnectStatInfo(CDiscoveryButtonsForm* form)
-{
-    form->getConnectBtn()->hide();
-    form->getDisconnectBtn()->show();
-    form->getDisconnectBtn()->setToolTip(tr("Disconnect"));
-    form->getDisconnectBtn()->setEnabled(true);
-    form->getForceIPBtn()->setToolTip(tr("Force IP"));
-    form->getForceIPBtn()->setEnabled(false);
-    form->getForceIPBtn()->hide();
-}
-
-void CDiscoveryDevicesForm::refleshDisconnectStatInfo(CDiscoveryButtonsForm* form, bool gige)
-{
-    form->getDisconnectBtn()->hide();
-    form->getConnectBtn()->show();
-    form->getConnectBtn()->setToolTip(tr("Connect"));
-    form->getConnectBtn()->setEnabled(true);
-    form->getForceIPBtn()->setToolTip(tr("Force IP"));
-    form->getForceIPBtn()->setEnabled(gige);
-    form->getForceIPBtn()->setVisible(gige);
-}
-
-void CDiscoveryDevicesForm::refleshIpValidStatInfo(CDiscoveryButtonsForm* form)
-{
-    form->getDisconnectBtn()->hide();
-    form->getConnectBtn()->show();
-    form->getConnectBtn()->setToolTip(tr("Connect"));
-    form->getConnectBtn()->setEnabled(true);
-    form->getForceIPBtn()->show();
-    form->getForceIPBtn()->setToolTip(tr("Force IP"));
-    form->getForceIPBtn()->setEnabled(true);
-}
-
-void CDiscoveryDevicesForm::refleshUsbDisconnectStatInfo(CDiscoveryButtonsForm* form)
-{
-    form->getDisconnectBtn()->hide();
-    form->getForceIPBtn()->hide();
-    form->getForceIPBtn()->setEnabled(false);
-    form->getConnectBtn()->show();
-    form->getConnectBtn()->setToolTip(tr("Connect"));
-    form->getConnectBtn()->setEnabled(true);
-}
-
-void CDiscoveryDevicesForm::refleshItemButtons(QTreeWidgetItem* item)
-{
-    CDiscoveryButtonsForm* form = buttonsOf(item);
-    if (!form)
-        return;
-    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(getDeviceKey(item));
-    if (!device) {
-        form->disableAll();
-        return;
-    }
-    if (device->isDisconnecting()) {
-        refleshConnectStatInfo(form);
-        form->disableAll();
-    } else if (device->isConnected()) {
-        // Connected, possibly still applying its settings: it can be closed.
-        refleshConnectStatInfo(form);
-    } else if (device->isConnecting()) {
-        refleshDisconnectStatInfo(form, item->type() == treeItemGigEDevice);
-        form->disableAll();
-    } else if (item->type() == treeItemGigEDevice && !isValidIp(item)) {
-        refleshIpValidStatInfo(form);
-    } else if (item->type() == treeItemUsbDevice) {
-        refleshUsbDisconnectStatInfo(form);
-    } else {
-        refleshDisconnectStatInfo(form, item->type() == treeItemGigEDevice);
-    }
-}
-
-void CDiscoveryDevicesForm::removeButtonInItem(QTreeWidgetItem* item)
-{
-    if (item && m_deviceList->itemWidget(item, 1))
-        m_deviceList->removeItemWidget(item, 1);
-}
-
-void CDiscoveryDevicesForm::removeAllItemWidgetExceptCurrentItem(QTreeWidgetItem* keep)
-{
-    for (const SRootRecord& root : m_roots) {
-        if (!root.item)
-            continue;
-        for (int i = 0; i < root.item->childCount(); ++i)
-            if (root.item->child(i) != m_pCurrentItem && root.item->child(i) != keep)
-                removeButtonInItem(root.item->child(i));
-    }
-}
-
-void CDiscoveryDevicesForm::disableBtns(QTreeWidgetItem* item)
-{
-    if (CDiscoveryButtonsForm* form = buttonsOf(item))
-        form->disableAll();
-}
 
 void CDiscoveryDevicesForm::on_deviceList_itemEntered(QTreeWidgetItem* item, int)
 {
     if (!item || !isDeviceItemType(item->type()))
         return;
-    m_pHoverItem = item;
-    removeAllItemWidgetExceptCurrentItem(item);
-    if (buttonsOf(item)) {
-        refleshItemButtons(item);
-        return;
-    }
-    auto* form = new CDiscoveryButtonsForm(m_deviceList);
-    m_deviceList->setItemWidget(item, 1, form);
-    connect(form->getConnectBtn(), &QToolButton::clicked, this, &CDiscoveryDevicesForm::on_connectDevice);
-    connect(form->getDisconnectBtn(), &QToolButton::clicked, this, &CDiscoveryDevicesForm::on_disconnectDevice);
-    connect(form->getForceIPBtn(), &QToolButton::clicked, this, &CDiscoveryDevicesForm::on_modifyIp);
-    refleshItemButtons(item);
+    m_model->setHoverItem(item);
+    m_buttons->enterRow(item);
 }
 
 void CDiscoveryDevicesForm::leaveEvent(QEvent* event)
 {
     // The current row keeps its buttons; the one under the mouse loses them.
-    if (m_pHoverItem && m_pHoverItem != m_pCurrentItem)
-        removeButtonInItem(m_pHoverItem);
+    if (hoverItem() && hoverItem() != currentItem())
+        m_buttons->removeButtonInItem(hoverItem());
     QWidget::leaveEvent(event);
 }
 
@@ -925,7 +401,7 @@ void CDiscoveryDevicesForm::on_deviceList_itemClicked(QTreeWidgetItem* item, int
 {
     if (!item || !isDeviceItemType(item->type()))
         return;
-    m_pCurrentItem = item;
+    m_model->setCurrentItem(item);
     if (CTavDevicePtr device = deviceOf(item, "on_deviceList_itemClicked"))
         emit select_device(device);
     refleshDeviceInfo(item);
@@ -944,10 +420,10 @@ void CDiscoveryDevicesForm::on_deviceList_itemDoubleClicked(QTreeWidgetItem* ite
 void CDiscoveryDevicesForm::on_connectDevice()
 {
     QTreeWidgetItem* target = nullptr;
-    if (m_pHoverItem && isDeviceItemType(m_pHoverItem->type()))
-        target = m_pHoverItem;
-    else if (m_pCurrentItem && isDeviceItemType(m_pCurrentItem->type()))
-        target = m_pCurrentItem;
+    if (hoverItem() && isDeviceItemType(hoverItem()->type()))
+        target = hoverItem();
+    else if (currentItem() && isDeviceItemType(currentItem()->type()))
+        target = currentItem();
     connectItem(target);
 }
 
@@ -956,58 +432,25 @@ void CDiscoveryDevicesForm::connectItem(QTreeWidgetItem* target)
     if (!target || !isDeviceItemType(target->type()))
         return;
     const QString key = getDeviceKey(target);
-    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key);
-    if (device)
+    if (CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key))
         emit select_device(device);
     setCurrentDeviceItem(target);
     refleshDeviceInfo(target);
-
-    if (target->type() == treeItemGigEDevice && !isValidIp(target)) {
-        messageBox(key + tr(" IP address is invalid!"), this, QMessageBox::Ok, QMessageBox::Critical);
+    if (!m_controller->connectDevice(key, deviceCameraType(target->type())))
         return;
-    }
-    if (target->type() == treeItemUsbDevice) {
-        if (!isUSB3Interface(target)) {
-            messageBox(tr("Connection failed. Device is incompatible with the current USB port!\nPlease plug in the "
-                          "device into suitable PC USB port!\n"),
-                       this, QMessageBox::Ok, QMessageBox::Critical);
-            return;
-        }
-        if (!getUSBSpeed(target).startsWith(QLatin1String("Super")) &&
-            messageBox(tr("Current physical link is not USB3.0. Connection maybe fail!\nAre you sure you want to "
-                          "continue?"),
-                       this, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Question) != QMessageBox::Ok)
-            return;
-    }
-    // The questions above are modal: a refresh may have removed the row, or
-    // the camera, meanwhile.
+    // Looked up again: the controller may have asked a modal question.
     target = getItemByKey(key);
-    device = CDeviceManager::getInstance()->getDeviceByKey(key);
-    if (!device || !target) {
-        messageBox(tr("Connection failed. Device does not exist!\n"), this, QMessageBox::Ok, QMessageBox::Critical);
-        return;
-    }
-    if (device->isConnected() || device->isConnecting())
-        return;
-    if (m_openedDeviceCounter() >= kMaxConnections) {
-        messageBox(tr("The maximum number of connections has been reached."), this, QMessageBox::Ok,
-                   QMessageBox::Critical);
-        return;
-    }
-    disableBtns(target);
-    const bool started = device->openDevice(false);
+    m_buttons->disableBtns(target);
     refleshDeviceInfo(target);
-    if (started)
-        showWait(tr("Connecting, please wait..."));
 }
 
 void CDiscoveryDevicesForm::on_disconnectDevice()
 {
-    if (!m_pHoverItem) {
+    if (!hoverItem()) {
         LOG_ERROR("currentItem is NULL!");
         return;
     }
-    disconnectItem(m_pHoverItem);
+    disconnectItem(hoverItem());
 }
 
 void CDiscoveryDevicesForm::disconnectItem(QTreeWidgetItem* target)
@@ -1016,25 +459,13 @@ void CDiscoveryDevicesForm::disconnectItem(QTreeWidgetItem* target)
     LOG_DEBUG("start off device [%s].", key.toLocal8Bit().constData());
     if (isInterfaceItemType(target->type()))
         return;
-    disableBtns(target);
+    m_buttons->disableBtns(target);
     CTavDevicePtr device = deviceOf(target, "on_disconnectDevice");
     if (!device)
         return;
     emit select_device(device);
+    // The close runs on the device's worker; message 5 ends it.
     device->closeDevice(false);
-}
-
-void CDiscoveryDevicesForm::showWait(const QString& text)
-{
-    m_pWaitDlg->setTitle(tr("Connect"));
-    m_pWaitDlg->setText(text);
-    m_pWaitDlg->open();
-}
-
-void CDiscoveryDevicesForm::closeWait()
-{
-    if (m_pWaitDlg->isVisible())
-        m_pWaitDlg->accept();
 }
 
 // ------------------------------------------------------------------ context menu
@@ -1050,61 +481,28 @@ bool CDiscoveryDevicesForm::prepareDeviceMenu(QTreeWidgetItem* item)
     setCurrentDeviceItem(item);
     refleshDeviceInfo(item);
 
-    const int type = cameraTypeOf(item);
-    const bool gige = type == cameraTypeGigE;
-    m_actForceIp->setVisible(gige);
-    m_actCopyInfo->setEnabled(true);
-    if (device->isConnected()) {
-        m_actConnect->setProperty("disconnect", true);
-        m_actConnect->setEnabled(true);
-        m_actPlay->setEnabled(device->isAcqModeEnable() || type == 5);
-        const bool grabbing = device->isGrabing();
-        m_actPlay->setProperty("stop", grabbing);
-        m_actOpenConfig->setEnabled(!grabbing);
-        m_actSaveConfig->setEnabled(!grabbing);
-        m_actForceIp->setEnabled(false);
-        m_actSetDevUserID->setEnabled(true);
-        m_actSaveXml->setEnabled(true);
-    } else {
-        m_actConnect->setProperty("disconnect", false);
-        m_actConnect->setEnabled(true);
-        if (gige) {
-            const bool controlled = device->getAccessPermission() == accessPermissionControl;
-            m_actForceIp->setEnabled(!controlled);
-            m_actOpenConfig->setEnabled(!controlled);
-        } else if (item->type() == treeItemUsbDevice && !isUSB3Interface(item)) {
-            m_actOpenConfig->setEnabled(false);
-        } else {
-            m_actOpenConfig->setEnabled(true);
-        }
-        m_actPlay->setProperty("stop", false);
-        m_actPlay->setEnabled(false);
-        m_actSaveConfig->setEnabled(false);
-        m_actSetDevUserID->setEnabled(false);
-        m_actSaveXml->setEnabled(false);
-    }
-    retranslateMenu();
+    m_menus->apply(deviceMenuState(readDeviceState(device, deviceCameraType(item->type()))));
     return true;
 }
 
 void CDiscoveryDevicesForm::ShowContextMenu(const QPoint& pos)
 {
-    QTreeWidgetItem* item = m_deviceList->itemAt(pos);
-    const QPoint global = m_deviceList->viewport()->mapToGlobal(pos);
+    QTreeWidgetItem* item = m_ui.deviceList->itemAt(pos);
+    const QPoint global = m_ui.deviceList->viewport()->mapToGlobal(pos);
     if (isGigERootItem(item)) {
-        m_pContextItem = item;
-        m_pRootMenu->popup(getMenuPos(global, m_pRootMenu->sizeHint()));
+        m_model->setContextItem(item);
+        rootMenu()->popup(getMenuPos(global, rootMenu()->sizeHint()));
         return;
     }
     if (!prepareDeviceMenu(item))
         return;
-    m_pContextItem = item;
-    m_pDeviceMenu->popup(getMenuPos(global, m_pDeviceMenu->sizeHint()));
+    m_model->setContextItem(item);
+    deviceMenu()->popup(getMenuPos(global, deviceMenu()->sizeHint()));
 }
 
 void CDiscoveryDevicesForm::onActionConnectTriggered()
 {
-    QTreeWidgetItem* item = m_pContextItem ? m_pContextItem : m_pCurrentItem;
+    QTreeWidgetItem* item = contextItem() ? contextItem() : currentItem();
     CTavDevicePtr device = deviceOf(item, "onActionConnectTriggered");
     if (!device)
         return;
@@ -1116,125 +514,56 @@ void CDiscoveryDevicesForm::onActionConnectTriggered()
 
 void CDiscoveryDevicesForm::onActionOpenConfigTriggered()
 {
-    if (CTavDevicePtr device = deviceOf(m_pCurrentItem, "onActionOpenConfigTriggered"))
+    if (CTavDevicePtr device = deviceOf(currentItem(), "onActionOpenConfigTriggered"))
         emit signalOpenConfig(device);
 }
 
 void CDiscoveryDevicesForm::onActionSaveConfigTriggered()
 {
-    if (CTavDevicePtr device = deviceOf(m_pCurrentItem, "onActionSaveConfigTriggered"))
+    if (CTavDevicePtr device = deviceOf(currentItem(), "onActionSaveConfigTriggered"))
         emit signalSaveConfig(device);
 }
 
 void CDiscoveryDevicesForm::onActionPlayTriggered()
 {
-    CTavDevicePtr device = deviceOf(m_pCurrentItem, "onActionPlayTriggered");
-    if (!device || !device->isConnected())
-        return;
-    if (device->isGrabing())
-        device->closeStream();
-    else
-        device->openStream();
+    m_controller->toggleAcquisition(deviceOf(currentItem(), "onActionPlayTriggered"));
 }
 
 void CDiscoveryDevicesForm::on_modifyIp()
 {
-    QTreeWidgetItem* item = m_pHoverItem ? m_pHoverItem : m_pCurrentItem;
-    modifyIP(item);
+    modifyIP(hoverItem() ? hoverItem() : currentItem());
 }
 
 void CDiscoveryDevicesForm::on_ActionForceIpTriggered()
 {
-    modifyIP(m_pContextItem ? m_pContextItem : m_pCurrentItem);
+    modifyIP(contextItem() ? contextItem() : currentItem());
 }
 
 void CDiscoveryDevicesForm::modifyIP(QTreeWidgetItem* item)
 {
     CTavDevicePtr device = deviceOf(item, "on_modifyIp");
-    if (!device || !device->getDevice()) {
-        LOG_ERROR("on_modifyIp getDeviceByKey failed.");
-        messageBox(tr("Device not found."), this, QMessageBox::Ok, QMessageBox::Critical);
-        return;
+    if (device && device->getDevice()) {
+        emit select_device(device);
+        setCurrentDeviceItem(item);
     }
-    emit select_device(device);
-    setCurrentDeviceItem(item);
-    ICameraPtr camera = device->getDevice();
-    TSharedPtrGigEInterfaceInfo info = CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(camera);
-    if (!info) {
-        LOG_ERROR("get GigEInterfaceInfo failed.");
-        messageBox(tr("network card has modified!"), this, QMessageBox::Ok, QMessageBox::Critical);
-        return;
-    }
-    QWidget* over = QApplication::activeWindow() ? QApplication::activeWindow() : this;
-    CSetIPDlg dialog(true, over);
-    if (!dialog.setInfo(info, camera->getKey()))
-        return;
-    if (dialog.exec() == QDialog::Accepted)
-        requestDiscovery(QString());
+    m_controller->modifyIp(device);
 }
 
 void CDiscoveryDevicesForm::onActionSetDevUserIDTriggered()
 {
-    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(getDeviceKey(m_pCurrentItem));
-    if (!device) {
-        LOG_ERROR("onActionPlayTriggered getDeviceByKey failed.");
-        return;
-    }
-    // The read and the write are camera round trips: both run off this thread.
-    auto value = std::make_shared<QString>();
-    auto maxLength = std::make_shared<int>(64);
-    CCameraTask::run(
-        this, [device, value, maxLength]() { return device->getParaStringValue("DeviceUserID", *value, *maxLength); },
-        [this, device, value, maxLength](bool ok, const QString&) {
-            if (!ok) {
-                emit cameraTaskFinished();
-                return;
-            }
-            CSetDevUserIDDlg dialog(this);
-            dialog.setCurrentDeviceUserID(*value, *maxLength);
-            if (dialog.exec() != QDialog::Accepted) {
-                emit cameraTaskFinished();
-                return;
-            }
-            const QString text = dialog.getEditValue();
-            CCameraTask::run(
-                this, [device, text]() { return device->setParaStringValue("DeviceUserID", text); },
-                [this](bool written, const QString& error) {
-                    if (!written)
-                        messageBox(error, this, QMessageBox::Ok, QMessageBox::Critical);
-                    emit cameraTaskFinished();
-                });
-        });
+    // The handler's name in the log is the acquisition entry's, as it has always been.
+    if (CTavDevicePtr device = lookUpDevice(getDeviceKey(currentItem()), "onActionPlayTriggered"))
+        m_controller->setDeviceUserId(device);
 }
 
 void CDiscoveryDevicesForm::onActionSaveGenICamXml()
 {
-    CTavDevicePtr device = deviceOf(m_pCurrentItem, "onActionSaveGenICamXml");
-    if (!device || !device->getDevice())
-        return;
-    const QString suggested = device->getDeviceSaveName() + QStringLiteral(".xml");
-    const QString path = m_xmlFileChooser(this, suggested);
-    if (path.isEmpty())
-        return;
-    ICameraPtr camera = device->getDevice();
-    CCameraTask::run(
-        this,
-        [camera, path]() {
-            auto* c = dynamic_cast<CInternalCamera*>(camera.get());
-            return c && c->downLoadGenICamXML(path.toLocal8Bit().constData());
-        },
-        [this](bool ok, const QString& error) {
-            if (!ok) {
-                LOG_ERROR("downLoadGenICamXML failed. [%s]", error.toLocal8Bit().constData());
-                messageBox(tr("Download xml file failed."), this, QMessageBox::Ok, QMessageBox::Critical);
-            }
-            emit cameraTaskFinished();
-        });
+    m_controller->saveGenICamXml(deviceOf(currentItem(), "onActionSaveGenICamXml"));
 }
 
 void CDiscoveryDevicesForm::onActionCopyinfo()
 {
-    CTavDevicePtr device = deviceOf(m_pCurrentItem, "onActionCopyinfo");
+    CTavDevicePtr device = deviceOf(currentItem(), "onActionCopyinfo");
     SDeviceInfoRows rows;
     if (!device || !CDeviceInfoRows::build(device, rows))
         return;
@@ -1243,16 +572,7 @@ void CDiscoveryDevicesForm::onActionCopyinfo()
 
 void CDiscoveryDevicesForm::onActionUnicastTriggered()
 {
-    CConfiguration* config = CConfiguration::getInstance();
-    CUnicastDlg dialog(this);
-    dialog.setCurrentIp(config->RemoteIpAddr);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    config->RemoteIpAddr = dialog.getEditValue();
-    config->saveConfigToUserXml();
-    const QString ip = QString::fromStdString(IPIntToStr(IPStrToInt(dialog.getEditValue().toStdString())));
-    m_btnRefresh->setEnabled(false);
-    requestDiscovery(ip);
+    m_controller->addRemoteCamera();
 }
 
 // ------------------------------------------------------------------ collapse
@@ -1260,18 +580,12 @@ void CDiscoveryDevicesForm::onActionUnicastTriggered()
 void CDiscoveryDevicesForm::onBtnCollpaseClicked()
 {
     m_nExpandedWidth = width();
-    m_contents->hide();
-    m_btnExpandDevice->show();
-    setMinimumWidth(kCollapsedWidth);
-    setFixedWidth(kCollapsedWidth);
+    m_ui.setCollapsed(this, true);
     emit formCollpased();
 }
 
 void CDiscoveryDevicesForm::on_btnExpandDevice_clicked()
 {
-    m_btnExpandDevice->hide();
-    m_contents->show();
-    setMinimumWidth(250);
-    setMaximumWidth(15000);
+    m_ui.setCollapsed(this, false);
     emit formExpanded(m_nExpandedWidth);
 }

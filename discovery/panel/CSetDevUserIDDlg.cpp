@@ -2,9 +2,6 @@
 
 #include <QLineEdit>
 
-#include "MessageBox.h"
-#include "Utils.h"
-
 CSetDevUserIDDlg::CSetDevUserIDDlg(QWidget* parent) : CSingleFieldDlg(parent)
 {
     init();
@@ -25,12 +22,7 @@ void CSetDevUserIDDlg::setCurrentDeviceUserID(const QString& value, int maxLengt
 
 bool CSetDevUserIDDlg::validate()
 {
-    if (exceedsMaxLength()) {
-        messageBox(tr("The length of DeviceUserID can not be longer than %1.").arg(lineEdit()->maxLength()), this,
-                   QMessageBox::Ok, QMessageBox::Critical);
-        return false;
-    }
-    return true;
+    return !refuseTooLong(tr("The length of DeviceUserID can not be longer than %1."));
 }
 
 void CSetDevUserIDDlg::retranslateUi()

@@ -11,8 +11,9 @@
 #include <QRegularExpression>
 #include <QStringList>
 #include <QVBoxLayout>
+#include <initializer_list>
+#include <utility>
 
-#include "CCameraTask.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDialogTitleBar.h"
@@ -61,12 +62,12 @@ CSetIPDlg::CSetIPDlg(bool modal, QWidget* parent) : QDialog(parent)
     m_pSetIpThread = new CSetIpThread(this);
     connect(m_pSetIpThread, &CSetIpThread::signalSetIpEnd, this, &CSetIPDlg::onSetIpEnd, Qt::QueuedConnection);
     connect(CConfiguration::getInstance(), &CConfiguration::signalRestoreCfg, this, &CSetIPDlg::onRestoreCfg);
-    m_pSetIpThread->start();
 }
 
 CSetIPDlg::~CSetIPDlg()
 {
-    m_pSetIpThread->stop();
+    // A write under way finishes on its own; its answer goes nowhere.
+    m_pSetIpThread->retire();
 }
 
 void CSetIPDlg::buildUi()
@@ -114,28 +115,26 @@ void CSetIPDlg::buildUi()
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(10);
     int row = 0;
+    auto addFields = [grid, &row](std::initializer_list<std::pair<QLabel*, QLineEdit*>> fields) {
+        for (const auto& field : fields) {
+            grid->addWidget(field.first, row, 0);
+            grid->addWidget(field.second, row++, 1);
+        }
+    };
     grid->addWidget(m_lblInterfaceSection, row++, 0, 1, 2);
-    grid->addWidget(m_lblInterfaceMac, row, 0);
-    grid->addWidget(m_txtInterfaceMac, row++, 1);
-    grid->addWidget(m_lblInterfaceIP, row, 0);
-    grid->addWidget(m_txtInterfaceIP, row++, 1);
-    grid->addWidget(m_lblInterfaceMask, row, 0);
-    grid->addWidget(m_txtInterfaceSubnetMask, row++, 1);
-    grid->addWidget(m_lblInterfaceGateway, row, 0);
-    grid->addWidget(m_txtInterfaceGateway, row++, 1);
+    addFields({{m_lblInterfaceMac, m_txtInterfaceMac},
+               {m_lblInterfaceIP, m_txtInterfaceIP},
+               {m_lblInterfaceMask, m_txtInterfaceSubnetMask},
+               {m_lblInterfaceGateway, m_txtInterfaceGateway}});
     auto* deviceHeader = new QHBoxLayout;
     deviceHeader->addWidget(m_lblDeviceSection);
     deviceHeader->addWidget(m_lblDeviceStatus);
     deviceHeader->addStretch(1);
     grid->addLayout(deviceHeader, row++, 0, 1, 2);
-    grid->addWidget(m_lblDevMac, row, 0);
-    grid->addWidget(m_txtDevMac, row++, 1);
-    grid->addWidget(m_lblDevIP, row, 0);
-    grid->addWidget(m_txtDevIP, row++, 1);
-    grid->addWidget(m_lblDevMask, row, 0);
-    grid->addWidget(m_txtDevSubnetMask, row++, 1);
-    grid->addWidget(m_lblDevGateway, row, 0);
-    grid->addWidget(m_txtDevGateway, row++, 1);
+    addFields({{m_lblDevMac, m_txtDevMac},
+               {m_lblDevIP, m_txtDevIP},
+               {m_lblDevMask, m_txtDevSubnetMask},
+               {m_lblDevGateway, m_txtDevGateway}});
     grid->addWidget(m_lblHint, row++, 0, 1, 2);
     grid->addWidget(m_cbSetPersistentIP, row++, 0, 1, 2);
 
@@ -441,7 +440,7 @@ void CSetIPDlg::on_btnOk_clicked()
     const QString gateway = QString::fromStdString(IPIntToStr(IPStrToInt(devGateway.toStdString())));
     const bool persistent = m_cbSetPersistentIP->isChecked();
     showWait(tr("Setting IP, please wait..."));
-    CCameraTask::run(
+    m_pSetIpThread->run(
         this,
         [camera, ip, mask, gateway]() {
             auto* c = dynamic_cast<CInternalCamera*>(camera.get());

@@ -2,42 +2,21 @@
 
 #include "CDeviceManager.h"
 #include "CTavDevice.h"
-#include "Vorlen/GenICam.h"
 #include "Tavlog4cpp/TavLogMacros.h"
+#include "Vorlen/GenICam.h"
 
-CSetIpThread::CSetIpThread(QObject* parent) : QThread(parent) {}
-
-CSetIpThread::~CSetIpThread()
-{
-    stop();
-}
+CSetIpThread::CSetIpThread(QObject* parent) : CCameraTaskThread("SetIpThread", parent) {}
 
 void CSetIpThread::startSetIp(QString key, QString ip, QString mask, QString gateway)
 {
-    QMutexLocker lock(&m_mutex);
-    m_strKey = key;
-    m_strIp = ip;
-    m_strMask = mask;
-    m_strGateway = gateway;
-    m_bPending = true;
-    m_wake.wakeAll();
-}
-
-void CSetIpThread::stop()
-{
-    {
-        QMutexLocker lock(&m_mutex);
-        m_bStop = true;
-        m_wake.wakeAll();   // the join below then takes no longer than a write under way
-    }
-    if (isRunning())
-        wait();
+    post([this, key, ip, mask, gateway]() { emit signalSetIpEnd(writePersistentIp(key, ip, mask, gateway)); });
 }
 
 bool CSetIpThread::writePersistentIp(const QString& key, const QString& ip, const QString& mask,
                                      const QString& gateway)
 {
-    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key);
+    CDeviceManager* manager = CDeviceManager::existingInstance();
+    CTavDevicePtr device = manager ? manager->getDeviceByKey(key) : CTavDevicePtr();
     if (!device) {
         LOG_ERROR("getDeviceByKey failed. [%s]", key.toLocal8Bit().constData());
         return false;
@@ -57,26 +36,4 @@ bool CSetIpThread::writePersistentIp(const QString& key, const QString& ip, cons
     if (ownSession)
         camera->disConnect();
     return ok;
-}
-
-void CSetIpThread::run()
-{
-    LOG_DEBUG("SetIpThread run begin");
-    while (!m_bStop) {
-        m_mutex.lock();
-        if (!m_bPending) {
-            // Idle: look again after 100 ms, or at once when woken.
-            if (!m_bStop)
-                m_wake.wait(&m_mutex, 100);
-            m_mutex.unlock();
-            continue;
-        }
-        const QString key = m_strKey, ip = m_strIp, mask = m_strMask, gateway = m_strGateway;
-        // Taken now rather than after the answer, so a retry the answer prompts is kept.
-        m_bPending = false;
-        m_mutex.unlock();
-
-        emit signalSetIpEnd(writePersistentIp(key, ip, mask, gateway));
-    }
-    LOG_DEBUG("SetIpThread run end");
 }

@@ -9,6 +9,7 @@
 
 #include "CDialogTitleBar.h"
 #include "FramelessDialogLayout.h"
+#include "MessageBox.h"
 
 CSingleFieldDlg::CSingleFieldDlg(QWidget* parent) : QDialog(parent)
 {
@@ -62,9 +63,12 @@ QString CSingleFieldDlg::labelText() const
     return m_label->text();
 }
 
-bool CSingleFieldDlg::exceedsMaxLength() const
+bool CSingleFieldDlg::refuseTooLong(const QString& message)
 {
-    return m_lineEdit->text().toLocal8Bit().size() > m_lineEdit->maxLength();
+    if (m_lineEdit->text().toLocal8Bit().size() <= m_lineEdit->maxLength())
+        return false;
+    messageBox(message.arg(m_lineEdit->maxLength()), this, QMessageBox::Ok, QMessageBox::Critical);
+    return true;
 }
 
 void CSingleFieldDlg::on_btnOk_clicked()

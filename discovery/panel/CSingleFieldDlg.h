@@ -33,8 +33,9 @@ protected:
     // Shows its own message and returns false to keep the dialog open.
     virtual bool validate() = 0;
     virtual void retranslateUi() = 0;
-    // The text is longer in the local 8-bit encoding than the edit allows.
-    bool exceedsMaxLength() const;
+    // When the text is longer in the local 8-bit encoding than the edit
+    // allows, shows the message with %1 the edit's maximum length; true then.
+    bool refuseTooLong(const QString& message);
     void changeEvent(QEvent* event) override;
 
 private:

@@ -27,11 +27,8 @@ void CUnicastDlg::setCurrentIp(const QString& ip)
 
 bool CUnicastDlg::validate()
 {
-    if (exceedsMaxLength()) {
-        messageBox(tr("The length of IP can not be longer than %1.").arg(lineEdit()->maxLength()), this,
-                   QMessageBox::Ok, QMessageBox::Critical);
+    if (refuseTooLong(tr("The length of IP can not be longer than %1.")))
         return false;
-    }
     const std::string ip = getEditValue().toLocal8Bit().toStdString();
     if (!isValidIP(ip.c_str()) || !isValidRange(ip) || !isLookBackIP(ip)) {
         messageBox(tr("invalid ip"), this, QMessageBox::Ok, QMessageBox::Critical);

@@ -41,6 +41,11 @@ bool isDeviceItemType(int type)
     return type >= treeItemDeviceFirst && type <= treeItemDeviceLast;
 }
 
+int deviceCameraType(int itemType)
+{
+    return isDeviceItemType(itemType) ? itemType - treeItemDeviceFirst : -1;
+}
+
 int interfaceType(Vorlen::GenICam::EInterfaceType type)
 {
     for (const auto& row : kTypeMap)

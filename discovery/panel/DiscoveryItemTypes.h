@@ -28,6 +28,8 @@ enum ECameraTypeIndex
 int treeItemType(int cameraType, bool isInterface);
 bool isInterfaceItemType(int type);
 bool isDeviceItemType(int type);
+// The camera type of a device item type (-1 for any other).
+int deviceCameraType(int itemType);
 // Interface enumerator 0..5 -> 1..6, anything else 0.
 int interfaceType(Vorlen::GenICam::EInterfaceType type);
 // 1..6 -> 1..6, anything else 0.

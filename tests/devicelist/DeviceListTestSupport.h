@@ -1,6 +1,7 @@
 #pragma once
 // Helpers of the device list tests: answering the modal boxes and dialogs the
-// panel opens, and waiting for the device manager.
+// panel opens, and waiting for the device manager. The device tests' helpers
+// (DeviceTestSupport.h) come along.
 #include <QApplication>
 #include <QPushButton>
 #include <QTimer>
@@ -11,6 +12,14 @@
 #include "CDeviceManager.h"
 #include "CDiscoveryDevicesThread.h"
 #include "CTavDevice.h"
+#include "DeviceTestSupport.h"
+
+// Configuration files go to the test's own home (CTest sets HOME per test).
+static const bool g_ownHome = []() {
+    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
+        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
+    return true;
+}();
 
 // Answers every application message box that shows up while it lives, with
 // the button given, and records the texts in order.
@@ -81,20 +90,10 @@ void onDialog(std::function<void(T*)> act, int timeoutMs = 20000)
     timer->start(20);
 }
 
-inline CTavDevicePtr deviceBySerial(const QString& serial)
-{
-    const QMap<QString, CTavDevicePtr> devices = CDeviceManager::getInstance()->getAllDevices();
-    for (auto it = devices.begin(); it != devices.end(); ++it)
-        if (it.value()->getDevice() &&
-            QString::fromLocal8Bit(it.value()->getDevice()->getSerialNumber().c_str()) == serial)
-            return it.value();
-    return CTavDevicePtr();
-}
-
-// Asks for a discovery pass and waits until the manager has rebuilt its map.
-// The worker drops a request that comes while a pass runs: wait for it to be
-// idle first.
-inline bool rediscover(const QString& ip = QString(), int timeoutMs = 20000)
+// Asks for a discovery pass (ip: "" or one address to probe) and waits until
+// the manager has rebuilt its map. The worker drops a request that comes
+// while a pass runs: this waits for it to be idle first.
+inline bool rediscoverWhenIdle(const QString& ip = QString(), int timeoutMs = 20000)
 {
     CDeviceManager* manager = CDeviceManager::getInstance();
     CDiscoveryDevicesThread* worker = CDiscoveryDevicesThread::getInstance();

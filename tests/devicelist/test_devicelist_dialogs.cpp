@@ -10,6 +10,7 @@
 #include <QTextCodec>
 #include <QTreeWidget>
 #include <QtTest>
+#include <memory>
 #include <random>
 
 #include "CConfiguration.h"
@@ -21,14 +22,7 @@
 #include "DeviceListTestSupport.h"
 #include "GvcpResponder.h"
 #include "StyleSheet.h"
-#include "Tavlog4cpp/CTavLog.h"
 #include "Vorlen/GenICam.h"
-
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
 
 namespace {
 const char* const kResponderIp = "127.0.0.5";
@@ -78,6 +72,9 @@ private slots:
 
 private:
     QTreeWidgetItem* responderItem() const;
+    // The IP dialog for the responder, shown, persistent write as given;
+    // null when it could not be filled.
+    std::unique_ptr<CSetIPDlg> openIpDialog(bool persistent) const;
 
     QWidget* m_host = nullptr;
     CDiscoveryDevicesForm* m_form = nullptr;
@@ -86,14 +83,27 @@ private:
 
 QTreeWidgetItem* TestDeviceListDialogs::responderItem() const
 {
-    CTavDevicePtr device = deviceBySerial("RESP1");
+    CTavDevicePtr device = findDeviceBySerial("RESP1");
     return device ? m_form->getItemByDevice(device) : nullptr;
+}
+
+std::unique_ptr<CSetIPDlg> TestDeviceListDialogs::openIpDialog(bool persistent) const
+{
+    CTavDevicePtr device = findDeviceBySerial("RESP1");
+    if (!device)
+        return nullptr;
+    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
+    std::unique_ptr<CSetIPDlg> dialog(new CSetIPDlg(true, nullptr));
+    if (!dialog->setInfo(info, device->getDevice()->getKey()))
+        return nullptr;
+    dialog->cbSetPersistentIP()->setChecked(persistent);
+    dialog->show();
+    return dialog;
 }
 
 void TestDeviceListDialogs::initTestCase()
 {
-    if (!qEnvironmentVariableIsEmpty("LUMIDOR_TEST_LOG"))
-        Tavlog4cpp::CTavLog::LoadDefault();
+    enableLogWhenAsked();
     // Lengths are counted in the local 8-bit encoding: make it UTF-8 whatever
     // the test's locale.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
@@ -107,7 +117,7 @@ void TestDeviceListDialogs::initTestCase()
     m_host->show();
     // The automatic refresh is driven by hand where a test wants it, never by the clock.
     m_form->autoRefreshTimer()->stop();
-    QVERIFY(rediscover(kResponderIp));
+    QVERIFY(rediscoverWhenIdle(kResponderIp));
     QTRY_VERIFY_WITH_TIMEOUT(responderItem() != nullptr, 15000);
 }
 
@@ -216,7 +226,7 @@ void TestDeviceListDialogs::ipDialogHelpers()
 
 void TestDeviceListDialogs::ipDialogEditing()
 {
-    CTavDevicePtr device = deviceBySerial("RESP1");
+    CTavDevicePtr device = findDeviceBySerial("RESP1");
     QVERIFY(device);
     auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
     QVERIFY(info);
@@ -249,12 +259,12 @@ void TestDeviceListDialogs::ipDialogEditing()
                             ? QDir::currentPath()
                             : QString::fromLocal8Bit(qgetenv("LUMIDOR_SCREENSHOT_DIR"));
     const QString sheet = QString::fromLocal8Bit(qgetenv("LUMIDOR_SOURCE_DIR")) + "/res/Skins/Default/Vintrel/style.qss";
-    setStyleSheet<QApplication>(*qApp, sheet);
-    QTest::qWait(20);
+    QVERIFY2(setStyleSheet<QApplication>(*qApp, sheet), qPrintable(sheet));
+    QCoreApplication::sendPostedEvents();   // the layouts of the new look, before drawing
     QVERIFY(dialog.grab().save(dir + "/setip_dialog.png"));
     CUnicastDlg unicast;
     unicast.show();
-    QTest::qWait(20);
+    QCoreApplication::sendPostedEvents();
     QVERIFY(unicast.grab().save(dir + "/unicast_dialog.png"));
     qApp->setStyleSheet(QString());
 
@@ -274,12 +284,9 @@ void TestDeviceListDialogs::ipDialogEditing()
 
 void TestDeviceListDialogs::ipDialogRefusesBadInput()
 {
-    CTavDevicePtr device = deviceBySerial("RESP1");
-    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
-    CSetIPDlg dialog(true, nullptr);
-    QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
-    dialog.cbSetPersistentIP()->setChecked(false);
-    dialog.show();
+    std::unique_ptr<CSetIPDlg> owned = openIpDialog(false);
+    QVERIFY(owned);
+    CSetIPDlg& dialog = *owned;
     BoxAnswerer answerer(QMessageBox::Cancel);
     struct SCase
     {
@@ -316,7 +323,8 @@ void TestDeviceListDialogs::ipDialogRefusesBadInput()
 // packet leaves only with the full dotted quads that were typed.
 void TestDeviceListDialogs::typedGarbageNeverReachesTheCamera()
 {
-    CTavDevicePtr device = deviceBySerial("RESP1");
+    CTavDevicePtr device = findDeviceBySerial("RESP1");
+    // Taken once: after the first forced address the camera is elsewhere.
     auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
     BoxAnswerer answerer(QMessageBox::Ok);
     std::mt19937 rng(4242u);
@@ -374,9 +382,9 @@ void TestDeviceListDialogs::typedGarbageNeverReachesTheCamera()
     QVERIFY2(sent > 0, "no generated case was valid: the generator tests nothing");
     // The library now takes the camera for one at the forced address; the
     // next discovery shows it where it really is.
-    QVERIFY(rediscover());
+    QVERIFY(rediscoverWhenIdle());
     QTRY_VERIFY_WITH_TIMEOUT(Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(
-                                 deviceBySerial("RESP1")->getDevice()),
+                                 findDeviceBySerial("RESP1")->getDevice()),
                              15000);
 }
 
@@ -414,17 +422,14 @@ void TestDeviceListDialogs::forceIpThroughTheTree()
 void TestDeviceListDialogs::forceIpFailuresKeepTheDialogOpen()
 {
     QTRY_VERIFY_WITH_TIMEOUT(responderItem() != nullptr, 15000);
-    CTavDevicePtr device = deviceBySerial("RESP1");
-    auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
     BoxAnswerer answerer(QMessageBox::Ok);
 
     // No acknowledge to FORCEIP.
     m_responder->setAnswerForceIp(false);
     {
-        CSetIPDlg dialog(true, nullptr);
-        QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
-        dialog.cbSetPersistentIP()->setChecked(false);
-        dialog.show();
+        std::unique_ptr<CSetIPDlg> owned = openIpDialog(false);
+        QVERIFY(owned);
+        CSetIPDlg& dialog = *owned;
         fill(&dialog, "10.0.0.9", "255.0.0.0", "");
         dialog.btnOk()->click();
         QVERIFY(dialog.isBusy());
@@ -440,10 +445,9 @@ void TestDeviceListDialogs::forceIpFailuresKeepTheDialogOpen()
     // The forced address is taken, the persistent write is not (the listener
     // grants no control session).
     {
-        CSetIPDlg dialog(true, nullptr);
-        QVERIFY(dialog.setInfo(info, device->getDevice()->getKey()));
-        dialog.cbSetPersistentIP()->setChecked(true);
-        dialog.show();
+        std::unique_ptr<CSetIPDlg> owned = openIpDialog(true);
+        QVERIFY(owned);
+        CSetIPDlg& dialog = *owned;
         fill(&dialog, "10.0.0.10", "255.0.0.0", "");
         dialog.btnOk()->click();
         QVERIFY(dialog.waitDialog()->isVisible());
@@ -480,7 +484,7 @@ void TestDeviceListDialogs::remoteCameraFromTheGigERoot()
 void TestDeviceListDialogs::cameraGoneWhileDialogOpen()
 {
     QTRY_VERIFY_WITH_TIMEOUT(responderItem() != nullptr, 15000);
-    CTavDevicePtr device = deviceBySerial("RESP1");
+    CTavDevicePtr device = findDeviceBySerial("RESP1");
     const Vorlen::Infra::CString key = device->getDevice()->getKey();
     auto info = Vorlen::GenICam::CInternalSystem::getInstance().getGigEInterfaceInfoByCamera(device->getDevice());
     device.reset();
@@ -493,9 +497,9 @@ void TestDeviceListDialogs::cameraGoneWhileDialogOpen()
     // The camera stops answering and leaves the device map.
     m_responder->stop();
     QVERIFY(QTest::qWaitFor([&]() {
-        if (!deviceBySerial("RESP1"))
+        if (!findDeviceBySerial("RESP1"))
             return true;
-        rediscover();
+        rediscoverWhenIdle();
         return false;
     }, 30000));
     QVERIFY(!responderItem());

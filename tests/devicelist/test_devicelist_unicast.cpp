@@ -20,13 +20,6 @@
 #include "DeviceListTestSupport.h"
 #include "Gvcp.h"
 #include "MainWindow.h"
-#include "Tavlog4cpp/CTavLog.h"
-
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
 
 namespace {
 const char* const kCameraIp = "10.77.2.2";
@@ -70,7 +63,7 @@ bool TestDeviceListUnicast::rig(const QString& action, QString* error)
 
 QTreeWidgetItem* TestDeviceListUnicast::remoteItem() const
 {
-    CTavDevicePtr device = deviceBySerial(kSerial);
+    CTavDevicePtr device = findDeviceBySerial(kSerial);
     return device ? m_form->getItemByDevice(device) : nullptr;
 }
 
@@ -98,8 +91,7 @@ bool TestDeviceListUnicast::addRemote(const QString& ip, bool whenIdle)
 
 void TestDeviceListUnicast::initTestCase()
 {
-    if (!qEnvironmentVariableIsEmpty("LUMIDOR_TEST_LOG"))
-        Tavlog4cpp::CTavLog::LoadDefault();
+    enableLogWhenAsked();
     m_name = QString("lumi%1").arg(::getpid());
     rig("down");
     QString error;
@@ -151,9 +143,9 @@ void TestDeviceListUnicast::cleanupTestCase()
 void TestDeviceListUnicast::foundOnlyByUnicastAndKeptWhileAnswering()
 {
     // Broadcast discovery does not reach it.
-    QVERIFY(rediscover());
-    QVERIFY(rediscover());
-    QVERIFY(!deviceBySerial(kSerial));
+    QVERIFY(rediscoverWhenIdle());
+    QVERIFY(rediscoverWhenIdle());
+    QVERIFY(!findDeviceBySerial(kSerial));
 
     // Asked for while another pass is under way: the probe waits its turn
     // rather than being lost.
@@ -185,7 +177,7 @@ void TestDeviceListUnicast::foundOnlyByUnicastAndKeptWhileAnswering()
     m_form->on_reflesh_clicked();
     QVERIFY(finished.wait(20000));
     QVERIFY(!remoteItem());
-    QVERIFY(!deviceBySerial(kSerial));
+    QVERIFY(!findDeviceBySerial(kSerial));
     QVERIFY(CDiscoveryDevicesThread::getInstance()->unicastAddresses().isEmpty());
     QVERIFY(answerer.texts.isEmpty());
 }
