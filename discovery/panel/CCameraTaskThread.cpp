@@ -17,7 +17,9 @@ CCameraTaskThread::CCameraTaskThread(const char* name, QObject* parent) : CJobQu
 CCameraTaskThread::~CCameraTaskThread()
 {
     // A task under way emits on this object: it must end before this part
-    // of the object goes.
+    // of the object goes. The wait is bounded for a retired worker, which is
+    // deleted only once it has finished; an owner that deletes it directly
+    // (tests) waits for the task under way.
     stop(true);
     wait();
     --g_live;

@@ -200,6 +200,8 @@ void CDeviceListController::addRemoteCamera()
     if (dialog.exec() != QDialog::Accepted)
         return;
     config->RemoteIpAddr = dialog.getEditValue();
+    // A wait on this thread: the small user configuration file is written
+    // here, as every settings change writes it.
     config->saveConfigToUserXml();
     const QString ip = QString::fromStdString(IPIntToStr(IPStrToInt(dialog.getEditValue().toStdString())));
     emit remoteDiscoveryRequested();

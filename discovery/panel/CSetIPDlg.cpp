@@ -330,6 +330,7 @@ void CSetIPDlg::saveConfig()
 {
     CConfiguration* config = CConfiguration::getInstance();
     config->setPersistentIP = m_cbSetPersistentIP->isChecked();
+    // A wait on this thread: the small user configuration file is written here.
     if (!config->saveConfigToUserXml())
         messageBox(tr("Save Config failed."), this, QMessageBox::Ok, QMessageBox::Critical);
 }

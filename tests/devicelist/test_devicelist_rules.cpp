@@ -272,7 +272,8 @@ void TestDeviceListRules::cameraTasks()
     worker->run(&context, blocked, [&](bool ok, const QString&) { answers << QString("first %1").arg(ok); });
     worker->run(gone, []() { return true; }, [&](bool, const QString&) { answers << "gone"; });
     worker->run(&context, []() { return false; }, [&](bool ok, const QString&) {
-        answers << QString("third %1 %2").arg(ok).arg(QThread::currentThread() == qApp->thread());
+        const bool onThisThread = QThread::currentThread() == QCoreApplication::instance()->thread();
+        answers << QString("third %1 %2").arg(ok).arg(onThisThread);
     });
     delete gone;   // before its task ran
     release.release();
