@@ -7,13 +7,13 @@
 #include <QFileInfo>
 #include <QMetaType>
 #include <QMutex>
-#include <QSaveFile>
 #include <QSettings>
 
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "CAtomicFileWriter.h"
 #include "CConfigKeyTable.h"
 #include "CConfigXml.h"
 #include "Tavlog4cpp/TavLogMacros.h"
@@ -118,34 +118,30 @@ void CConfiguration::createConfigDir(const QString& path)
 
 bool CConfiguration::saveConfig(const QString& path)
 {
+    m_lastSaveError.clear();
     if (!path.isEmpty())
         createConfigDir(path);
 
     QBuffer buffer;
     if (!buffer.open(QIODevice::ReadWrite)) {
+        m_lastSaveError = buffer.errorString();
         TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "open config file buffer failed.");
         return false;
     }
     CConfigXml::writeDocument(*this, buffer);
 
-    // Written beside the file and renamed over it only when complete: a full
-    // disk or a crash leaves the previous file as it was.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    // Replaced whole or not at all: a full disk or a crash leaves the
+    // previous file as it was.
+    CAtomicFileWriter file(path);
+    if (!file.open()) {
+        m_lastSaveError = file.errorString();
         TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "open file error. path: [%s]", path.toLocal8Bit().constData());
         return false;
     }
-    const QByteArray& bytes = buffer.data();
-    if (file.write(bytes) != bytes.size()) {
+    if (!file.write(buffer.data()) || !file.commit()) {
+        m_lastSaveError = file.errorString();
         TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "write config file failed, previous file kept. path: [%s] [%s]",
-                   path.toLocal8Bit().constData(), file.errorString().toLocal8Bit().constData());
-        file.cancelWriting();
-        file.commit();
-        return false;
-    }
-    if (!file.commit()) {
-        TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "write config file failed, previous file kept. path: [%s] [%s]",
-                   path.toLocal8Bit().constData(), file.errorString().toLocal8Bit().constData());
+                   path.toLocal8Bit().constData(), m_lastSaveError.toLocal8Bit().constData());
         return false;
     }
     return true;

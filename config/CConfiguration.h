@@ -38,6 +38,9 @@ public:
     void saveConfig(QXmlStreamWriter& writer);
     bool restoreConfig(const QString& path, bool withRoi);
     bool saveConfigToUserXml();
+    // The system's reason the last saveConfig() failed ("No space left on
+    // device"); empty after one that succeeded.
+    QString lastSaveError() const { return m_lastSaveError; }
     bool hasLumidorElement(const QString& path);
     // True for an existing regular file; anything else at the path (a FIFO,
     // a device, a directory) is logged as ignored and false returned.
@@ -158,4 +161,5 @@ private:
     QString m_userCfgPath;
     QString m_defaultCfgPath;
     QString m_languageIniPath;
+    QString m_lastSaveError;
 };
