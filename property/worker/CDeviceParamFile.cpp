@@ -75,13 +75,6 @@ QByteArray CDeviceParamFile::toText() const
     return text.toUtf8();
 }
 
-namespace {
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("CDeviceParamFile", text);
-}
-}
-
 CDeviceParamFile CDeviceParamFile::parse(const QByteArray& bytes)
 {
     static const QRegularExpression nameRx(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));

@@ -23,6 +23,7 @@
 // with '#' are comments; "# Key=Value" comments of the header carry the
 // camera that wrote the file. A tab may stand for '=' (files of other tools).
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QList>
 #include <QPair>
 #include <QString>
@@ -42,6 +43,8 @@ struct SParamEntry
 
 class CDeviceParamFile
 {
+    Q_DECLARE_TR_FUNCTIONS(CDeviceParamFile)
+
 public:
     // The header line without its version number, and the version written.
     static const char* magicPrefix() { return "# Lumidor device parameter file "; }

@@ -11,39 +11,35 @@
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("CRegularFile", text);
-}
-
 // What a file that is not regular is, for the message.
 QString kindOf(mode_t mode)
 {
     if (S_ISFIFO(mode))
-        return tr("a FIFO (named pipe)");
+        return CRegularFile::tr("a FIFO (named pipe)");
     if (S_ISDIR(mode))
-        return tr("a directory");
+        return CRegularFile::tr("a directory");
     if (S_ISCHR(mode) || S_ISBLK(mode))
-        return tr("a device");
+        return CRegularFile::tr("a device");
     if (S_ISSOCK(mode))
-        return tr("a socket");
-    return tr("a special file");
+        return CRegularFile::tr("a socket");
+    return CRegularFile::tr("a special file");
 }
 
 QString notRegular(const QString& path, mode_t mode, bool viaLink)
 {
-    return viaLink ? tr("%1 is a link to %2, not to a regular file.").arg(CRegularFile::shown(path), kindOf(mode))
-                   : tr("%1 is %2, not a regular file.").arg(CRegularFile::shown(path), kindOf(mode));
+    const QString text = viaLink ? CRegularFile::tr("%1 is a link to %2, not to a regular file.")
+                                 : CRegularFile::tr("%1 is %2, not a regular file.");
+    return text.arg(CRegularFile::shown(path), kindOf(mode));
 }
 
 QString systemError(const char* what, const QString& path, int err)
 {
-    return tr(what).arg(CRegularFile::shown(path), qt_error_string(err));
+    return CRegularFile::tr(what).arg(CRegularFile::shown(path), qt_error_string(err));
 }
 
 QString tooLarge(const QString& path, qint64 size, qint64 limit)
 {
-    return tr("%1 is too large (%2 bytes); files over %3 MB are refused.")
+    return CRegularFile::tr("%1 is too large (%2 bytes); files over %3 MB are refused.")
         .arg(CRegularFile::shown(path))
         .arg(size)
         .arg(limit / (1024 * 1024));

@@ -7,11 +7,14 @@
 // stop at a size limit and never hold more than the limit plus one chunk.
 // Every message names the file. Blocking disk I/O: workers only.
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 #include <functional>
 
 class CRegularFile
 {
+    Q_DECLARE_TR_FUNCTIONS(CRegularFile)
+
 public:
     // Bytes read at a time.
     static const int kChunk = 64 * 1024;
