@@ -60,6 +60,20 @@ CParamFileThread* CParamFileController::current() const
     return m_save;
 }
 
+template <class Sender, class Owner, class... Args>
+void CParamFileController::hear(Sender* worker, void (Owner::*signal)(Args...),
+                                void (CParamFileController::*handler)(Args...))
+{
+    const quint64 run = m_run;
+    connect(
+        worker, signal, this,
+        [this, run, handler](Args... args) {
+            if (run == m_run)
+                (this->*handler)(args...);
+        },
+        Qt::QueuedConnection);
+}
+
 void CParamFileController::drop()
 {
     if (CParamFileThread* t = current())
@@ -67,6 +81,7 @@ void CParamFileController::drop()
         disconnect(t, nullptr, this, nullptr);
         t->retire();
     }
+    ++m_run;
     m_load = nullptr;
     m_save = nullptr;
 }
@@ -144,11 +159,10 @@ bool CParamFileController::loadFile(const QString& key, const QString& path)
         return false;
     LOG_DEBUG("load parameter file [%s] into [%s]", path.toLocal8Bit().constData(), key.toLocal8Bit().constData());
     m_load = new CParamFileLoadThread(key, path, m_env, m_reportPath, this);
-    connect(m_load, &CParamFileLoadThread::needConnect, this, &CParamFileController::onNeedConnect,
-            Qt::QueuedConnection);
-    connect(m_load, &CParamFileLoadThread::damaged, this, &CParamFileController::onDamaged, Qt::QueuedConnection);
-    connect(m_load, &CParamFileLoadThread::loadFinished, this, &CParamFileController::onLoadFinished,
-            Qt::QueuedConnection);
+    ++m_run;
+    hear(m_load, &CParamFileLoadThread::needConnect, &CParamFileController::onNeedConnect);
+    hear(m_load, &CParamFileLoadThread::damaged, &CParamFileController::onDamaged);
+    hear(m_load, &CParamFileLoadThread::loadFinished, &CParamFileController::onLoadFinished);
     begin(m_load, key, tr("Open Config"), tr("Loading parameters..."));
     return true;
 }
@@ -165,8 +179,8 @@ bool CParamFileController::saveFile(const QString& key, const QString& path)
     }
     LOG_DEBUG("save parameter file [%s] from [%s]", path.toLocal8Bit().constData(), key.toLocal8Bit().constData());
     m_save = new CParamFileSaveThread(device, path, this);
-    connect(m_save, &CParamFileSaveThread::saveFinished, this, &CParamFileController::onSaveFinished,
-            Qt::QueuedConnection);
+    ++m_run;
+    hear(m_save, &CParamFileSaveThread::saveFinished, &CParamFileController::onSaveFinished);
     begin(m_save, key, tr("Save Config"), tr("Saving parameters..."));
     return true;
 }
@@ -175,7 +189,7 @@ void CParamFileController::begin(CParamFileThread* worker, const QString& key, c
                                  const QString& text)
 {
     m_busyKey = key;
-    connect(worker, &CParamFileThread::progress, this, &CParamFileController::onProgress, Qt::QueuedConnection);
+    hear(worker, &CParamFileThread::progress, &CParamFileController::onProgress);
     showWait(title, text);
     worker->begin();
 }
@@ -186,6 +200,7 @@ QString CParamFileController::finish(CParamFileThread* worker)
     // It has nothing more to say; it goes once its last lines are out.
     if (worker)
         worker->retire();
+    ++m_run;
     closeWait();
     return path;
 }
@@ -212,16 +227,12 @@ void CParamFileController::closeWait()
 
 void CParamFileController::onProgress(int done, int total)
 {
-    if (sender() != current())
-        return;
     if (m_wait && total > 0)
         m_wait->setText(tr("%1\n%2 of %3 features").arg(m_waitText).arg(done).arg(total));
 }
 
 void CParamFileController::onNeedConnect(QString key)
 {
-    if (sender() != m_load)
-        return;
     if (const CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key))
         if (!device->isConnected() && !device->isConnecting())
             device->openDevice(false);
@@ -259,8 +270,6 @@ void CParamFileController::onWaitCancelled()
 
 void CParamFileController::onDamaged(QString why, int values)
 {
-    if (sender() != m_load)
-        return;
     const QPointer<CParamFileController> self(this);
     m_asking = true;
     const bool loadAnyway = ask(tr("%1\nLoad the %2 complete values it still holds anyway?").arg(why).arg(values));
@@ -279,8 +288,6 @@ void CParamFileController::onDamaged(QString why, int values)
 
 void CParamFileController::onLoadFinished(int result, int loaded, int total, QString message, QString reportError)
 {
-    if (sender() != m_load)
-        return;
     const QString report = reportError.isEmpty() ? m_load->reportPath() : QString();
     const QString path = finish(m_load);
     m_load = nullptr;
@@ -313,8 +320,6 @@ void CParamFileController::onLoadFinished(int result, int loaded, int total, QSt
 
 void CParamFileController::onSaveFinished(bool ok, QString message, int count)
 {
-    if (sender() != m_save)
-        return;
     const QString path = finish(m_save);
     m_save = nullptr;
     if (ok)

@@ -63,22 +63,29 @@ signals:
 
 private slots:
     void OnUpdateReceive(CTavMessagePtr msg);
+    // The user closed the wait dialog.
+    void onWaitCancelled();
+
+private:
+    // What the current worker reports (see hear()).
     void onNeedConnect(QString key);
     void onProgress(int done, int total);
     void onDamaged(QString why, int values);
     void onLoadFinished(int result, int loaded, int total, QString message, QString reportError);
     void onSaveFinished(bool ok, QString message, int count);
-    // The user closed the wait dialog.
-    void onWaitCancelled();
+    // Connects a worker's signal, queued, to handler for as long as that
+    // worker is the current one: a worker dropped or done is not heard,
+    // even for what it had sent before.
+    template <class Sender, class Owner, class... Args>
+    void hear(Sender* worker, void (Owner::*signal)(Args...), void (CParamFileController::*handler)(Args...));
 
-private:
     bool refuseWhileBusy();
     // The worker under way (load or save), or null.
     CParamFileThread* current() const;
     // Forgets the current worker without its result: it is retired, and
     // what it still sends is not heard.
     void drop();
-    // Runs the worker for the device behind the wait dialog.
+    // Runs the worker (its own signals already heard) behind the wait dialog.
     void begin(CParamFileThread* worker, const QString& key, const QString& title, const QString& text);
     // The worker is done: it goes (the caller forgets it), the wait dialog
     // closes. Returns its file.
@@ -100,6 +107,8 @@ private:
     CParamFileLoadThread* m_load = nullptr;
     CParamFileSaveThread* m_save = nullptr;
     QString m_busyKey;
+    // Counts the workers started and let go; hear() compares it.
+    quint64 m_run = 0;
     // The user is being asked whether to load a damaged file.
     bool m_asking = false;
     QString m_waitText;
