@@ -13,8 +13,12 @@
 // The last line is the end marker: it counts the lines before it. A file
 // of version 2 that does not end with a marker whose count matches, or that
 // goes on after it, is damaged (cut short, or joined to something else);
-// only the line feed after the marker may be missing. Files of version 1
-// were written before the marker existed and load without one.
+// only the line feed after the marker may be missing. So is an empty file,
+// or one that ends inside our header line. Of a damaged file only complete
+// lines count: a last line without its line feed may have lost the end of
+// its value and is never taken. Files of version 1 were written before the
+// marker existed and load without one; the count allows line ends of
+// another system (CR LF) and hand-edited values.
 //
 // A feature that selectors choose between gets one line per combination of
 // selector values, the selectors named in brackets. Values are the text
