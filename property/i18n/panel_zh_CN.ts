@@ -245,6 +245,53 @@
     </message>
 </context>
 <context>
+    <name>CRegularFile</name>
+    <message>
+        <source>a FIFO (named pipe)</source>
+        <translation>FIFO（命名管道）</translation>
+    </message>
+    <message>
+        <source>a directory</source>
+        <translation>目录</translation>
+    </message>
+    <message>
+        <source>a device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>a socket</source>
+        <translation>套接字</translation>
+    </message>
+    <message>
+        <source>a special file</source>
+        <translation>特殊文件</translation>
+    </message>
+    <message>
+        <source>%1 is a link to %2, not to a regular file.</source>
+        <translation>%1 是指向%2的链接，而不是指向普通文件。</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not a regular file.</source>
+        <translation>%1 是%2，不是普通文件。</translation>
+    </message>
+    <message>
+        <source>%1 is too large (%2 bytes); files over %3 MB are refused.</source>
+        <translation>%1 过大（%2 字节）；超过 %3 MB 的文件不予读取。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: %2</source>
+        <translation>无法使用 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>无法打开 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>CDeviceParamFile</name>
     <message>
         <source>line %1: no &quot;name=value&quot; pair</source>
@@ -253,6 +300,34 @@
     <message>
         <source>line %1: &quot;%2&quot; is not a feature name</source>
         <translation>第 %1 行：“%2”不是属性名</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>it goes on after its end marker (line %1)</source>
+        <translation>结束标记之后还有内容（第 %1 行）</translation>
+    </message>
+    <message>
+        <source>it ends inside its first line</source>
+        <translation>文件在第一行中间就结束了</translation>
+    </message>
+    <message>
+        <source>its end marker counts %1 lines, but %2 come before it</source>
+        <translation>结束标记记录了 %1 行，但其前面有 %2 行</translation>
+    </message>
+    <message>
+        <source>it ends before its end marker, so it was cut short</source>
+        <translation>文件在结束标记之前就结束了，已被截断</translation>
+    </message>
+    <message>
+        <source>line %1: cut short, not loaded</source>
+        <translation>第 %1 行：已被截断，未加载</translation>
+    </message>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -293,8 +368,8 @@
         <translation>相机已断开。</translation>
     </message>
     <message>
-        <source>The file could not be written: %1</source>
-        <translation>无法写入文件：%1</translation>
+        <source>Saving was stopped.</source>
+        <translation>保存已停止。</translation>
     </message>
 </context>
 <context>
@@ -322,10 +397,6 @@
     <message>
         <source>The camera's features could not be read.</source>
         <translation>无法读取相机的属性。</translation>
-    </message>
-    <message>
-        <source>The camera was disconnected.</source>
-        <translation>相机已断开。</translation>
     </message>
     <message>
         <source>The file was saved from a %1 %2; this camera is a %3. Features that match are loaded.</source>
@@ -391,6 +462,30 @@
         <source>Lines not understood (%1):</source>
         <translation>无法识别的行（%1）：</translation>
     </message>
+    <message>
+        <source>The file %1 is damaged: %2.</source>
+        <translation>文件 %1 已损坏：%2。</translation>
+    </message>
+    <message>
+        <source>Nothing in it can be loaded.</source>
+        <translation>其中没有可加载的内容。</translation>
+    </message>
+    <message>
+        <source>The file is damaged: %1. Only the complete lines it holds were loaded, as chosen when asked.</source>
+        <translation>文件已损坏：%1。按询问时的选择，只加载了其中完整的行。</translation>
+    </message>
+    <message>
+        <source>The file carries no end marker (it was written before files had one), so a file cut short cannot be told from a whole one.</source>
+        <translation>文件没有结束标记（写入时文件还没有结束标记），因此无法区分被截断的文件与完整的文件。</translation>
+    </message>
+    <message>
+        <source>The file was damaged; only its complete lines were loaded.</source>
+        <translation>文件已损坏；只加载了其中完整的行。</translation>
+    </message>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
 </context>
 <context>
     <name>CParamFileController</name>
@@ -447,6 +542,24 @@
     <message>
         <source>Save Config failed. %1</source>
         <translation>保存配置失败。%1</translation>
+    </message>
+    <message>
+        <source>Load Config cancelled.</source>
+        <translation>加载配置已取消。</translation>
+    </message>
+    <message>
+        <source>Save Config cancelled; nothing was written to %1.</source>
+        <translation>保存配置已取消；未向 %1 写入任何内容。</translation>
+    </message>
+    <message>
+        <source>%1
+Load the %2 complete values it still holds anyway?</source>
+        <translation>%1
+仍然加载其中完整的 %2 个值吗？</translation>
+    </message>
+    <message>
+        <source>The load report was not written: %1</source>
+        <translation>加载报告未写入：%1</translation>
     </message>
 </context>
 </TS>

@@ -28,14 +28,7 @@ CParamFileController::~CParamFileController()
     // feature and deletes itself. Its report (a load ends as stopped, never
     // as loaded) is dropped with this controller's connections, so nothing
     // is announced and no device takes the file as its current one.
-    for (CParamFileThread* t : {static_cast<CParamFileThread*>(m_load), static_cast<CParamFileThread*>(m_save)})
-        if (t)
-        {
-            disconnect(t, nullptr, this, nullptr);
-            t->retire();
-        }
-    m_load = nullptr;
-    m_save = nullptr;
+    drop();
     delete m_wait;
 }
 
@@ -50,6 +43,47 @@ void CParamFileController::showMessage(const QString& text, QMessageBox::Icon ic
         m_messageHandler(text, icon, path);
     else
         messageBox(text, m_dialogParent, QMessageBox::Ok, icon, path);
+}
+
+bool CParamFileController::ask(const QString& text)
+{
+    if (m_questionHandler)
+        return m_questionHandler(text);
+    return messageBox(text, m_dialogParent, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Question) ==
+           QMessageBox::Ok;
+}
+
+CParamFileThread* CParamFileController::current() const
+{
+    if (m_load)
+        return m_load;
+    return m_save;
+}
+
+template <class Sender, class Owner, class... Args>
+void CParamFileController::hear(Sender* worker, void (Owner::*signal)(Args...),
+                                void (CParamFileController::*handler)(Args...))
+{
+    const quint64 run = m_run;
+    connect(
+        worker, signal, this,
+        [this, run, handler](Args... args) {
+            if (run == m_run)
+                (this->*handler)(args...);
+        },
+        Qt::QueuedConnection);
+}
+
+void CParamFileController::drop()
+{
+    if (CParamFileThread* t = current())
+    {
+        disconnect(t, nullptr, this, nullptr);
+        t->retire();
+    }
+    ++m_run;
+    m_load = nullptr;
+    m_save = nullptr;
 }
 
 bool CParamFileController::refuseWhileBusy()
@@ -125,10 +159,10 @@ bool CParamFileController::loadFile(const QString& key, const QString& path)
         return false;
     LOG_DEBUG("load parameter file [%s] into [%s]", path.toLocal8Bit().constData(), key.toLocal8Bit().constData());
     m_load = new CParamFileLoadThread(key, path, m_env, m_reportPath, this);
-    connect(m_load, &CParamFileLoadThread::needConnect, this, &CParamFileController::onNeedConnect,
-            Qt::QueuedConnection);
-    connect(m_load, &CParamFileLoadThread::loadFinished, this, &CParamFileController::onLoadFinished,
-            Qt::QueuedConnection);
+    ++m_run;
+    hear(m_load, &CParamFileLoadThread::needConnect, &CParamFileController::onNeedConnect);
+    hear(m_load, &CParamFileLoadThread::damaged, &CParamFileController::onDamaged);
+    hear(m_load, &CParamFileLoadThread::loadFinished, &CParamFileController::onLoadFinished);
     begin(m_load, key, tr("Open Config"), tr("Loading parameters..."));
     return true;
 }
@@ -145,8 +179,8 @@ bool CParamFileController::saveFile(const QString& key, const QString& path)
     }
     LOG_DEBUG("save parameter file [%s] from [%s]", path.toLocal8Bit().constData(), key.toLocal8Bit().constData());
     m_save = new CParamFileSaveThread(device, path, this);
-    connect(m_save, &CParamFileSaveThread::saveFinished, this, &CParamFileController::onSaveFinished,
-            Qt::QueuedConnection);
+    ++m_run;
+    hear(m_save, &CParamFileSaveThread::saveFinished, &CParamFileController::onSaveFinished);
     begin(m_save, key, tr("Save Config"), tr("Saving parameters..."));
     return true;
 }
@@ -155,7 +189,7 @@ void CParamFileController::begin(CParamFileThread* worker, const QString& key, c
                                  const QString& text)
 {
     m_busyKey = key;
-    connect(worker, &CParamFileThread::progress, this, &CParamFileController::onProgress, Qt::QueuedConnection);
+    hear(worker, &CParamFileThread::progress, &CParamFileController::onProgress);
     showWait(title, text);
     worker->begin();
 }
@@ -166,6 +200,7 @@ QString CParamFileController::finish(CParamFileThread* worker)
     // It has nothing more to say; it goes once its last lines are out.
     if (worker)
         worker->retire();
+    ++m_run;
     closeWait();
     return path;
 }
@@ -173,7 +208,11 @@ QString CParamFileController::finish(CParamFileThread* worker)
 void CParamFileController::showWait(const QString& title, const QString& text)
 {
     if (!m_wait)
+    {
         m_wait = new CWaitDlg(m_dialogParent);
+        m_wait->setCancellable(true);
+        connect(m_wait, &QDialog::rejected, this, &CParamFileController::onWaitCancelled);
+    }
     m_waitText = text;
     m_wait->setTitle(title);
     m_wait->setText(text);
@@ -199,27 +238,83 @@ void CParamFileController::onNeedConnect(QString key)
             device->openDevice(false);
 }
 
-void CParamFileController::onLoadFinished(int result, int loaded, int total, QString message)
+void CParamFileController::onWaitCancelled()
 {
-    const QString report = m_load ? m_load->reportPath() : QString();
+    CParamFileThread* worker = current();
+    if (!worker)
+        return;
+    if (!worker->cancel())
+    {
+        // Too late: the file is being put in place or the result is on its
+        // way; the wait goes on until it arrives.
+        m_wait->open();
+        return;
+    }
+    const bool load = worker == m_load;
+    const QString path = worker->path();
+    drop();
+    closeWait();
+    LOG_DEBUG("parameter file [%s] cancelled", path.toLocal8Bit().constData());
+    if (load)
+    {
+        showMessage(tr("Load Config cancelled."), QMessageBox::Information);
+        emit loadDone(CParamFileLoadThread::resultCancelled, 0, 0);
+    }
+    else
+    {
+        showMessage(tr("Save Config cancelled; nothing was written to %1.").arg(QDir::toNativeSeparators(path)),
+                    QMessageBox::Information);
+        emit saveDone(false, 0);
+    }
+}
+
+void CParamFileController::onDamaged(QString why, int values)
+{
+    const QPointer<CParamFileController> self(this);
+    m_asking = true;
+    const bool loadAnyway = ask(tr("%1\nLoad the %2 complete values it still holds anyway?").arg(why).arg(values));
+    if (!self)
+        return;
+    m_asking = false;
+    if (!m_load)
+        return;
+    if (loadAnyway && m_load->loadAnyway())
+        return;
+    // Nothing of the file is applied.
+    drop();
+    closeWait();
+    emit loadDone(CParamFileLoadThread::resultCancelled, 0, values);
+}
+
+void CParamFileController::onLoadFinished(int result, int loaded, int total, QString message, QString reportError)
+{
+    const QString report = reportError.isEmpty() ? m_load->reportPath() : QString();
     const QString path = finish(m_load);
     m_load = nullptr;
     if (const CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(m_busyKey))
         if (result == CParamFileLoadThread::resultLoaded || result == CParamFileLoadThread::resultPartial)
             device->setCurFile(path);
+    QString text;
+    QMessageBox::Icon icon = QMessageBox::Critical;
     switch (result)
     {
     case CParamFileLoadThread::resultLoaded:
-        showMessage(tr("Load Config success! %1 features loaded.").arg(loaded), QMessageBox::Information, report);
+        text = tr("Load Config success! %1 features loaded.").arg(loaded);
+        icon = QMessageBox::Information;
         break;
     case CParamFileLoadThread::resultPartial:
-        showMessage(tr("%1 of %2 features were loaded. The report lists the others and why.").arg(loaded).arg(total),
-                    QMessageBox::Warning, report);
+        text = tr("%1 of %2 features were loaded. The report lists the others and why.").arg(loaded).arg(total);
+        if (!message.isEmpty())
+            text += QLatin1Char('\n') + message;
+        icon = QMessageBox::Warning;
         break;
     default:
-        showMessage(tr("Load Config failed. %1").arg(message), QMessageBox::Critical, report);
+        text = tr("Load Config failed. %1").arg(message);
         break;
     }
+    if (!reportError.isEmpty())
+        text += QLatin1Char('\n') + tr("The load report was not written: %1").arg(reportError);
+    showMessage(text, icon, report);
     emit loadDone(result, loaded, total);
 }
 
@@ -252,8 +347,9 @@ void CParamFileController::OnUpdateReceive(CTavMessagePtr msg)
         if (m_save)
             m_save->stop();
         // A load waiting for its connection must not see the disconnect of a
-        // previous session as its own; a load under way stops.
-        if (m_load && msg->device->isConnected() == false && !msg->device->isConnecting())
+        // previous session as its own; a load under way stops. A load whose
+        // damaged file is being asked about has not touched the camera yet.
+        if (m_load && !m_asking && msg->device->isConnected() == false && !msg->device->isConnecting())
             m_load->stop();
     }
 }

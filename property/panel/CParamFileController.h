@@ -2,8 +2,11 @@
 // "Open Config" and "Save Config" of the device list: asks for the file,
 // runs the parameter-file worker behind a wait dialog with its progress,
 // and tells the user how it went (a load offers its report). One file at a
-// time. The main window connects the device list's signals to
-// onOpenConfig/onSaveConfig; openConfig/saveConfig take the device key.
+// time. The wait dialog can be cancelled: the worker is retired (it stops at
+// its next step and reports nothing) and the next file can be opened or
+// saved at once. A damaged file is only loaded when the user says so. The
+// main window connects the device list's signals to onOpenConfig/
+// onSaveConfig; openConfig/saveConfig take the device key.
 #include <QMessageBox>
 #include <QObject>
 #include <QPointer>
@@ -26,6 +29,8 @@ public:
     using FileChooser = std::function<QString(bool save, const QString& suggestion)>;
     // path: a file the message offers to open (the load report), or empty.
     using MessageHandler = std::function<void(const QString& text, QMessageBox::Icon icon, const QString& path)>;
+    // A question with OK and Cancel; true for OK.
+    using QuestionHandler = std::function<bool(const QString& text)>;
 
     explicit CParamFileController(QWidget* dialogParent, QObject* parent = nullptr);
     ~CParamFileController() override;
@@ -34,6 +39,7 @@ public:
 
     void setFileChooser(const FileChooser& chooser) { m_chooser = chooser; }
     void setMessageHandler(const MessageHandler& handler) { m_messageHandler = handler; }
+    void setQuestionHandler(const QuestionHandler& handler) { m_questionHandler = handler; }
     void setEnvironment(const SParamFileEnv& env) { m_env = env; }
     void setReportPath(const QString& path) { m_reportPath = path; }
 
@@ -57,14 +63,29 @@ signals:
 
 private slots:
     void OnUpdateReceive(CTavMessagePtr msg);
-    void onNeedConnect(QString key);
-    void onProgress(int done, int total);
-    void onLoadFinished(int result, int loaded, int total, QString message);
-    void onSaveFinished(bool ok, QString message, int count);
+    // The user closed the wait dialog.
+    void onWaitCancelled();
 
 private:
+    // What the current worker reports (see hear()).
+    void onNeedConnect(QString key);
+    void onProgress(int done, int total);
+    void onDamaged(QString why, int values);
+    void onLoadFinished(int result, int loaded, int total, QString message, QString reportError);
+    void onSaveFinished(bool ok, QString message, int count);
+    // Connects a worker's signal, queued, to handler for as long as that
+    // worker is the current one: a worker dropped or done is not heard,
+    // even for what it had sent before.
+    template <class Sender, class Owner, class... Args>
+    void hear(Sender* worker, void (Owner::*signal)(Args...), void (CParamFileController::*handler)(Args...));
+
     bool refuseWhileBusy();
-    // Runs the worker for the device behind the wait dialog.
+    // The worker under way (load or save), or null.
+    CParamFileThread* current() const;
+    // Forgets the current worker without its result: it is retired, and
+    // what it still sends is not heard.
+    void drop();
+    // Runs the worker (its own signals already heard) behind the wait dialog.
     void begin(CParamFileThread* worker, const QString& key, const QString& title, const QString& text);
     // The worker is done: it goes (the caller forgets it), the wait dialog
     // closes. Returns its file.
@@ -72,6 +93,7 @@ private:
     void showWait(const QString& title, const QString& text);
     void closeWait();
     void showMessage(const QString& text, QMessageBox::Icon icon, const QString& path = QString());
+    bool ask(const QString& text);
     QString chooseFile(bool save, const QString& key);
     // Asks for the file, then saves or loads it.
     void chooseAndRun(bool save, const QString& key);
@@ -79,11 +101,16 @@ private:
     QPointer<QWidget> m_dialogParent;
     FileChooser m_chooser;
     MessageHandler m_messageHandler;
+    QuestionHandler m_questionHandler;
     SParamFileEnv m_env;
     QString m_reportPath;
     CParamFileLoadThread* m_load = nullptr;
     CParamFileSaveThread* m_save = nullptr;
     QString m_busyKey;
+    // Counts the workers started and let go; hear() compares it.
+    quint64 m_run = 0;
+    // The user is being asked whether to load a damaged file.
+    bool m_asking = false;
     QString m_waitText;
     CWaitDlg* m_wait = nullptr;
 };

@@ -3,7 +3,9 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
-#include <QSaveFile>
+
+#include "CAtomicFileWriter.h"
+#include "CRegularFile.h"
 
 QString SParamEntry::key() const
 {
@@ -53,9 +55,14 @@ QString CDeviceParamFile::unescape(const QString& text)
     return out;
 }
 
+QByteArray CDeviceParamFile::magic(int version)
+{
+    return magicPrefix() + QByteArray::number(version);
+}
+
 QByteArray CDeviceParamFile::toText() const
 {
-    QString text = QLatin1String(magic()) + QLatin1Char('\n');
+    QString text = QString::fromLatin1(magic()) + QLatin1Char('\n');
     const QPair<const char*, QString> header[] = {
         {"Vendor", vendor}, {"Model", model}, {"Serial", serial}, {"Saved", saved}};
     for (const auto& h : header)
@@ -63,6 +70,8 @@ QByteArray CDeviceParamFile::toText() const
             text += QStringLiteral("# %1=%2\n").arg(QLatin1String(h.first), escape(h.second));
     for (const SParamEntry& e : entries)
         text += e.key() + QLatin1Char('=') + escape(e.value) + QLatin1Char('\n');
+    // Values are escaped, so every line feed ends a line.
+    text += QStringLiteral("# End: %1 lines\n").arg(text.count(QLatin1Char('\n')));
     return text.toUtf8();
 }
 
@@ -70,28 +79,66 @@ CDeviceParamFile CDeviceParamFile::parse(const QByteArray& bytes)
 {
     static const QRegularExpression nameRx(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
     static const QRegularExpression headerRx(QStringLiteral("^#\\s*(Vendor|Model|Serial|Saved)=(.*)$"));
+    static const QRegularExpression magicRx(QStringLiteral("^# Lumidor device parameter file ([0-9]+)$"));
+    static const QRegularExpression endRx(QStringLiteral("^# End: ([0-9]+) lines$"));
     CDeviceParamFile file;
-    const QStringList lines = QString::fromUtf8(bytes).split(QLatin1Char('\n'));
+    if (bytes.trimmed().isEmpty())
+    {
+        file.damage = tr("the file is empty");
+        return file;
+    }
+    QStringList lines = QString::fromUtf8(bytes).split(QLatin1Char('\n'));
+    // What follows the last line feed: nothing, or a line that was not ended.
+    const bool lastUnended = !lines.last().isEmpty();
+    if (!lastUnended)
+        lines.removeLast();
     bool firstContent = true;
+    bool markerSeen = false;
+    bool lastEntryUnended = false;
     for (int i = 0; i < lines.size(); ++i)
     {
         QString line = lines.at(i);
         if (line.endsWith(QLatin1Char('\r')))
             line.chop(1);
         const int lineNo = i + 1;
+        const bool unended = lastUnended && i == lines.size() - 1;
         if (line.trimmed().isEmpty())
             continue;
+        if (markerSeen)
+        {
+            if (file.damage.isEmpty())
+                file.damage = tr("it goes on after its end marker (line %1)").arg(lineNo);
+            continue;
+        }
         if (firstContent)
         {
             firstContent = false;
-            if (line.trimmed() == QLatin1String(magic()))
+            const QRegularExpressionMatch m = magicRx.match(line.trimmed());
+            if (m.hasMatch())
             {
-                file.hasHeader = true;
+                file.version = qMax(1, m.captured(1).toInt());
+                continue;
+            }
+            // Our header cut short: nothing after it made it into the file.
+            if (unended && QString::fromLatin1(magicPrefix()).startsWith(line.trimmed()))
+            {
+                file.damage = tr("it ends inside its first line");
                 continue;
             }
         }
         if (line.startsWith(QLatin1Char('#')))
         {
+            const QRegularExpressionMatch end = endRx.match(line.trimmed());
+            if (end.hasMatch())
+            {
+                markerSeen = true;
+                // Every line before the marker counts, blank ones too.
+                const int counted = end.captured(1).toInt();
+                file.hasEndMarker = counted == i;
+                if (!file.hasEndMarker && file.damage.isEmpty())
+                    file.damage = tr("its end marker counts %1 lines, but %2 come before it").arg(counted).arg(i);
+                continue;
+            }
             const QRegularExpressionMatch m = headerRx.match(line);
             if (m.hasMatch())
             {
@@ -123,8 +170,7 @@ CDeviceParamFile CDeviceParamFile::parse(const QByteArray& bytes)
         }
         if (split <= 0)
         {
-            file.problems.append(QCoreApplication::translate("CDeviceParamFile", "line %1: no \"name=value\" pair")
-                                     .arg(lineNo));
+            file.problems.append(tr("line %1: no \"name=value\" pair").arg(lineNo));
             continue;
         }
         SParamEntry entry;
@@ -154,41 +200,42 @@ CDeviceParamFile CDeviceParamFile::parse(const QByteArray& bytes)
         entry.name = key;
         if (!ok || !nameRx.match(key).hasMatch())
         {
-            file.problems.append(QCoreApplication::translate("CDeviceParamFile", "line %1: \"%2\" is not a feature name")
-                                     .arg(lineNo)
-                                     .arg(line.left(split).trimmed()));
+            file.problems.append(tr("line %1: \"%2\" is not a feature name").arg(lineNo).arg(line.left(split).trimmed()));
             continue;
         }
         file.entries.append(entry);
+        lastEntryUnended = unended;
+    }
+    if (file.damage.isEmpty() && file.version >= 2 && !markerSeen)
+        file.damage = tr("it ends before its end marker, so it was cut short");
+    // In a damaged file a line without its line feed may have lost the end
+    // of its value (10000 cut to 10): it is never loaded.
+    if (!file.damage.isEmpty() && lastEntryUnended)
+    {
+        file.problems.append(tr("line %1: cut short, not loaded").arg(file.entries.last().line));
+        file.entries.removeLast();
     }
     return file;
 }
 
 bool CDeviceParamFile::save(const QString& path, QString& error) const
 {
-    QSaveFile out(path);
-    if (!out.open(QIODevice::WriteOnly))
-    {
-        error = out.errorString();
+    error = CRegularFile::check(path, true);
+    if (!error.isEmpty())
         return false;
-    }
-    const QByteArray text = toText();
-    if (out.write(text) != text.size() || !out.commit())
-    {
-        error = out.errorString();
-        return false;
-    }
-    return true;
+    CAtomicFileWriter out(path);
+    if (out.open() && out.write(toText()) && out.commit())
+        return true;
+    error = tr("%1 could not be written: %2").arg(CRegularFile::shown(path), out.errorString());
+    return false;
 }
 
-bool CDeviceParamFile::load(const QString& path, CDeviceParamFile& file, QString& error)
+bool CDeviceParamFile::load(const QString& path, CDeviceParamFile& file, QString& error,
+                            const std::function<bool()>& keepGoing)
 {
-    QFile in(path);
-    if (!in.open(QIODevice::ReadOnly))
-    {
-        error = in.errorString();
+    QByteArray bytes;
+    if (!CRegularFile::read(path, kMaxFileSize, bytes, error, keepGoing))
         return false;
-    }
-    file = parse(in.readAll());
+    file = parse(bytes);
     return true;
 }

@@ -5,6 +5,7 @@
 
 #include "CDeviceParamFile.h"
 #include "CParamFileNodeMap.h"
+#include "CRegularFile.h"
 #include "CTavDevice.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
@@ -40,15 +41,31 @@ CParamFileSaveThread::CParamFileSaveThread(CTavDevicePtr device, const QString& 
 {
 }
 
-void CParamFileSaveThread::work()
+bool CParamFileSaveThread::finish(bool ok, const QString& message, int count)
 {
+    // A cancelled save reports nothing.
+    if (commit())
+        emit saveFinished(ok, message, count);
+    return true;
+}
+
+QString CParamFileSaveThread::stopped() const
+{
+    return stopReason(m_device, tr("Saving was stopped."), tr("The camera was disconnected."));
+}
+
+bool CParamFileSaveThread::work()
+{
+    // A path that is no regular file is refused before the camera is read.
+    const QString refused = CRegularFile::check(m_path, true);
+    if (!refused.isEmpty())
+        return finish(false, refused, 0);
     if (!keepGoing(m_device))
-        return saveFinished(false, tr("The camera is not connected."), 0);
+        return finish(false, m_device && m_device->isConnected() ? stopped() : tr("The camera is not connected."), 0);
     const auto camera = m_device->getDevice();
     CParamFileNodeMap map(camera);
     if (!map.build([this]() { return keepGoing(m_device); }))
-        return saveFinished(false, keepGoing(m_device) ? tr("The camera's features could not be read.")
-                                                 : tr("The camera was disconnected."), 0);
+        return finish(false, keepGoing(m_device) ? tr("The camera's features could not be read.") : stopped(), 0);
 
     CDeviceParamFile file;
     file.vendor = QString::fromUtf8(camera->getVendorName().c_str());
@@ -90,7 +107,7 @@ void CParamFileSaveThread::work()
     for (const auto* n : plain)
     {
         if (!keepGoing(m_device))
-            return saveFinished(false, tr("The camera was disconnected."), 0);
+            return finish(false, stopped(), 0);
         QString value;
         if (map.isReadWrite(n->name) && map.readValue(n->name, value))
             file.entries.append({n->name, {}, value, 0});
@@ -110,7 +127,7 @@ void CParamFileSaveThread::work()
         for (const auto& combo : combinations(selectors, map))
         {
             if (!keepGoing(m_device))
-                return saveFinished(false, tr("The camera was disconnected."), 0);
+                return finish(false, stopped(), 0);
             bool selected = true;
             for (const auto& sv : combo)
             {
@@ -137,12 +154,16 @@ void CParamFileSaveThread::work()
         emit progress(done, total);
     }
 
+    // The point of no return: from here the file is written, or fails.
+    if (!commit())
+        return true;
     QString error;
     if (!file.save(m_path, error))
     {
-        LOG_ERROR("write parameter file failed. [%s] %s", m_path.toLocal8Bit().constData(),
-                  error.toLocal8Bit().constData());
-        return saveFinished(false, tr("The file could not be written: %1").arg(error), 0);
+        LOG_ERROR("write parameter file failed. %s", error.toLocal8Bit().constData());
+        emit saveFinished(false, error, 0);
+        return true;
     }
     emit saveFinished(true, QString(), file.entries.size());
+    return true;
 }
