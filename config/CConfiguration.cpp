@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMetaType>
-#include <QMutex>
 #include <QSaveFile>
 #include <QSettings>
 #include <QXmlStreamReader>
@@ -17,6 +16,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "CSingletonSlot.h"
 #include "ConfigKeys.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
@@ -169,40 +169,12 @@ QString homeDirectory()
 
 } // namespace
 
-namespace {
-QMutex g_instanceMutex;
-CConfiguration* g_instance = nullptr;
-bool g_shutDown = false;
-}
-
 CConfiguration* CConfiguration::getInstance()
 {
-    QMutexLocker locker(&g_instanceMutex);
-    if (!g_instance && !g_shutDown)
-        g_instance = new CConfiguration();
-    else if (!g_instance)
-        TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "configuration asked for after shutdown.");
-    return g_instance;
-}
-
-void CConfiguration::destroyInstance()
-{
-    CConfiguration* instance = nullptr;
-    {
-        QMutexLocker locker(&g_instanceMutex);
-        instance = g_instance;
-        g_instance = nullptr;
-    }
-    delete instance;
-}
-
-void CConfiguration::shutdownInstance()
-{
-    {
-        QMutexLocker locker(&g_instanceMutex);
-        g_shutDown = true;
-    }
-    destroyInstance();
+    CConfiguration* instance = CSingletonSlot<CConfiguration>::instance([]() { return new CConfiguration(); });
+    if (!instance)
+        TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "configuration asked for outside the application's lifetime.");
+    return instance;
 }
 
 CConfiguration::CConfiguration()

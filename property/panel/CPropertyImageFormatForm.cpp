@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "CTavDevice.h"
+#include "CViewSignalHub.h"
 
 namespace {
 qint64 snapDown(qint64 value, qint64 minimum, qint64 increment)
@@ -16,8 +17,8 @@ qint64 snapDown(qint64 value, qint64 minimum, qint64 increment)
 }
 }
 
-CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget* parent)
-    : CFeatureControlPage(device, "CPropertyImageFormatForm", parent)
+CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget* parent, CViewSignalHub* viewSignals)
+    : CFeatureControlPage(device, "CPropertyImageFormatForm", parent), m_viewSignals(viewSignals)
 {
     setObjectName(QStringLiteral("CPropertyImageFormatForm"));
     addSection(QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Region of Interest"));
@@ -45,9 +46,14 @@ CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget
     bottomLayout()->addLayout(buttons);
     connect(m_btnDraw, &QPushButton::toggled, this, &CPropertyImageFormatForm::onDrawToggled);
     connect(m_btnFull, &QPushButton::clicked, this, &CPropertyImageFormatForm::onFullFrame);
-    if (m_device)
-        connect(m_device.get(), &CTavDevice::ROIChanged, this, &CPropertyImageFormatForm::onROIChanged,
-                Qt::QueuedConnection);
+    if (m_device && m_viewSignals)
+        connect(
+            m_viewSignals, &CViewSignalHub::ROIChanged, this,
+            [this, key = m_device->getDeviceKey()](const QString& from, int x, int y, int width, int height) {
+                if (from == key)
+                    onROIChanged(x, y, width, height);
+            },
+            Qt::QueuedConnection);
     retranslateExtra();
     refresh();
 }
@@ -91,13 +97,17 @@ void CPropertyImageFormatForm::onDrawToggled(bool on)
         }
         m_bDrawing = true;
         const SFeatureState w = state(QStringLiteral("Width")), h = state(QStringLiteral("Height"));
-        emit m_device->signalInitROI(0, 0, int(w.intValue), int(h.intValue));
-        emit m_device->signalDrawROI(true);
+        if (m_viewSignals)
+        {
+            emit m_viewSignals->signalInitROI(m_device->getDeviceKey(), 0, 0, int(w.intValue), int(h.intValue));
+            emit m_viewSignals->signalDrawROI(m_device->getDeviceKey(), true);
+        }
     }
     else if (m_bDrawing)
     {
         m_bDrawing = false;
-        emit m_device->signalDrawROI(false);
+        if (m_viewSignals)
+            emit m_viewSignals->signalDrawROI(m_device->getDeviceKey(), false);
     }
 }
 
@@ -110,10 +120,10 @@ void CPropertyImageFormatForm::cancelROI()
         const QSignalBlocker b(m_btnDraw);
         m_btnDraw->setChecked(false);
     }
-    if (m_device)
+    if (m_device && m_viewSignals)
     {
-        emit m_device->signalCancelDrawROI();
-        emit m_device->signalDrawROI(false);
+        emit m_viewSignals->signalCancelDrawROI(m_device->getDeviceKey());
+        emit m_viewSignals->signalDrawROI(m_device->getDeviceKey(), false);
     }
 }
 
@@ -126,8 +136,8 @@ void CPropertyImageFormatForm::onROIChanged(int x, int y, int width, int height)
         const QSignalBlocker b(m_btnDraw);
         m_btnDraw->setChecked(false);
     }
-    if (m_device)
-        emit m_device->signalDrawROI(false);
+    if (m_device && m_viewSignals)
+        emit m_viewSignals->signalDrawROI(m_device->getDeviceKey(), false);
     if (width <= 0 || height <= 0)
         return;
     QString refusal;

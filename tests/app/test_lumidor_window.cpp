@@ -7,6 +7,7 @@
 #include <QtTest>
 #include <memory>
 
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDiscoveryDevicesForm.h"
@@ -38,6 +39,7 @@ private slots:
     void fourCamerasInTheWholeWindow();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     static const int kCameras = 4;
     FakeCameraRig m_rig;
     MainWindow* m_window = nullptr;
@@ -52,6 +54,7 @@ static QString serialOf(int i)
 
 void TestLumidorWindow::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     enableLogWhenAsked();
     registerMessageMetaTypes();
     for (int i = 0; i < kCameras; ++i) {
@@ -81,7 +84,7 @@ void TestLumidorWindow::cleanupTestCase()
     delete m_window;   // closes nothing by itself: the close test did that
     for (CTavDevicePtr& d : m_devices)
         d.reset();
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestLumidorWindow::fourCamerasInTheWholeWindow()

@@ -1,6 +1,7 @@
 #pragma once
 // Helpers of the device tests: a bus observer that records what it receives,
-// a queued frame counter, and the live thread count of the process.
+// a queued frame counter, waiting for a device to come to rest, and the live
+// thread count of the process.
 #include <QDir>
 #include <QList>
 #include <QMutex>
@@ -9,6 +10,7 @@
 #include <QtTest>
 
 #include "CDeviceManager.h"
+#include "CSingletonOwner.h"
 #include "CObserver.h"
 #include "CTavDevice.h"
 #include "Tavlog4cpp/CTavLog.h"
@@ -98,6 +100,25 @@ public slots:
         valid += (frame && frame->isHybridFrameValid()) ? 1 : 0;
     }
 };
+
+// Delivers what workers and the bus have queued for this thread so far: a
+// device signal reaches the manager, the manager's message the observers.
+inline void deliverQueued()
+{
+    for (int hop = 0; hop < 3; ++hop)
+        QCoreApplication::sendPostedEvents();
+}
+
+// Waits until the device's worker has run every request made so far and
+// delivers what it reported: afterwards no message of those requests is
+// still under way.
+inline bool settle(const CTavDevicePtr& device, int timeoutMs = 20000)
+{
+    if (!device->waitForWorker(timeoutMs))
+        return false;
+    deliverQueued();
+    return true;
+}
 
 // LUMIDOR_TEST_LOG=1 shows the application log on standard error.
 inline void enableLogWhenAsked()

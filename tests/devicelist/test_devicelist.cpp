@@ -16,8 +16,10 @@
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QtTest>
+#include <memory>
 
 #include "CCameraTask.h"
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "CDiscoveryButtonsForm.h"
 #include "CDiscoveryDevicesForm.h"
@@ -58,6 +60,7 @@ private slots:
     void vanishedCameraLeavesTree();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     QTreeWidgetItem* itemOf(int slot) const;
     CTavDevicePtr deviceOf(int slot) const { return deviceBySerial(m_serial[slot]); }
     bool waitListed(int slot);
@@ -89,6 +92,7 @@ bool TestDeviceList::waitIcon(int slot, int icon)
 
 void TestDeviceList::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     // LUMIDOR_TEST_LOG=1 shows the application log on standard error.
     if (!qEnvironmentVariableIsEmpty("LUMIDOR_TEST_LOG"))
         Tavlog4cpp::CTavLog::LoadDefault();
@@ -119,7 +123,7 @@ void TestDeviceList::cleanupTestCase()
     delete m_host;
     m_form = nullptr;
     QTRY_COMPARE_WITH_TIMEOUT(CCameraTask::running(), 0, 10000);
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestDeviceList::itemTypeHelpers()

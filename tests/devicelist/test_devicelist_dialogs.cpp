@@ -10,8 +10,10 @@
 #include <QTextCodec>
 #include <QTreeWidget>
 #include <QtTest>
+#include <memory>
 #include <random>
 
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "CDiscoveryDevicesForm.h"
 #include "CSetDevUserIDDlg.h"
@@ -77,6 +79,7 @@ private slots:
     void cameraGoneWhileDialogOpen();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     QTreeWidgetItem* responderItem() const;
 
     QWidget* m_host = nullptr;
@@ -92,6 +95,7 @@ QTreeWidgetItem* TestDeviceListDialogs::responderItem() const
 
 void TestDeviceListDialogs::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     if (!qEnvironmentVariableIsEmpty("LUMIDOR_TEST_LOG"))
         Tavlog4cpp::CTavLog::LoadDefault();
     // Lengths are counted in the local 8-bit encoding: make it UTF-8 whatever
@@ -115,7 +119,7 @@ void TestDeviceListDialogs::cleanupTestCase()
 {
     delete m_host;
     delete m_responder;
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestDeviceListDialogs::unicastDialogChecks()

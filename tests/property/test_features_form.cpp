@@ -13,10 +13,12 @@
 #include <QTextEdit>
 #include <QTreeWidget>
 #include <QtTest>
+#include <memory>
 
 #include "CAravisCamera.h"
 #include "CCommandParamDoneStatusThread.h"
 #include "CWriteParamThread.h"
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "CUpdateParamThread.h"
 #include "CDeviceManager.h"
@@ -61,6 +63,7 @@ private slots:
     void closingNeverWaitsForTheCamera();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     CPropertyFeaturesForm* newForm();
     QtProperty* row(const QString& name) const { return m_form->findProperty(name); }
     bool rowShown(const QString& name) const;
@@ -86,6 +89,7 @@ CPropertyFeaturesForm* TestFeaturesForm::newForm()
 
 void TestFeaturesForm::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     m_cam = m_rig.start("127.0.0.1", "LUMPROP1", std::string(), 320, 240, "Mono8");
     if (m_cam < 0)
         QFAIL("the simulated camera cannot start on 127.0.0.1 (run inside a network namespace with lo up)");
@@ -120,7 +124,7 @@ void TestFeaturesForm::cleanupTestCase()
     if (m_device)
         m_device->closeDevice(true);
     m_device.reset();
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestFeaturesForm::init()

@@ -14,8 +14,10 @@
 #include <QToolButton>
 #include <QPointer>
 #include <QtTest>
+#include <memory>
 
 #include "CAravisCamera.h"
+#include "CSingletonOwner.h"
 #include "CDeviceManager.h"
 #include "CFeatureControlWorker.h"
 #include "QueuedSignalSpy.h"
@@ -25,6 +27,7 @@
 #include "CPropertyFeaturesForm.h"
 #include "CPropertyForm.h"
 #include "CPropertyImageFormatForm.h"
+#include "CViewSignalHub.h"
 #include "CPropertySettingsForm.h"
 #include "CSaveFeaturesDlg.h"
 #include "CDoubleSpinBox.h"
@@ -66,6 +69,7 @@ private slots:
     void screenshots();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     CTavDevicePtr findDevice(const QString& serial);
     QString value(const CTavDevicePtr& device, const QString& name);
     bool write(const CTavDevicePtr& device, const QString& name, const QString& text);
@@ -109,6 +113,7 @@ SParamFileEnv TestPropertyPanel::readyEnv()
 
 void TestPropertyPanel::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     QVERIFY(m_dir.isValid());
     initLumidorResources();
     const char* addresses[2] = {"127.0.0.2", "127.0.0.3"};
@@ -142,7 +147,7 @@ void TestPropertyPanel::cleanupTestCase()
             d->closeDevice(true);
         d.reset();
     }
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestPropertyPanel::init()
@@ -178,6 +183,8 @@ void TestPropertyPanel::paramFileText()
 void TestPropertyPanel::panelPagesFollowTheBus()
 {
     CPropertyForm panel;
+    CViewSignalHub hub;
+    panel.setViewSignals(&hub);
     panel.resize(420, 700);
     panel.show();
     // No device: the empty page, no waiting animation.
@@ -208,7 +215,7 @@ void TestPropertyPanel::panelPagesFollowTheBus()
     QCOMPARE(panel.stack()->currentWidget(), static_cast<QWidget*>(panel.imageFormatPage(dev)));
     QVERIFY(!panel.findChild<QToolButton*>("btnfeatures")->isChecked());
     // Leaving the image-format tab ends a drawing in progress.
-    QSignalSpy cancelled(dev.get(), &CTavDevice::signalCancelDrawROI);
+    QSignalSpy cancelled(&hub, &CViewSignalHub::signalCancelDrawROI);
     panel.imageFormatPage(dev)->drawButton()->click();
     QVERIFY(panel.imageFormatPage(dev)->isDrawingROI());
     panel.findChild<QToolButton*>("btnSettings")->click();
@@ -366,7 +373,8 @@ void TestPropertyPanel::quickSettingsFollowTheCamera()
 void TestPropertyPanel::imageFormatRefusedWhileGrabbing()
 {
     const CTavDevicePtr dev = m_dev[0];
-    CPropertyImageFormatForm page(dev);
+    CViewSignalHub hub;
+    CPropertyImageFormatForm page(dev, nullptr, &hub);
     page.setMessageHandler([this](const QString& t) { m_shown.append({t, 0, QString()}); });
     QTRY_VERIFY_WITH_TIMEOUT(page.state("Width").valid, 5000);
     const QString before = value(dev, "Width");
@@ -386,11 +394,11 @@ void TestPropertyPanel::imageFormatRefusedWhileGrabbing()
     QTRY_VERIFY_WITH_TIMEOUT(!dev->isGrabing(), 5000);
     QTest::qWait(50);   // the stream messages of the bus reach the page first
     m_shown.clear();
-    QSignalSpy initRoi(dev.get(), &CTavDevice::signalInitROI);
+    QSignalSpy initRoi(&hub, &CViewSignalHub::signalInitROI);
     page.drawButton()->click();
     QVERIFY(page.isDrawingROI());
     QCOMPARE(initRoi.count(), 1);
-    emit dev->ROIChanged(11, 7, 101, 51);
+    emit hub.ROIChanged(dev->getDeviceKey(), 11, 7, 101, 51);
     // Offsets and sizes move down onto their grids (increment 2).
     QTRY_COMPARE_WITH_TIMEOUT(value(dev, "OffsetY"), QString("6"), 5000);
     QCOMPARE(value(dev, "OffsetX"), QString("10"));

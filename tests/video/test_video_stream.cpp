@@ -10,6 +10,7 @@
 
 #include "CConfiguration.h"
 #include "CDisplayCounter.h"
+#include "CSingletonOwner.h"
 #include "StreamRetrieveThread.h"
 #include "StreamStatistic.h"
 
@@ -72,6 +73,9 @@ private slots:
     void disabledDisplayStillSavesAndRecords();
     void chunkOnlyFrameIsIgnored();
     void unsupportedFormatSetsError();
+
+private:
+    CSingletonOwner m_owner;   // the configuration the stream threads read
 };
 
 void TestVideoStream::init()

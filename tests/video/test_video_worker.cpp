@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "CConfiguration.h"
+#include "CSingletonOwner.h"
 #include "FakeCameraRig.h"
 #include "Gliv/PixelFormats.h"
 #include "StreamRetrieveThread.h"
@@ -82,6 +83,7 @@ class TestVideoWorker : public QObject
     Q_OBJECT
 
 private:
+    CSingletonOwner m_owner;   // the configuration the stream threads read
     FakeCameraRig m_rig;
     QList<CInternalCameraPtr> m_cameras;
     QString m_error;

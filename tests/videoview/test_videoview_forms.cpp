@@ -16,6 +16,7 @@
 #include "CConfiguration.h"
 #include "CMultiVideoForm.h"
 #include "CRoiEditor.h"
+#include "CSingletonOwner.h"
 #include "CTavDevice.h"
 #include "CVideoControlBar.h"
 #include "CVideoForm.h"
@@ -85,6 +86,7 @@ private slots:
     void viewShowsPixelUnderCursorAndFollowsStream();
 
 private:
+    CSingletonOwner m_owner;   // first in, last out: the views and devices go before it
     std::unique_ptr<CVideoManagerForm> m_manager;
     QStringList m_messages;
     std::vector<CTavDevicePtr> m_devices;

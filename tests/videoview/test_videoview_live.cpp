@@ -7,6 +7,7 @@
 #include <QToolButton>
 #include <memory>
 
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CMultiVideoForm.h"
@@ -33,6 +34,7 @@ private slots:
     void fourCamerasStreamIntoTheirViews();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     static const int kCameras = 4;
     FakeCameraRig m_rig;
     std::unique_ptr<CVideoManagerForm> m_manager;
@@ -46,6 +48,7 @@ static QString serialOf(int i)
 
 void TestVideoviewLive::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     enableLogWhenAsked();
     registerMessageMetaTypes();
     for (int i = 0; i < kCameras; ++i) {
@@ -77,7 +80,7 @@ void TestVideoviewLive::cleanupTestCase()
     m_manager.reset();
     for (CTavDevicePtr& d : m_devices)
         d.reset();
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestVideoviewLive::fourCamerasStreamIntoTheirViews()
