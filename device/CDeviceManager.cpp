@@ -164,37 +164,31 @@ void CDeviceManager::on_discoveryDevicesFinished(bool ok)
     emit discoveryDevicesFinished();
 }
 
-void CDeviceManager::on_Device_Param_Update(const SParamUpdataArg arg, QString key)
+void CDeviceManager::publishEvent(EN_MESSAGE_TYPE type, const QString& key,
+                                  const std::function<void(CTavMessage&)>& fill)
 {
     CTavMessagePtr msg = Vorlen::Memory::makeShared<CTavMessage>();
-    msg->type = MSG_PARAM_UPDATE;
+    msg->type = type;
     msg->device = getDeviceByKey(key);
     if (!msg->device)
         return;
-    msg->paramUpdateArg = arg;
+    fill(*msg);
     m_subject.Notify(msg);
+}
+
+void CDeviceManager::on_Device_Param_Update(const SParamUpdataArg arg, QString key)
+{
+    publishEvent(MSG_PARAM_UPDATE, key, [&arg](CTavMessage& msg) { msg.paramUpdateArg = arg; });
 }
 
 void CDeviceManager::on_Device_Stream_Event(const SStreamArg arg, QString key)
 {
-    CTavMessagePtr msg = Vorlen::Memory::makeShared<CTavMessage>();
-    msg->type = MSG_STREAM_EVENT;
-    msg->device = getDeviceByKey(key);
-    if (!msg->device)
-        return;
-    msg->streamArg = arg;
-    m_subject.Notify(msg);
+    publishEvent(MSG_STREAM_EVENT, key, [&arg](CTavMessage& msg) { msg.streamArg = arg; });
 }
 
 void CDeviceManager::on_Device_Msg_Channel(const SMsgChannelArg arg, QString key)
 {
-    CTavMessagePtr msg = Vorlen::Memory::makeShared<CTavMessage>();
-    msg->type = MSG_MSG_CHANNEL;
-    msg->device = getDeviceByKey(key);
-    if (!msg->device)
-        return;
-    msg->msgChannelArg = arg;
-    m_subject.Notify(msg);
+    publishEvent(MSG_MSG_CHANNEL, key, [&arg](CTavMessage& msg) { msg.msgChannelArg = arg; });
 }
 
 void CDeviceManager::on_Device_Status_Changed(EN_MESSAGE_TYPE type, CTavDevicePtr device)

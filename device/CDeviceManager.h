@@ -6,6 +6,7 @@
 #include <QMutex>
 #include <QObject>
 #include <QString>
+#include <functional>
 
 #include "CSubject.h"
 #include "CTavMessage.h"
@@ -55,6 +56,9 @@ private:
 
     void connectDevice(const CTavDevicePtr& device);
     void disconnectDevice(const CTavDevicePtr& device);
+    // One message of a device event: the device of the key (none: nothing
+    // is published), the event's record filled in by fill.
+    void publishEvent(EN_MESSAGE_TYPE type, const QString& key, const std::function<void(CTavMessage&)>& fill);
 
     QMutex m_mapMutex;   // the disconnect-all worker reads the map too
     QMap<QString, CTavDevicePtr> m_mapDevices;

@@ -37,7 +37,9 @@ void CSetIpThread::stop()
 bool CSetIpThread::writePersistentIp(const QString& key, const QString& ip, const QString& mask,
                                      const QString& gateway)
 {
-    CTavDevicePtr device = CDeviceManager::getInstance()->getDeviceByKey(key);
+    // A worker may outlive the device manager (the end of the program).
+    CDeviceManager* manager = CDeviceManager::getInstance();
+    CTavDevicePtr device = manager ? manager->getDeviceByKey(key) : CTavDevicePtr();
     if (!device) {
         LOG_ERROR("getDeviceByKey failed. [%s]", key.toLocal8Bit().constData());
         return false;

@@ -7,7 +7,7 @@
 #include <QtTest>
 #include <memory>
 
-#include "CSingletonOwner.h"
+#include "SingletonTestSupport.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDiscoveryDevicesForm.h"
@@ -23,12 +23,6 @@
 #include "CVideoManagerForm.h"
 #include "DeviceTestSupport.h"
 #include "MainWindow.h"
-
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
 
 class TestLumidorWindow : public QObject
 {
@@ -54,7 +48,7 @@ static QString serialOf(int i)
 
 void TestLumidorWindow::initTestCase()
 {
-    m_owner.reset(new CSingletonOwner);
+    m_owner = makeSingletons();
     enableLogWhenAsked();
     registerMessageMetaTypes();
     for (int i = 0; i < kCameras; ++i) {

@@ -18,13 +18,6 @@
 #include "DeviceTestSupport.h"
 #include "QueuedSignalSpy.h"
 
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 using namespace Vorlen::GenICam;
 
 class TestDeviceConnect : public QObject
@@ -83,7 +76,7 @@ void TestDeviceConnect::initTestCase()
     if (m_rig.start("127.0.0.1", "LUMCONN1", std::string(), 320, 240, "Mono8") < 0)
         QFAIL("rig missing: the simulated camera cannot start on 127.0.0.1 (port 3956 taken or loopback down)");
 
-    m_owner.reset(new CSingletonOwner);
+    m_owner = makeSingletons();
     CDeviceManager* manager = CDeviceManager::getInstance();
     manager->attach(&m_bus);
     QVERIFY(QTest::qWaitFor([&]() { return findDeviceBySerial("LUMCONN1") != nullptr; }, 15000) ||

@@ -15,13 +15,6 @@
 #include "CTavDevice.h"
 #include "DeviceTestSupport.h"
 
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 using namespace Vorlen::GenICam;
 
 class TestDeviceLifecycle : public QObject
@@ -80,7 +73,7 @@ void TestDeviceLifecycle::initTestCase()
         if (!startCamera(slot))
             QFAIL(qPrintable(QString("rig missing: the simulated camera cannot start on %1").arg(m_address[slot])));
 
-    m_owner.reset(new CSingletonOwner);
+    m_owner = makeSingletons();
     CDeviceManager::getInstance()->attach(&m_bus);
     auto all = [&]() { return device(0) && device(1) && device(2) && device(3); };
     QVERIFY(QTest::qWaitFor(all, 15000) || (rediscover() && all()));

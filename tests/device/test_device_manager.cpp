@@ -11,13 +11,6 @@
 #include "DeviceTestSupport.h"
 #include "QueuedSignalSpy.h"
 
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 using namespace Vorlen::GenICam;
 
 class TestDeviceManager : public QObject
@@ -63,7 +56,7 @@ void TestDeviceManager::initTestCase()
     QVERIFY(startCamera(0));
     QVERIFY(startCamera(1));
 
-    m_owner.reset(new CSingletonOwner);
+    m_owner = makeSingletons();
     // Quick loss detection for the offline case.
     CConfiguration::getInstance()->iHeartbeatIval = 500;
     CConfiguration::getInstance()->iAnswerTimeout = 200;
@@ -207,7 +200,7 @@ void TestDeviceManager::endAndStartAgain()
     device.reset();
 
     // A new owner starts afresh.
-    m_owner.reset(new CSingletonOwner);
+    m_owner = makeSingletons();
     CDeviceManager* again = CDeviceManager::getInstance();
     again->attach(&m_bus);
     QVERIFY(waitForDevices() || (rediscover() && waitForDevices()));

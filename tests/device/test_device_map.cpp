@@ -18,13 +18,6 @@
 #include "DeviceTestSupport.h"
 #include "QueuedSignalSpy.h"
 
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 using namespace Vorlen::GenICam;
 
 namespace {
@@ -184,7 +177,7 @@ void TestDeviceMap::init()
     m_c = std::make_shared<StubCamera>("C3");
     m_system->setRegistry({m_c, m_a});
     CDiscoveryDevicesThread::setDefaultSystem(m_system);
-    m_owner.reset(new CSingletonOwner);
+    m_owner = makeSingletons();
     m_bus.reset(new BusRecorder);
 }
 

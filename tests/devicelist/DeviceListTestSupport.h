@@ -1,6 +1,6 @@
 #pragma once
 // Helpers of the device list tests: answering the modal boxes and dialogs the
-// panel opens, and waiting for the device manager.
+// panel opens; devices and discovery passes through SingletonTestSupport.h.
 #include <QApplication>
 #include <QPushButton>
 #include <QTimer>
@@ -8,9 +8,7 @@
 #include <functional>
 
 #include "CCommonMessageBox.h"
-#include "CDeviceManager.h"
-#include "CDiscoveryDevicesThread.h"
-#include "CTavDevice.h"
+#include "SingletonTestSupport.h"
 
 // Answers every application message box that shows up while it lives, with
 // the button given, and records the texts in order.
@@ -83,25 +81,5 @@ void onDialog(std::function<void(T*)> act, int timeoutMs = 20000)
 
 inline CTavDevicePtr deviceBySerial(const QString& serial)
 {
-    const QMap<QString, CTavDevicePtr> devices = CDeviceManager::getInstance()->getAllDevices();
-    for (auto it = devices.begin(); it != devices.end(); ++it)
-        if (it.value()->getDevice() &&
-            QString::fromLocal8Bit(it.value()->getDevice()->getSerialNumber().c_str()) == serial)
-            return it.value();
-    return CTavDevicePtr();
-}
-
-// Asks for a discovery pass and waits until the manager has rebuilt its map.
-// The worker drops a request that comes while a pass runs: wait for it to be
-// idle first.
-inline bool rediscover(const QString& ip = QString(), int timeoutMs = 20000)
-{
-    CDeviceManager* manager = CDeviceManager::getInstance();
-    CDiscoveryDevicesThread* worker = CDiscoveryDevicesThread::getInstance();
-    if (!QTest::qWaitFor([worker]() { return worker->isFirstDiscoveryFinished() && !worker->isDisconvrying(); },
-                         timeoutMs))
-        return false;
-    QSignalSpy spy(manager, &CDeviceManager::discoveryDevicesFinished);
-    manager->refreshDeviceMap(ip, 0);
-    return spy.wait(timeoutMs);
+    return findDeviceBySerial(serial);
 }

@@ -10,16 +10,9 @@
 
 #include "CConfiguration.h"
 #include "CDisplayCounter.h"
-#include "CSingletonOwner.h"
+#include "SingletonTestSupport.h"
 #include "StreamRetrieveThread.h"
 #include "StreamStatistic.h"
-
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
 
 using Vorlen::GenICam::CFrame;
 
@@ -75,7 +68,7 @@ private slots:
     void unsupportedFormatSetsError();
 
 private:
-    CSingletonOwner m_owner;   // the configuration the stream threads read
+    std::unique_ptr<CSingletonOwner> m_owner = makeSingletons();   // the configuration the threads read
 };
 
 void TestVideoStream::init()

@@ -7,7 +7,7 @@
 #include <QToolButton>
 #include <memory>
 
-#include "CSingletonOwner.h"
+#include "SingletonTestSupport.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CMultiVideoForm.h"
@@ -17,13 +17,6 @@
 #include "CVideoManagerForm.h"
 #include "CVideoStatusBar.h"
 #include "DeviceTestSupport.h"
-
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
 
 class TestVideoviewLive : public QObject
 {
@@ -48,7 +41,7 @@ static QString serialOf(int i)
 
 void TestVideoviewLive::initTestCase()
 {
-    m_owner.reset(new CSingletonOwner);
+    m_owner = makeSingletons();
     enableLogWhenAsked();
     registerMessageMetaTypes();
     for (int i = 0; i < kCameras; ++i) {
