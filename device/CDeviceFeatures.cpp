@@ -19,6 +19,37 @@ void CDeviceFeatures::logFailure(const char* verb, const char* name, const QByte
         LOG_ERROR("%s %s value %s fail. [%s]", verb, name, valueText.constData(), errorText().constData());
 }
 
+bool CDeviceFeatures::readString(const ICameraPtr& camera, const char* name, QString& value, int& maxLength)
+{
+    CString text;
+    unsigned int length = 0;
+    bool lengthRead = false;
+    if (!call<CStringNode>(camera, name, "get", [&](CStringNode& n) {
+            if (!n.getValue(text))
+                return false;
+            lengthRead = n.getMaxStringLen(length);
+            return true;
+        }))
+        return false;
+    value = QString::fromLocal8Bit(text.c_str());
+    if (lengthRead)
+        maxLength = static_cast<int>(length);
+    else
+        LOG_ERROR("get %s max length fail. [%s]", name, errorText().constData());
+    return true;
+}
+
+bool CDeviceFeatures::readEnumSymbols(const ICameraPtr& camera, const char* name, QStringList& symbols)
+{
+    Vorlen::Infra::TVector<CString> list;
+    if (!call<CEnumNode>(camera, name, "get", [&](CEnumNode& n) { return n.getEnumSymbolList(list); }))
+        return false;
+    symbols.clear();
+    for (const CString& symbol : list)
+        symbols.append(QString::fromLocal8Bit(symbol.c_str()));
+    return true;
+}
+
 bool CDeviceFeatures::isCompressionModeJpeg(const ICameraPtr& camera)
 {
     CEnumNode node(camera, "ImageCompressionMode");

@@ -4,6 +4,8 @@
 // library's error text, so that each feature wrapper of the device is one
 // line. Any thread; every call is a round trip to the camera.
 #include <QByteArray>
+#include <QString>
+#include <QStringList>
 
 #include "Vorlen/GenICam.h"
 
@@ -24,6 +26,12 @@ public:
         return false;
     }
 
+    // A string feature and its longest length (left as it is when that
+    // cannot be read, which is logged).
+    static bool readString(const Vorlen::GenICam::ICameraPtr& camera, const char* name, QString& value,
+                           int& maxLength);
+    // The symbols of an enumeration's entries that are available now.
+    static bool readEnumSymbols(const Vorlen::GenICam::ICameraPtr& camera, const char* name, QStringList& symbols);
     // The enumeration "ImageCompressionMode" reads "JPEG"; an unreadable
     // node is logged and counts as not JPEG.
     static bool isCompressionModeJpeg(const Vorlen::GenICam::ICameraPtr& camera);

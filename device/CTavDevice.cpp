@@ -11,6 +11,7 @@
 #include "CDeviceConnection.h"
 #include "CDeviceEventBridge.h"
 #include "CDeviceFeatures.h"
+#include "CDeviceNames.h"
 #include "CDeviceStream.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
@@ -61,7 +62,10 @@ CTavDevicePtr CTavDevice::create()
 }
 
 CTavDevice::CTavDevice()
-    : QObject(nullptr), m_stream(std::make_shared<CDeviceStream>()), m_events(std::make_shared<CDeviceEventBridge>())
+    : QObject(nullptr),
+      m_stream(std::make_shared<CDeviceStream>()),
+      m_events(std::make_shared<CDeviceEventBridge>()),
+      m_names(new CDeviceNames)
 {
     registerMessageMetaTypes();
     registerFrameMetaTypes();
@@ -282,7 +286,7 @@ bool CTavDevice::disconnectOnWorker()
 {
     const bool ok = takeDown(*m_events, *m_stream, getInternalDevice());
     m_connection->setConnected(false);
-    setCachedUserId(CString());
+    m_names->setUserId(CString());
     return ok;
 }
 
@@ -465,22 +469,7 @@ bool CTavDevice::setParaBoolValue(const char* name, bool value)
 
 bool CTavDevice::getParaStringValue(const char* name, QString& value, int& maxLength)
 {
-    CString text;
-    unsigned int length = 0;
-    bool lengthRead = false;
-    if (!CDeviceFeatures::call<CStringNode>(getDevice(), name, "get", [&](CStringNode& n) {
-            if (!n.getValue(text))
-                return false;
-            lengthRead = n.getMaxStringLen(length);
-            return true;
-        }))
-        return false;
-    value = QString::fromLocal8Bit(text.c_str());
-    if (lengthRead)
-        maxLength = static_cast<int>(length);
-    else
-        LOG_ERROR("get %s max length fail. [%s]", name, CDeviceFeatures::errorText().constData());
-    return true;
+    return CDeviceFeatures::readString(getDevice(), name, value, maxLength);
 }
 
 bool CTavDevice::setParaStringValue(const char* name, QString value)
@@ -498,14 +487,7 @@ bool CTavDevice::setParaStringValue(const char* name, QString value)
 
 bool CTavDevice::getParamEnumList(const char* name, QStringList& symbols)
 {
-    Vorlen::Infra::TVector<CString> list;
-    if (!CDeviceFeatures::call<CEnumNode>(getDevice(), name, "get",
-                                          [&](CEnumNode& n) { return n.getEnumSymbolList(list); }))
-        return false;
-    symbols.clear();
-    for (const CString& symbol : list)
-        symbols.append(QString::fromLocal8Bit(symbol.c_str()));
-    return true;
+    return CDeviceFeatures::readEnumSymbols(getDevice(), name, symbols);
 }
 
 bool CTavDevice::setPersistentIp(const QString& ip, const QString& mask, const QString& gateway)
@@ -522,45 +504,22 @@ bool CTavDevice::setPersistentIp(const QString& ip, const QString& mask, const Q
 
 bool CTavDevice::generateDeviceName(CString& name)
 {
-    const TSharedPtr<ICamera> camera = getDevice();
-    if (!camera)
-        return false;
-    name = camera->getName() + CString(" (") + camera->getSerialNumber() + CString(")");
-    return true;
+    return CDeviceNames::deviceName(getDevice(), name);
 }
 
 bool CTavDevice::generateDeviceNameByUserID(CString& name)
 {
-    const TSharedPtr<ICamera> camera = getDevice();
-    if (!camera)
-        return false;
-    CString userId;
-    if (isConnected())
-    {
-        QMutexLocker locker(&m_mutex);
-        userId = m_strUserId;
-    }
-    if (userId.empty())
-        return generateDeviceName(name);
-    name = userId + CString(" (") + camera->getSerialNumber() + CString(")");
-    return true;
+    return m_names->nameByUserId(getDevice(), isConnected(), name);
 }
 
 QString CTavDevice::cachedUserId() const
 {
-    QMutexLocker locker(&m_mutex);
-    return QString::fromLocal8Bit(m_strUserId.c_str());
-}
-
-void CTavDevice::setCachedUserId(const CString& userId)
-{
-    QMutexLocker locker(&m_mutex);
-    m_strUserId = userId;
+    return m_names->userId();
 }
 
 void CTavDevice::readUserIdFromCamera()
 {
-    setCachedUserId(CDeviceFeatures::readUserId(getDevice()));
+    m_names->setUserId(CDeviceFeatures::readUserId(getDevice()));
 }
 
 void CTavDevice::refreshUserId()
@@ -575,19 +534,7 @@ void CTavDevice::refreshUserId()
 
 QString CTavDevice::getDeviceSaveName()
 {
-    const TSharedPtr<ICamera> camera = getDevice();
-    if (!camera)
-        return QString();
-    QString stem = QString("%1_%2").arg(QString::fromLocal8Bit(camera->getName().c_str()),
-                                        QString::fromLocal8Bit(camera->getSerialNumber().c_str()));
-    // Keep the name usable as a directory and file name.
-    for (QChar& c : stem)
-    {
-        if (c == '/' || c == '\\' || c == ':' || c == '*' || c == '?' || c == '"' || c == '<' || c == '>' ||
-            c == '|' || c.isSpace())
-            c = '_';
-    }
-    return stem;
+    return CDeviceNames::saveName(getDevice());
 }
 
 // ---------------------------------------------------------------- configuration

@@ -8,8 +8,9 @@
 // the connection stands, and the device's worker that every camera round
 // trip of a request runs on), CDeviceStream (stream source and retrieval
 // thread), CDeviceEventBridge (the camera's events as this object's signals),
-// CDeviceFeatures (typed feature access) and CDeviceLinkSettings (the
-// configuration's link settings and how each is applied).
+// CDeviceFeatures (typed feature access), CDeviceNames (names and the user
+// id cache) and CDeviceLinkSettings (the configuration's link settings and
+// how each is applied).
 //
 // Threads: the object lives on the GUI thread, which alone changes the
 // connection state. The camera handle and its key, the stream source, the
@@ -33,6 +34,7 @@
 class AccessStatusThread;
 class CDeviceConnection;
 class CDeviceEventBridge;
+class CDeviceNames;
 class CDeviceStream;
 
 class CTavDevice : public QObject, public Vorlen::Memory::TEnableSharedFromThis<CTavDevice>
@@ -207,17 +209,16 @@ private:
     // Reads DeviceUserID from the camera into the cache (not on the GUI
     // thread).
     void readUserIdFromCamera();
-    void setCachedUserId(const Vorlen::Infra::CString& userId);
 
-    mutable QMutex m_mutex;   // m_spCamera, m_strKey, m_strUserId, m_strCurFile
+    mutable QMutex m_mutex;   // m_spCamera, m_strKey, m_strCurFile
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera> m_spCamera;
     QString m_strKey;
-    Vorlen::Infra::CString m_strUserId;
     QString m_strCurFile;
 
     // Shared, so that the worker's last job can close them after the device.
     std::shared_ptr<CDeviceStream> m_stream;
     std::shared_ptr<CDeviceEventBridge> m_events;
+    std::unique_ptr<CDeviceNames> m_names;
     std::unique_ptr<CDeviceConnection> m_connection;
     AccessStatusThread* m_pAccessStatusThread = nullptr;
 
