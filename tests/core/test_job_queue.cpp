@@ -23,6 +23,14 @@ struct SGate
     }
 };
 
+// Holds the worker inside a job at the gate, with one counting job queued
+// behind it.
+bool holdWithOneQueued(CJobQueueThread& worker, SGate& gate, std::atomic<int>& ran)
+{
+    worker.post(gate.job());
+    return gate.entered.tryAcquire(1, 10000) && worker.post([&ran]() { ++ran; });
+}
+
 // Exposes the pause to a job.
 class CPausingQueue : public CJobQueueThread
 {
@@ -91,9 +99,7 @@ void TestJobQueue::stopRunsOrDropsTheQueue()
         CJobQueueThread worker("TestWorker");
         SGate gate;
         std::atomic<int> ran{0};
-        worker.post(gate.job());
-        QVERIFY(gate.entered.tryAcquire(1, 10000));
-        worker.post([&ran]() { ++ran; });
+        QVERIFY(holdWithOneQueued(worker, gate, ran));
         worker.post([&ran]() { ++ran; });
         worker.stop();
         QVERIFY(worker.isStopping());
@@ -108,9 +114,7 @@ void TestJobQueue::stopRunsOrDropsTheQueue()
         CJobQueueThread worker("TestWorker");
         SGate gate;
         std::atomic<int> ran{0};
-        worker.post(gate.job());
-        QVERIFY(gate.entered.tryAcquire(1, 10000));
-        worker.post([&ran]() { ++ran; });
+        QVERIFY(holdWithOneQueued(worker, gate, ran));
         QVERIFY(!worker.stopAndWait(0, true));
         QCOMPARE(worker.pendingCount(), 0);
         gate.release.release();
@@ -130,9 +134,7 @@ void TestJobQueue::retiredWorkerEndsOnItsOwn()
         QPointer<CJobQueueThread> alive(worker);
         SGate gate;
         std::atomic<int> ran{0};
-        worker->post(gate.job());
-        QVERIFY(gate.entered.tryAcquire(1, 10000));
-        worker->post([&ran]() { ++ran; });
+        QVERIFY(holdWithOneQueued(*worker, gate, ran));
         worker->retire(dropPending);
         QVERIFY(alive);
         QVERIFY(!CJobQueueThread::waitUntilQuiet(0));

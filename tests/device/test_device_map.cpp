@@ -160,6 +160,7 @@ private slots:
     void disconnectAllGivesUp();
     void disconnectAllWaitsForAConnection();
     void ownerEndsDuringDisconnectAll();
+    void deviceReleasedWhileOpenClosesOnItsWorker();
 
 private:
     std::shared_ptr<StubSystem> m_system;
@@ -385,6 +386,27 @@ void TestDeviceMap::ownerEndsDuringDisconnectAll()
     m_owner.reset();
     QVERIFY(!m_a->isConnected());
     QVERIFY(aAlive.isNull());
+}
+
+void TestDeviceMap::deviceReleasedWhileOpenClosesOnItsWorker()
+{
+    // A device let go while its camera is open does not wait for the camera
+    // on this thread: its worker closes the camera and then ends by itself.
+    CTavDevicePtr device = CTavDevice::create();
+    Vorlen::Memory::TSharedPtr<ICamera> camera(m_b);
+    device->setDevice(camera);
+    device->init();
+    QVERIFY(device->openDevice(true));
+    QVERIFY(m_b->isConnected());
+    QPointer<CTavDevice> alive(device.get());
+    m_b->disconnectDoor.shut();
+    device.reset();
+    QVERIFY(alive.isNull());
+    QVERIFY(m_b->isConnected());
+    QVERIFY(!CJobQueueThread::waitUntilQuiet(0));
+    m_b->disconnectDoor.open();
+    QVERIFY(CJobQueueThread::waitUntilQuiet(10000));
+    QVERIFY(!m_b->isConnected());
 }
 
 QTEST_GUILESS_MAIN(TestDeviceMap)
