@@ -16,6 +16,7 @@
 #include "CAtomicFileWriter.h"
 #include "CConfigKeyTable.h"
 #include "CConfigXml.h"
+#include "CSingletonSlot.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
 namespace {
@@ -35,40 +36,12 @@ QString homeDirectory()
 
 } // namespace
 
-namespace {
-QMutex g_instanceMutex;
-CConfiguration* g_instance = nullptr;
-bool g_shutDown = false;
-}
-
 CConfiguration* CConfiguration::getInstance()
 {
-    QMutexLocker locker(&g_instanceMutex);
-    if (!g_instance && !g_shutDown)
-        g_instance = new CConfiguration();
-    else if (!g_instance)
-        TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "configuration asked for after shutdown.");
-    return g_instance;
-}
-
-void CConfiguration::destroyInstance()
-{
-    CConfiguration* instance = nullptr;
-    {
-        QMutexLocker locker(&g_instanceMutex);
-        instance = g_instance;
-        g_instance = nullptr;
-    }
-    delete instance;
-}
-
-void CConfiguration::shutdownInstance()
-{
-    {
-        QMutexLocker locker(&g_instanceMutex);
-        g_shutDown = true;
-    }
-    destroyInstance();
+    CConfiguration* instance = CSingletonSlot<CConfiguration>::instance([]() { return new CConfiguration(); });
+    if (!instance)
+        TAVLOG_SRC(TAVLOG_LEVEL_ERROR, "Preferences", "configuration asked for outside the application's lifetime.");
+    return instance;
 }
 
 CConfiguration::CConfiguration()

@@ -27,12 +27,10 @@ class CConfiguration : public QObject
 public:
     static const int kVideoFormCount = 16;
 
-    // Created on first use; null once shutdownInstance() has run.
+    // The instance while the application's singleton owner (CSingletonOwner)
+    // keeps it: the owner makes it first, before anything else; null before
+    // the owner starts and after it has ended.
     static CConfiguration* getInstance();
-    // Deletes the instance; the next getInstance() makes a new one (tests).
-    static void destroyInstance();
-    // The application's end: deletes the instance for good.
-    static void shutdownInstance();
 
     bool saveConfig(const QString& path);
     void saveConfig(QXmlStreamWriter& writer);

@@ -1,83 +1,17 @@
 #include "CDeviceManager.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
+#include <algorithm>
 
-#include "CDisconnectAllThread.h"
 #include "CDiscoveryDevicesThread.h"
+#include "CSingletonSlot.h"
 #include "CTavDevice.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
 using namespace Vorlen::GenICam;
 
-namespace {
-QMutex g_instanceMutex;
-CDeviceManager* g_instance = nullptr;
-bool g_shutDown = false;
-}
-
 CDeviceManager* CDeviceManager::getInstance()
 {
-    QMutexLocker locker(&g_instanceMutex);
-    if (!g_instance && !g_shutDown)
-    {
-        g_instance = new CDeviceManager();
-        // Whatever is still open when the application ends lets its camera go.
-        static bool postRoutineAdded = false;
-        if (!postRoutineAdded && QCoreApplication::instance())
-        {
-            postRoutineAdded = true;
-            qAddPostRoutine(&CDeviceManager::destroyInstance);
-        }
-    }
-    return g_instance;
-}
-
-CDeviceManager* CDeviceManager::existingInstance()
-{
-    QMutexLocker locker(&g_instanceMutex);
-    return g_instance;
-}
-
-void CDeviceManager::destroyInstance()
-{
-    CDeviceManager* instance = nullptr;
-    {
-        QMutexLocker locker(&g_instanceMutex);
-        instance = g_instance;
-        g_instance = nullptr;
-    }
-    delete instance;
-}
-
-void CDeviceManager::shutdown(int waitMs)
-{
-    {
-        QMutexLocker locker(&g_instanceMutex);
-        g_shutDown = true;
-    }
-    QElapsedTimer clock;
-    clock.start();
-    CDeviceManager* manager = existingInstance();
-    if (manager)
-    {
-        for (const CTavDevicePtr& device : manager->getAllDevices())
-        {
-            const CTavDevice::EConnectionState state = device->connectionState();
-            if (state == CTavDevice::stateConnected || state == CTavDevice::stateConnecting)
-                device->closeDevice(false);
-        }
-        // The results come back as queued calls: handle them while waiting.
-        while (manager->getActiveDeviceCount() != 0 && clock.elapsed() < waitMs)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        if (manager->getActiveDeviceCount() != 0)
-            LOG_WARN("%d device(s) still closing after %d ms; left to their workers",
-                     manager->getActiveDeviceCount(), waitMs);
-    }
-    // A disconnect-all under way ends by its own time limit.
-    CDisconnectAllThread::shutdownInstance(CDisconnectAllThread::kTimeoutMs + 2 * CDisconnectAllThread::kPollMs);
-    destroyInstance();
-    CDiscoveryDevicesThread::shutdownInstance();
+    return CSingletonSlot<CDeviceManager>::instance([]() { return new CDeviceManager(); });
 }
 
 CDeviceManager::CDeviceManager() : QObject(nullptr)
@@ -92,37 +26,23 @@ CDeviceManager::CDeviceManager() : QObject(nullptr)
 
 CDeviceManager::~CDeviceManager()
 {
-    // A disconnect-all still under way polls this manager; let it end first
-    // (it gives up on its own after its time limit).
-    if (CDisconnectAllThread* closer = CDisconnectAllThread::existingInstance())
-        closer->wait(static_cast<unsigned long>(CDisconnectAllThread::kTimeoutMs + 2 * CDisconnectAllThread::kPollMs));
-
+    // The discovery worker outlives the manager (the owner ends it next).
     disconnect(m_pDiscovery, nullptr, this, nullptr);
-    m_pDiscovery->stop();
 
     QMap<QString, CTavDevicePtr> devices;
     {
         QMutexLocker locker(&m_mapMutex);
         devices.swap(m_mapDevices);
     }
-    for (const CTavDevicePtr& device : devices)
+    for (const CTavDevicePtr& device : qAsConst(devices))
     {
         disconnectDevice(device);
-        // A device whose worker is still busy (a camera that does not
-        // answer) is left to it: the worker holds the device until done.
-        if (device->isConnectThreadRunning())
-        {
-            LOG_WARN("device still busy at shutdown, left to its worker. [%s]",
-                     device->getDeviceKey().toLocal8Bit().constData());
-            continue;
-        }
+        // The close runs on the device's own worker, which keeps the device
+        // until it is done; a device still connecting closes after that.
         const CTavDevice::EConnectionState state = device->connectionState();
         if (state == CTavDevice::stateConnected || state == CTavDevice::stateConnecting)
-            device->closeDevice(true);
+            device->closeDevice(false);
     }
-    devices.clear();
-
-    CDiscoveryDevicesThread::destroyInstance();
 }
 
 CTavDevicePtr CDeviceManager::getDeviceByKey(const QString& key)
@@ -152,13 +72,8 @@ int CDeviceManager::getOpenedDeviceCount()
 int CDeviceManager::getActiveDeviceCount()
 {
     QMutexLocker locker(&m_mapMutex);
-    int count = 0;
-    for (const CTavDevicePtr& device : m_mapDevices)
-    {
-        if (device && (device->connectionState() != CTavDevice::stateDisconnected || device->isConnected()))
-            ++count;
-    }
-    return count;
+    return int(std::count_if(m_mapDevices.cbegin(), m_mapDevices.cend(),
+                             [](const CTavDevicePtr& device) { return device->isActive(); }));
 }
 
 void CDeviceManager::refreshDeviceMap(const QString& ip, int flags)
@@ -249,37 +164,31 @@ void CDeviceManager::on_discoveryDevicesFinished(bool ok)
     emit discoveryDevicesFinished();
 }
 
-void CDeviceManager::on_Device_Param_Update(const SParamUpdataArg arg, QString key)
+void CDeviceManager::publishEvent(EN_MESSAGE_TYPE type, const QString& key,
+                                  const std::function<void(CTavMessage&)>& fill)
 {
     CTavMessagePtr msg = Vorlen::Memory::makeShared<CTavMessage>();
-    msg->type = MSG_PARAM_UPDATE;
+    msg->type = type;
     msg->device = getDeviceByKey(key);
     if (!msg->device)
         return;
-    msg->paramUpdateArg = arg;
+    fill(*msg);
     m_subject.Notify(msg);
+}
+
+void CDeviceManager::on_Device_Param_Update(const SParamUpdataArg arg, QString key)
+{
+    publishEvent(MSG_PARAM_UPDATE, key, [&arg](CTavMessage& msg) { msg.paramUpdateArg = arg; });
 }
 
 void CDeviceManager::on_Device_Stream_Event(const SStreamArg arg, QString key)
 {
-    CTavMessagePtr msg = Vorlen::Memory::makeShared<CTavMessage>();
-    msg->type = MSG_STREAM_EVENT;
-    msg->device = getDeviceByKey(key);
-    if (!msg->device)
-        return;
-    msg->streamArg = arg;
-    m_subject.Notify(msg);
+    publishEvent(MSG_STREAM_EVENT, key, [&arg](CTavMessage& msg) { msg.streamArg = arg; });
 }
 
 void CDeviceManager::on_Device_Msg_Channel(const SMsgChannelArg arg, QString key)
 {
-    CTavMessagePtr msg = Vorlen::Memory::makeShared<CTavMessage>();
-    msg->type = MSG_MSG_CHANNEL;
-    msg->device = getDeviceByKey(key);
-    if (!msg->device)
-        return;
-    msg->msgChannelArg = arg;
-    m_subject.Notify(msg);
+    publishEvent(MSG_MSG_CHANNEL, key, [&arg](CTavMessage& msg) { msg.msgChannelArg = arg; });
 }
 
 void CDeviceManager::on_Device_Status_Changed(EN_MESSAGE_TYPE type, CTavDevicePtr device)

@@ -6,6 +6,7 @@
 #include <QMutex>
 #include <QObject>
 #include <QString>
+#include <functional>
 
 #include "CSubject.h"
 #include "CTavMessage.h"
@@ -16,27 +17,16 @@ class CDeviceManager : public QObject
 {
     Q_OBJECT
 public:
-    // Created on first use, on the calling (GUI) thread; the constructor
-    // starts the discovery worker and asks for the first pass.
-    // Null once shutdown() has run.
+    // Made on first use, on the calling (GUI) thread, while the
+    // application's singleton owner (CSingletonOwner) keeps it; the
+    // constructor starts the discovery worker and asks for the first pass.
+    // Null before the owner starts and after it has ended.
     static CDeviceManager* getInstance();
-    // The manager if it exists; never creates it (for workers).
-    static CDeviceManager* existingInstance();
-    // Closes every open device, stops discovery and deletes the manager (and
-    // the discovery worker); the next getInstance() starts afresh.
-    static void destroyInstance();
-    // The application's end, on the GUI thread before the application object
-    // goes: closes the open devices side by side and waits for them (at most
-    // waitMs, handling their results meanwhile), then tears down, in this
-    // order, the disconnect-all worker, the manager with its devices and the
-    // discovery worker. None of them can be created again afterwards.
-    static void shutdown(int waitMs = kShutdownWaitMs);
-    static const int kShutdownWaitMs = 5000;
 
     CTavDevicePtr getDeviceByKey(const QString& key);
     QMap<QString, CTavDevicePtr> getAllDevices();
     int getOpenedDeviceCount();
-    // Devices connected, connecting or closing.
+    // Devices connected, connecting or closing (CTavDevice::isActive).
     int getActiveDeviceCount();
     // Asks the discovery worker for a pass (see CDiscoveryDevicesThread::StartDiscovery).
     void refreshDeviceMap(const QString& ip, int flags);
@@ -58,11 +48,17 @@ public slots:
 
 
 private:
+    friend class CSingletonOwner;
     CDeviceManager();
+    // Asks every open device to close on its own worker and lets go of the
+    // devices; waits for nothing.
     ~CDeviceManager() override;
 
     void connectDevice(const CTavDevicePtr& device);
     void disconnectDevice(const CTavDevicePtr& device);
+    // One message of a device event: the device of the key (none: nothing
+    // is published), the event's record filled in by fill.
+    void publishEvent(EN_MESSAGE_TYPE type, const QString& key, const std::function<void(CTavMessage&)>& fill);
 
     QMutex m_mapMutex;   // the disconnect-all worker reads the map too
     QMap<QString, CTavDevicePtr> m_mapDevices;

@@ -1,44 +1,44 @@
 #pragma once
 // Closes every open device, each on its own worker so they close side by
-// side, then waits (at most 5000 ms) until the device manager counts none
-// open, connecting or closing.
-#include <QThread>
+// side, then waits (at most 5000 ms) until none of them is open, connecting
+// or closing any more. A job-queue worker: each closeAll() is one request.
+#include <QList>
 #include <functional>
 
-class CDisconnectAllThread : public QThread
+#include "CJobQueueThread.h"
+#include "CTavMessage.h"
+
+class CDisconnectAllThread : public CJobQueueThread
 {
     Q_OBJECT
 public:
-    // Created on first use; null once shutdownInstance() has run.
+    // Made on first use while the application's singleton owner
+    // (CSingletonOwner) keeps it, after the device manager, which it asks
+    // for first; null before the owner starts and after it has ended.
     static CDisconnectAllThread* getInstance();
-    // The singleton if it exists; never creates it.
-    static CDisconnectAllThread* existingInstance();
-    // Waits for a run under way (at most waitMs) and deletes the singleton;
-    // later getInstance() calls return null. A run that does not end in
-    // time is left to finish on its own.
-    static void shutdownInstance(int waitMs);
 
     // Poll step and limit of the wait for the devices to close.
     static const int kPollMs = 500;
     static const int kTimeoutMs = 5000;
 
     // Clock of the wait (ms of a monotonic clock) and the pause between two
-    // polls; tests put a simulated clock in their place (null: the real
-    // one). Set before start().
-    void setClock(std::function<qint64()> now, std::function<void(int)> pause);
+    // polls, which returns false when the wait is to end early; tests put a
+    // simulated clock in their place (null: the real one, whose pause ends
+    // when the worker is stopped). Set before closeAll().
+    void setClock(std::function<qint64()> now, std::function<bool(int)> pause);
 
-    ~CDisconnectAllThread() override;
+    // GUI thread: closes the devices the device manager holds now; the
+    // worker reports with closeAllBegin() and closeAllFinished().
+    void closeAll();
 
 signals:
     void closeAllBegin();
     void closeAllFinished();
 
-protected:
-    void run() override;
-
 private:
-    explicit CDisconnectAllThread(QObject* parent = nullptr);
+    CDisconnectAllThread();
+    void closeAllOnWorker(const QList<CTavDevicePtr>& devices);
 
     std::function<qint64()> m_now;
-    std::function<void(int)> m_pause;
+    std::function<bool(int)> m_pause;
 };

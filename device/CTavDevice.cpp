@@ -1,6 +1,5 @@
 #include "CTavDevice.h"
 
-#include <QCoreApplication>
 #include <QHostAddress>
 #include <QThread>
 
@@ -9,19 +8,46 @@
 #include "AccessStatusThread.h"
 #include "CConfiguration.h"
 #include "CDeviceConnectThread.h"
+#include "CDeviceConnection.h"
+#include "CDeviceEventBridge.h"
+#include "CDeviceFeatures.h"
+#include "CDeviceNames.h"
+#include "CDeviceStream.h"
 #include "Tavlog4cpp/TavLogMacros.h"
-#include "Utils.h"
 
 using namespace Vorlen::GenICam;
 using Vorlen::Infra::CString;
 using Vorlen::Memory::TSharedPtr;
 
 namespace {
-QByteArray errorText()
+// Worker: takes a connection down: the subscriptions end, the stream stops
+// and is released, the camera is disconnected (also after a loss, so that
+// the library forgets the connection).
+bool takeDown(CDeviceEventBridge& events, CDeviceStream& stream, const CInternalCameraPtr& camera)
 {
-    return GetErrorDesc().toLocal8Bit();
+    events.unsubscribe();
+    const TSharedPtr<CInternalStreamSource> source = stream.source();
+    stream.stopThread();
+    if (source && source->isGrabbing() && !source->stopGrabbing())
+        LOG_ERROR("stopGrabbing fail. [%s]", CDeviceFeatures::errorText().constData());
+    stream.release();
+    events.release();
+    if (!camera)
+    {
+        LOG_ERROR("m_spCamera.get() is NULL!");
+        return false;
+    }
+    const bool ok = camera->disConnect();
+    if (!ok)
+        LOG_ERROR("disConnect [%s] fail. [%s]", camera->getKey().c_str(), CDeviceFeatures::errorText().constData());
+    return ok;
 }
+
+QByteArray numberText(long value)
+{
+    return QByteArray::number(qlonglong(value));
 }
+} // namespace
 
 CTavDevicePtr CTavDevice::create()
 {
@@ -35,69 +61,69 @@ CTavDevicePtr CTavDevice::create()
     });
 }
 
-CTavDevice::CTavDevice() : QObject(nullptr)
+CTavDevice::CTavDevice()
+    : QObject(nullptr),
+      m_stream(std::make_shared<CDeviceStream>()),
+      m_events(std::make_shared<CDeviceEventBridge>()),
+      m_names(new CDeviceNames)
 {
     registerMessageMetaTypes();
     registerFrameMetaTypes();
-    m_pStreamThread = new StreamRetrieveThread(this);
-    m_pConnectThread = new CDeviceConnectThread(this);
+    m_connection.reset(new CDeviceConnection(*this));
     m_pAccessStatusThread = new AccessStatusThread(this);
 }
 
 CTavDevice::~CTavDevice()
 {
-    // Jobs hold the device, so none is left for a device owned through
-    // create(); the worker is idle and ends at once.
-    m_pConnectThread->stop();
-    m_pConnectThread->wait();
-    m_pStreamThread->stop();
-    m_pStreamThread->wait();
-    // A permission read under way may take one answer timeout: the thread
-    // deletes itself when it returns, and its result goes nowhere.
+    // No job holds the device any more, so its worker has nothing left to
+    // do. Nothing here waits on the camera: a permission read under way is
+    // left to end by itself, and a camera still open is closed by a last job
+    // on the worker, which then ends by itself.
     m_pAccessStatusThread->retire();
     m_pAccessStatusThread = nullptr;
+    QObject::disconnect(m_stream->thread(), nullptr, this, nullptr);
 
-    unsubscribeEvents();
-    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
-    if (stream && stream->isGrabbing())
-        stream->stopGrabbing();
-    m_pStreamThread->setStream(nullptr);
-    m_pStreamThread->setDevice(nullptr);
-    setStreamObjects(TSharedPtr<CInternalStreamSource>(), TSharedPtr<CInternalEventManager>());
-
-    // A device that goes away lets its camera go (also when a connection
-    // finished whose result was never delivered).
-    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-    if (camera && camera->isConnected())
+    const CInternalCameraPtr camera = getInternalDevice();
+    const bool open = (camera && camera->isConnected()) || m_stream->source() || m_events->eventManager() ||
+                      m_stream->thread()->isRunning();
+    if (!open)
     {
-        if (!camera->disConnect())
-            LOG_ERROR("disConnect [%s] fail. [%s]", m_strKey.toLocal8Bit().constData(), errorText().constData());
+        m_connection->endWorker(nullptr);
+        return;
     }
+    LOG_WARN("device released while open; its worker closes it. [%s]", m_strKey.toLocal8Bit().constData());
+    m_stream->handOver(m_connection->worker());
+    const std::shared_ptr<CDeviceStream> stream = m_stream;
+    const std::shared_ptr<CDeviceEventBridge> events = m_events;
+    m_connection->endWorker([stream, events, camera]() { takeDown(*events, *stream, camera); });
 }
 
 void CTavDevice::setDevice(TSharedPtr<ICamera>& camera)
 {
+    QMutexLocker locker(&m_mutex);
     m_spCamera = camera;
     m_strKey = camera ? QString::fromLocal8Bit(camera->getKey().c_str()) : QString();
 }
 
 TSharedPtr<ICamera> CTavDevice::getDevice() const
 {
+    QMutexLocker locker(&m_mutex);
     return m_spCamera;
 }
 
 TSharedPtr<CInternalCamera> CTavDevice::getInternalDevice() const
 {
-    return Vorlen::Memory::dynamicPointerCast<CInternalCamera>(m_spCamera);
+    return Vorlen::Memory::dynamicPointerCast<CInternalCamera>(getDevice());
 }
 
 void CTavDevice::getDeviceKey(QString& key) const
 {
-    key = m_strKey;
+    key = getDeviceKey();
 }
 
 QString CTavDevice::getDeviceKey() const
 {
+    QMutexLocker locker(&m_mutex);
     return m_strKey;
 }
 
@@ -107,31 +133,30 @@ void CTavDevice::init()
         return;
     m_bInitialized = true;
 
-    connect(m_pConnectThread, &CDeviceConnectThread::device_connect, this, &CTavDevice::onConnectResult,
-            Qt::QueuedConnection);
-    connect(m_pConnectThread, &CDeviceConnectThread::device_disconnect, this, &CTavDevice::onDisconnectResult,
-            Qt::QueuedConnection);
-    connect(this, &CTavDevice::streamOpenFailed, this, &CTavDevice::onStreamOpenFailed, Qt::QueuedConnection);
     connect(m_pAccessStatusThread, &AccessStatusThread::signalRefreshAccessStatus, this,
             &CTavDevice::onRefreshAccessStatusFinished, Qt::QueuedConnection);
     connect(this, &CTavDevice::device_offline, this, &CTavDevice::onDeviceOffline, Qt::QueuedConnection);
 
     // Frames stay on the retrieval thread until the view's own (queued)
     // connection; the record question must be answered before the decision.
-    connect(m_pStreamThread, &StreamRetrieveThread::newFrame, this, &CTavDevice::newFrame, Qt::DirectConnection);
-    connect(m_pStreamThread, &StreamRetrieveThread::signalGetRecordEnable, this, &CTavDevice::signalGetRecordEnable,
+    StreamRetrieveThread* thread = m_stream->thread();
+    connect(thread, &StreamRetrieveThread::newFrame, this, &CTavDevice::newFrame, Qt::DirectConnection);
+    connect(thread, &StreamRetrieveThread::signalGetRecordEnable, this, &CTavDevice::signalGetRecordEnable,
             Qt::DirectConnection);
-    connect(m_pStreamThread, &StreamRetrieveThread::increaseDisplayFrame, this, &CTavDevice::increaseDisplayFrame,
+    connect(thread, &StreamRetrieveThread::increaseDisplayFrame, this, &CTavDevice::increaseDisplayFrame,
             Qt::DirectConnection);
 
-    CConfiguration* cfg = CConfiguration::getInstance();
-    connect(cfg, &CConfiguration::signalAnswerTimeoutChanged, this, &CTavDevice::onAnswerTimeoutChanged);
-    connect(cfg, &CConfiguration::signalHeartbeatIntervalChanged, this, &CTavDevice::onHeartbeatIntervalChanged);
-    connect(cfg, &CConfiguration::signalInterPacketTimeoutChanged, this, &CTavDevice::onInterPacketTimeoutChanged);
-    connect(cfg, &CConfiguration::signalSingleResendMaxPackNumChanged, this,
-            &CTavDevice::onSingleResendMaxPackNumChanged);
-    connect(cfg, &CConfiguration::signalMaximumLostPacketNumChanged, this,
-            &CTavDevice::onMaximumLostPacketNumChanged);
+    if (CConfiguration* cfg = CConfiguration::getInstance())
+    {
+        connect(cfg, &CConfiguration::signalAnswerTimeoutChanged, this, &CTavDevice::onAnswerTimeoutChanged);
+        connect(cfg, &CConfiguration::signalHeartbeatIntervalChanged, this, &CTavDevice::onHeartbeatIntervalChanged);
+        connect(cfg, &CConfiguration::signalInterPacketTimeoutChanged, this,
+                &CTavDevice::onInterPacketTimeoutChanged);
+        connect(cfg, &CConfiguration::signalSingleResendMaxPackNumChanged, this,
+                &CTavDevice::onSingleResendMaxPackNumChanged);
+        connect(cfg, &CConfiguration::signalMaximumLostPacketNumChanged, this,
+                &CTavDevice::onMaximumLostPacketNumChanged);
+    }
 }
 
 CTavDevicePtr CTavDevice::self()
@@ -139,148 +164,89 @@ CTavDevicePtr CTavDevice::self()
     return CTavDevicePtr(weak_from_this().lock());
 }
 
+bool CTavDevice::postJob(std::function<void()> job)
+{
+    return m_connection->post(std::move(job));
+}
+
 void CTavDevice::emitStatus(EN_MESSAGE_TYPE type)
 {
     emit device_status_changed(type, self());
 }
 
-bool CTavDevice::isGigE() const
+EInterfaceType CTavDevice::interfaceType() const
 {
-    return m_spCamera && m_spCamera->getType() == typeGigEVision;
-}
-
-bool CTavDevice::isUsb() const
-{
-    return m_spCamera && m_spCamera->getType() == typeUsb3Vision;
+    const TSharedPtr<ICamera> camera = getDevice();
+    return camera ? camera->getType() : typeUndefined;
 }
 
 bool CTavDevice::isConnectThreadRunning() const
 {
-    return m_pConnectThread->isBusy();
+    return m_connection->isBusy();
 }
 
 bool CTavDevice::waitForWorker(int timeoutMs)
 {
-    return m_pConnectThread->waitIdle(timeoutMs);
+    return m_connection->waitIdle(timeoutMs);
 }
 
-TSharedPtr<CInternalStreamSource> CTavDevice::getStreamSource() const
+CTavDevice::EConnectionState CTavDevice::connectionState() const
 {
-    QMutexLocker locker(&m_objectMutex);
-    return m_ptrStream;
+    return m_connection->state();
 }
 
-TSharedPtr<CInternalEventManager> CTavDevice::getEventManager() const
+bool CTavDevice::isConnected() const
 {
-    QMutexLocker locker(&m_objectMutex);
-    return m_ptrEventManager;
+    return m_connection->isConnected();
 }
 
-bool CTavDevice::isGrabing() const
+bool CTavDevice::isStreamRequested() const
 {
-    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
-    return stream && stream->isGrabbing();
+    return m_connection->isStreamRequested();
+}
+
+void CTavDevice::setCurFile(const QString& file)
+{
+    QMutexLocker locker(&m_mutex);
+    m_strCurFile = file;
+}
+
+QString CTavDevice::getCurFile() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_strCurFile;
 }
 
 // ---------------------------------------------------------------- connection
 
-CTavDevice::SLinkSettings CTavDevice::linkSettings()
-{
-    const CConfiguration* cfg = CConfiguration::getInstance();
-    SLinkSettings link;
-    if (cfg)
-    {
-        link.answerTimeout = cfg->iAnswerTimeout;
-        link.heartbeat = cfg->iHeartbeatIval;
-    }
-    return link;
-}
-
-CTavDevice::SStreamSettings CTavDevice::streamSettings()
-{
-    const CConfiguration* cfg = CConfiguration::getInstance();
-    SStreamSettings s;
-    if (cfg)
-    {
-        s.bufferCount = cfg->streamingBufferCount;
-        s.interPacketTimeout = cfg->iInterPacketTimeout;
-        s.singleResendMaxPackNum = cfg->iSingleResendMaxPackNum;
-        s.maximumLostPacketNum = cfg->iMaximumLostPacketNum;
-        s.urbNumber = cfg->streamingUrbNumberCount;
-        s.urbSize = cfg->streamingUrbSizeCount;
-    }
-    return s;
-}
-
-void CTavDevice::postJob(std::function<void()> job)
-{
-    // The job holds the device: a device dropped by the manager meanwhile
-    // lives until its worker has finished with it.
-    const CTavDevicePtr keep = self();
-    m_pConnectThread->post([keep, job]() { job(); });
-}
-
-void CTavDevice::setStreamObjects(const TSharedPtr<CInternalStreamSource>& stream,
-                                  const TSharedPtr<CInternalEventManager>& events)
-{
-    TSharedPtr<CInternalStreamSource> oldStream;
-    TSharedPtr<CInternalEventManager> oldEvents;
-    {
-        QMutexLocker locker(&m_objectMutex);
-        oldStream = m_ptrStream;
-        oldEvents = m_ptrEventManager;
-        m_ptrStream = stream;
-        m_ptrEventManager = events;
-    }
-    // Released outside the lock.
-}
-
 bool CTavDevice::openDevice(bool bSync)
 {
-    const QByteArray key = m_strKey.toLocal8Bit();
-    LOG_DEBUG("begin to openDevice. [%s]", key.constData());
-    if (!m_spCamera)
-    {
-        LOG_ERROR("m_spCamera.get() is NULL!");
-        return false;
-    }
-    switch (connectionState())
-    {
-    case stateConnecting:
-        // The worker is still on the previous attempt.
-        return false;
-    case stateConnected:
-        LOG_WARN("device is already connected. [%s]", key.constData());
-        return false;
-    case stateDisconnecting:
-        LOG_WARN("device is still closing, openDevice ignored. [%s]", key.constData());
-        return false;
-    case stateDisconnected:
-        break;
-    }
-
-    m_eState = stateConnecting;
-    m_bCloseAfterConnect = false;
-    const quint64 generation = ++m_nGeneration;
-    emitStatus(MSG_DEVICE_CONNECTING);
-
-    const SLinkSettings link = linkSettings();
-    postJob([this, link, generation]() {
-        const bool ok = connectOnWorker(link);
-        emit m_pConnectThread->device_connect(ok, generation);
-        LOG_DEBUG("CDeviceConnectThread run end");
-    });
-    if (!bSync)
-        return true;
-
-    deliverWorkerResults();
-    return m_eState == stateConnected;
+    return m_connection->open(bSync);
 }
 
-bool CTavDevice::connectOnWorker(const SLinkSettings& link)
+bool CTavDevice::closeDevice(bool bSync)
 {
-    LOG_DEBUG("CDeviceConnectThread run begin");
-    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
+    return m_connection->close(bSync);
+}
+
+void CTavDevice::onDeviceConnect(bool ok)
+{
+    m_connection->connectFinished(ok);
+}
+
+void CTavDevice::onDeviceDisConnect(bool ok)
+{
+    m_connection->disconnectFinished(ok);
+}
+
+void CTavDevice::onDeviceOffline()
+{
+    m_connection->lost();
+}
+
+bool CTavDevice::connectOnWorker(const CDeviceLinkSettings& link)
+{
+    const CInternalCameraPtr camera = getInternalDevice();
     if (camera.get() == nullptr)
     {
         LOG_ERROR("m_spCamera.get() is NULL!");
@@ -289,279 +255,39 @@ bool CTavDevice::connectOnWorker(const SLinkSettings& link)
     // Control access: the camera can be used by others for monitoring only.
     if (!camera->connect(accessPermissionControl))
     {
-        LOG_ERROR("connect [%s] fail. [%s]", camera->getKey().c_str(), errorText().constData());
+        LOG_ERROR("connect [%s] fail. [%s]", camera->getKey().c_str(), CDeviceFeatures::errorText().constData());
         return false;
     }
 
-    m_bConnected = true;
+    m_connection->setConnected(true);
     // The name shown for the device carries the user id: read it here, so
     // the panels never ask the camera for it.
     readUserIdFromCamera();
     emitStatus(MSG_DEVICE_CONNECTED);
 
-    if (isGigE())
-    {
-        if (!camera->setAnswerTimeout(link.answerTimeout))
-            LOG_ERROR("setAnswerTimeout %u fail. [%s]", unsigned(link.answerTimeout), errorText().constData());
-        if (!camera->setHeartbeatIntervel(link.heartbeat))
-            LOG_ERROR("setHeartbeatIntervel %u fail. [%s]", unsigned(link.heartbeat), errorText().constData());
-    }
+    if (camera->getType() == typeGigEVision)
+        link.applyToCamera(camera);
+    m_events->attach(camera, weak_from_this(), getDeviceKey());
 
-    const TSharedPtr<CInternalEventManager> events = Vorlen::Memory::makeShared<CInternalEventManager>(m_spCamera);
-    setStreamObjects(TSharedPtr<CInternalStreamSource>(), events);
-    subscribeEvents();
-
-    CIntNode hostPort(m_spCamera, "GevSCPHostPort");
+    CIntNode hostPort(camera, "GevSCPHostPort");
     if (hostPort.isValid())
     {
         long port = 0;
         if (hostPort.getValue(port))
             m_nGevSCPHostPort = static_cast<unsigned int>(port);
         else
-            LOG_ERROR("get GevSCPHostPort fail. [%s]", errorText().constData());
+            LOG_ERROR("get GevSCPHostPort fail. [%s]", CDeviceFeatures::errorText().constData());
     }
-
-    const TSharedPtr<CInternalStreamSource> stream = Vorlen::Memory::makeShared<CInternalStreamSource>(m_spCamera, 0);
-    if (!stream->resetStatisticsInfo())
-        LOG_ERROR("resetStatisticsInfo fail. [%s]", errorText().constData());
-    setStreamObjects(stream, events);
+    m_stream->create(camera);
     return true;
 }
 
-void CTavDevice::deliverWorkerResults()
+bool CTavDevice::disconnectOnWorker()
 {
-    // Synchronous callers: wait for the worker, then deliver what it queued
-    // for this thread (bus messages and results) in the order it was sent.
-    m_pConnectThread->waitIdle();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-}
-
-void CTavDevice::onConnectResult(bool ok, quint64 generation)
-{
-    // A result already taken by a synchronous call, or of a request that a
-    // loss report overtook, changes nothing.
-    if (generation != m_nGeneration || m_eState != stateConnecting)
-        return;
-    onDeviceConnect(ok);
-}
-
-void CTavDevice::onDeviceConnect(bool ok)
-{
-    if (!ok)
-    {
-        m_eState = stateDisconnected;
-        m_bCloseAfterConnect = false;
-        emitStatus(MSG_DEVICE_CONNECT_FAILED);
-        return;
-    }
-    m_eState = stateConnected;
-    if (m_bCloseAfterConnect)
-    {
-        m_bCloseAfterConnect = false;
-        LOG_DEBUG("carry out the close asked for during the connection. [%s]", m_strKey.toLocal8Bit().constData());
-        closeDevice(false);
-    }
-}
-
-void CTavDevice::subscribeEvents()
-{
-    const TSharedPtr<CInternalEventManager> events = getEventManager();
-    if (!events)
-        return;
-
-    // Library threads call these; they only emit. The weak reference keeps a
-    // device that is going away from being touched.
-    const std::weak_ptr<CTavDevice> weak = weak_from_this();
-    const QString key = m_strKey;
-
-    if (!events->subscribeConnectArgs([weak, key](const SConnectArg& arg) {
-            if (arg.event != connectEventOffline)
-                return;
-            if (const std::shared_ptr<CTavDevice> device = weak.lock())
-                emit device->device_offline(key);
-        }))
-        LOG_ERROR("subscribeConnectArgs fail. [%s]", errorText().constData());
-
-    if (!events->subscribeParamUpdate([weak, key](const SParamUpdataArg& arg) {
-            const std::shared_ptr<CTavDevice> device = weak.lock();
-            if (!device)
-                return;
-            // A user id written elsewhere (the feature panel) refreshes the cache.
-            for (const CString& name : arg.paramNames)
-            {
-                if (name == CString("DeviceUserID"))
-                {
-                    device->refreshUserId();
-                    break;
-                }
-            }
-            emit device->device_param_update(arg, key);
-        }))
-        LOG_ERROR("subscribeParamUpdate fail. [%s]", errorText().constData());
-
-    if (!events->subscribeStreamArg([weak, key](const SStreamArg& arg) {
-            if (const std::shared_ptr<CTavDevice> device = weak.lock())
-                emit device->device_stream_event(arg, key);
-        }))
-        LOG_ERROR("subscribeStreamArg fail. [%s]", errorText().constData());
-
-    if (!events->subscribeMsgChannel([weak, key](const SMsgChannelArg& arg) {
-            if (const std::shared_ptr<CTavDevice> device = weak.lock())
-                emit device->device_msg_channel(arg, key);
-        }))
-        LOG_ERROR("subscribeMsgChannel fail. [%s]", errorText().constData());
-}
-
-void CTavDevice::unsubscribeEvents()
-{
-    const TSharedPtr<CInternalEventManager> events = getEventManager();
-    if (!events)
-        return;
-    if (!events->unsubscribeConnectArgs())
-        LOG_ERROR("unsubscribeConnectArgs fail. [%s]", errorText().constData());
-    if (!events->unsubscribeParamUpdate())
-        LOG_ERROR("unsubscribeParamUpdate fail. [%s]", errorText().constData());
-    if (!events->unsubscribeStreamArg())
-        LOG_ERROR("unsubscribeStreamArg fail. [%s]", errorText().constData());
-    if (!events->unsubscribeMsgChannel())
-        LOG_ERROR("unsubscribeMsgChannel fail. [%s]", errorText().constData());
-}
-
-void CTavDevice::releaseConnectionObjects()
-{
-    stopStreamThread();
-    m_pStreamThread->setStream(nullptr);
-    m_pStreamThread->setDevice(nullptr);
-    setStreamObjects(TSharedPtr<CInternalStreamSource>(), TSharedPtr<CInternalEventManager>());
-}
-
-bool CTavDevice::closeDevice(bool bSync)
-{
-    const QByteArray key = m_strKey.toLocal8Bit();
-    LOG_DEBUG("begin to closeDevice. [%s]", key.constData());
-    switch (connectionState())
-    {
-    case stateDisconnected:
-        LOG_WARN("device is not open, closeDevice ignored. [%s]", key.constData());
-        return false;
-    case stateDisconnecting:
-        LOG_WARN("device is already closing. [%s]", key.constData());
-        return false;
-    case stateConnecting:
-        // Carried out as soon as the connection has finished.
-        m_bCloseAfterConnect = true;
-        LOG_DEBUG("close asked for during the connection; it follows the connection. [%s]", key.constData());
-        if (!bSync)
-            return true;
-        // A connection that failed leaves nothing to close; a successful one
-        // starts the close when its result is handled: wait for that too.
-        deliverWorkerResults();
-        deliverWorkerResults();
-        return m_eState == stateDisconnected;
-    case stateConnected:
-        break;
-    }
-
-    m_eState = stateDisconnecting;
-    m_bStreamRequested = false;
-    const quint64 generation = ++m_nGeneration;
-    postJob([this, generation]() {
-        // Announced from the worker, so that it follows whatever the worker
-        // reported before (a stream that opened just now).
-        emitStatus(MSG_DEVICE_DISCONNECTING);
-        closeStreamOnWorker();
-        const bool ok = disconnectOnWorker(false);
-        emit m_pConnectThread->device_disconnect(ok, generation);
-        LOG_DEBUG("CDeviceConnectThread run end");
-    });
-    if (bSync)
-        deliverWorkerResults();
-    LOG_DEBUG("end to closeDevice. [%s]", key.constData());
-    return true;
-}
-
-bool CTavDevice::disconnectOnWorker(bool offline)
-{
-    if (!offline)
-        unsubscribeEvents();
-    releaseConnectionObjects();
-    LOG_DEBUG("CDeviceConnectThread run begin");
-    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-    bool ok = false;
-    if (camera.get() == nullptr)
-    {
-        LOG_ERROR("m_spCamera.get() is NULL!");
-    }
-    else
-    {
-        ok = camera->disConnect();
-        if (!ok)
-            LOG_ERROR("disConnect [%s] fail. [%s]", camera->getKey().c_str(), errorText().constData());
-    }
-    m_bConnected = false;
-    setCachedUserId(CString());
+    const bool ok = takeDown(*m_events, *m_stream, getInternalDevice());
+    m_connection->setConnected(false);
+    m_names->setUserId(CString());
     return ok;
-}
-
-void CTavDevice::onDisconnectResult(bool ok, quint64 generation)
-{
-    if (generation != m_nGeneration || m_eState != stateDisconnecting)
-        return;
-    onDeviceDisConnect(ok);
-}
-
-void CTavDevice::onDeviceDisConnect(bool ok)
-{
-    m_eState = stateDisconnected;
-    m_bStreamRequested = false;
-    if (m_bOfflineCleanup)
-    {
-        // The loss has been reported (message 6); nothing more to say.
-        m_bOfflineCleanup = false;
-        return;
-    }
-    if (!ok)
-        LOG_ERROR("disconnect device fail. [%s]", m_strKey.toLocal8Bit().constData());
-    emitStatus(MSG_DEVICE_DISCONNECTED);
-}
-
-void CTavDevice::onDeviceOffline()
-{
-    // A late report after the device was closed, or a second one, changes nothing.
-    if (!m_bConnected || m_bOfflineCleanup || m_eState == stateDisconnected)
-        return;
-
-    const QByteArray key = m_strKey.toLocal8Bit();
-    LOG_WARN("Device offline.Device Key[%s]", key.constData());
-    if (m_eState == stateDisconnecting)
-    {
-        // A close is already taking the connection down; it ends with
-        // message 5 as asked.
-        return;
-    }
-
-    m_bConnected = false;
-    m_bStreamRequested = false;
-    m_bCloseAfterConnect = false;
-    m_bOfflineCleanup = true;
-    m_eState = stateDisconnecting;
-    const quint64 generation = ++m_nGeneration;
-    emitStatus(MSG_DEVICE_OFFLINE);
-
-    // The dead connection is taken down on the worker, after whatever it is
-    // doing: stopping the stream of a vanished camera waits for its
-    // timeouts, and the library must forget the connection before the
-    // camera can be connected again.
-    postJob([this, generation]() {
-        unsubscribeEvents();
-        const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
-        stopStreamThread();
-        if (stream && stream->isGrabbing() && !stream->stopGrabbing())
-            LOG_ERROR("stopGrabbing fail. [%s]", errorText().constData());
-        const bool ok = disconnectOnWorker(true);
-        emit m_pConnectThread->device_disconnect(ok, generation);
-        LOG_DEBUG("CDeviceConnectThread run end");
-    });
 }
 
 void CTavDevice::onRefreshAccessStatusFinished(ECameraAccessPermission permission)
@@ -572,8 +298,8 @@ void CTavDevice::onRefreshAccessStatusFinished(ECameraAccessPermission permissio
 
 void CTavDevice::refreshAccessPermission()
 {
-    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-    if (!camera || !isGigE())
+    const CInternalCameraPtr camera = getInternalDevice();
+    if (!camera || camera->getType() != typeGigEVision)
         return;
     m_pAccessStatusThread->RefreshAccessStatus(camera);
 }
@@ -582,138 +308,71 @@ void CTavDevice::refreshAccessPermission()
 
 bool CTavDevice::openStream()
 {
-    LOG_DEBUG("begin to open a stream channel.");
-    const EConnectionState state = connectionState();
-    if (!m_bConnected || (state != stateConnected && state != stateConnecting))
-    {
-        LOG_ERROR("open stream error. isConnected: %d.", int(m_bConnected.load()));
-        return false;
-    }
-    if (m_bStreamRequested)
-    {
-        LOG_ERROR("camera is already grabbing.");
-        return false;
-    }
-    m_bStreamRequested = true;
-    // The save throttle is armed from the configuration here, on the GUI thread.
-    m_pStreamThread->Init();
-    const SStreamSettings settings = streamSettings();
-    postJob([this, settings]() { openStreamOnWorker(settings); });
-    return true;
+    return m_connection->openStream();
 }
 
-void CTavDevice::openStreamOnWorker(const SStreamSettings& settings)
+bool CTavDevice::openStreamOnWorker(const CDeviceLinkSettings& settings)
 {
-    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
-    if (!m_bConnected || !stream)
+    if (!isConnected() || !m_stream->source())
     {
-        LOG_ERROR("open stream error. isConnected: %d.", int(m_bConnected.load()));
-        emit streamOpenFailed();
-        return;
+        LOG_ERROR("open stream error. isConnected: %d.", int(isConnected()));
+        return false;
     }
-    if (stream->isGrabbing())
-    {
-        LOG_ERROR("camera is already grabbing.");
-        emit streamOpenFailed();
-        return;
-    }
-
-    m_pStreamThread->setStream(stream);
-    m_pStreamThread->setDevice(getInternalDevice());
-    bool installed = true;
-    if (isDriverInstalled(installed))
-        m_pStreamThread->setDriverInstalled(installed);
-
-    long width = 0;
-    long height = 0;
-    if (getParaIntValue("Width", width))
-        m_pStreamThread->setWidthReg(width);
-    if (getParaIntValue("Height", height))
-        m_pStreamThread->setHeightReg(height);
-    m_pStreamThread->setCompressionModeJpeg(isCompressionModeJpeg());
-
-    m_pStreamThread->start(QThread::TimeCriticalPriority);
-
-    if (!stream->setBufferCount(settings.bufferCount))
-        LOG_ERROR("set buffer count %u errror.", settings.bufferCount);
-    if (isGigE())
-    {
-        if (!stream->setInterPacketTimeout(settings.interPacketTimeout))
-            LOG_ERROR("set InterPacketTimeout %u errror.", settings.interPacketTimeout);
-        if (!stream->setSingleResendMaxPacketNum(settings.singleResendMaxPackNum))
-            LOG_ERROR("set SingleResendMaxPacketNum %u errror.", settings.singleResendMaxPackNum);
-        if (!stream->setMaxLostPacketNum(settings.maximumLostPacketNum))
-            LOG_ERROR("set MaxLostPacketNum %u errror.", settings.maximumLostPacketNum);
-    }
-    else if (isUsb())
-    {
-        if (!stream->setUrbTransfer(settings.urbNumber, settings.urbSize))
-            LOG_ERROR("set urb number count %u, urb size count %u errror.", settings.urbNumber, settings.urbSize);
-    }
-
-    if (!stream->startGrabbing())
-    {
-        LOG_ERROR("[%s]", errorText().constData());
-        stopStreamThread();
-        emit streamOpenFailed();
-        return;
-    }
-
+    if (!m_stream->open(getDevice(), settings))
+        return false;
     // Only a stream that really started is announced.
     emit signalStartGrab();
     emitStatus(MSG_STREAM_OPENED);
     LOG_DEBUG("end to open a stream channel.");
-}
-
-void CTavDevice::onStreamOpenFailed()
-{
-    m_bStreamRequested = false;
+    return true;
 }
 
 bool CTavDevice::closeStream()
 {
-    if (!getStreamSource())
-    {
-        LOG_DEBUG("begin closeStream.");
-        LOG_ERROR("m_ptrStream.get() is NULL.");
-        return false;
-    }
-    m_bStreamRequested = false;
-    postJob([this]() { closeStreamOnWorker(); });
-    return true;
+    return m_connection->closeStream();
 }
 
 void CTavDevice::closeStreamOnWorker()
 {
-    LOG_DEBUG("begin closeStream.");
-    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
-    if (stream.get() == nullptr)
-    {
-        LOG_ERROR("m_ptrStream.get() is NULL.");
-        stopStreamThread();
+    if (!m_stream->close())
         return;
-    }
-    stopStreamThread();
-    if (stream->isGrabbing() && !stream->stopGrabbing())
-        LOG_ERROR("stopGrabbing fail. [%s]", errorText().constData());
     emitStatus(MSG_STREAM_CLOSED);
     LOG_DEBUG("end closeStream.");
 }
 
 void CTavDevice::stopStreamThread()
 {
-    m_pStreamThread->stop();
-    m_pStreamThread->wait();
+    m_stream->stopThread();
+}
+
+StreamRetrieveThread* CTavDevice::GetStreamThread()
+{
+    return m_stream->thread();
+}
+
+TSharedPtr<CInternalStreamSource> CTavDevice::getStreamSource() const
+{
+    return m_stream->source();
+}
+
+TSharedPtr<CInternalEventManager> CTavDevice::getEventManager() const
+{
+    return m_events->eventManager();
+}
+
+bool CTavDevice::isGrabing() const
+{
+    return m_stream->isGrabbing();
 }
 
 bool CTavDevice::isDriverInstalled(bool& installed)
 {
-    const TSharedPtr<CInternalCamera> camera = getInternalDevice();
+    const CInternalCameraPtr camera = getInternalDevice();
     if (!camera)
         return false;
     if (!camera->isDriverInstalled(installed))
     {
-        LOG_ERROR("isDriverInstalled fail. [%s]", errorText().constData());
+        LOG_ERROR("isDriverInstalled fail. [%s]", CDeviceFeatures::errorText().constData());
         return false;
     }
     return true;
@@ -721,203 +380,105 @@ bool CTavDevice::isDriverInstalled(bool& installed)
 
 bool CTavDevice::isCompressionModeJpeg()
 {
-    CEnumNode node(m_spCamera, "ImageCompressionMode");
-    if (!node.isValid())
-    {
-        LOG_ERROR("get ImageCompressionMode node fail");
-        return false;
-    }
-    if (!node.isReadable())
-    {
-        LOG_ERROR("ImageCompressionMode is not readable");
-        return false;
-    }
-    Vorlen::Infra::TVector<CInternalParameterNode::SEnumEntry> entries;
-    if (!node.getEnumEntry(entries))
-    {
-        LOG_ERROR("getEnumEntry ImageCompressionMode fail");
-        return false;
-    }
-    unsigned long value = 0;
-    if (!node.getEnumValue(value))
-    {
-        LOG_ERROR("getEnumValue ImageCompressionMode fail");
-        return false;
-    }
-    for (const auto& entry : entries)
-    {
-        if (entry.value == value)
-            return entry.symbol == CString("JPEG");
-    }
-    return false;
+    return CDeviceFeatures::isCompressionModeJpeg(getDevice());
 }
 
 void CTavDevice::setShowChunkData(bool show)
 {
-    m_pStreamThread->setShowTrunkData(show);
+    m_stream->thread()->setShowTrunkData(show);
 }
 
 void CTavDevice::setDisplayFPS(int fps)
 {
-    m_pStreamThread->setDisplayFPS(fps);
+    m_stream->thread()->setDisplayFPS(fps);
 }
 
 void CTavDevice::getStreamStatistic(QString& receiveFps, QString& displayFps, unsigned long long& totalFrames,
                                     QString& bandwidth)
 {
-    m_pStreamThread->getStatistic()->getStatistic(receiveFps, displayFps, totalFrames, bandwidth);
+    m_stream->getStatistic(receiveFps, displayFps, totalFrames, bandwidth);
 }
 
 void CTavDevice::getStreamStatistic(QString& receiveFps, QString& displayFps, unsigned long long& totalFrames,
                                     QString& bandwidth, QString& errorText, unsigned long long& errorCount)
 {
-    m_pStreamThread->getStatistic()->getStatistic(receiveFps, displayFps, totalFrames, bandwidth, errorText,
-                                                  errorCount);
+    m_stream->getStatistic(receiveFps, displayFps, totalFrames, bandwidth, &errorText, &errorCount);
 }
 
 bool CTavDevice::getStatisticsInfo(StreamStatisticsInfo& info)
 {
-    const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
-    if (!stream)
-        return false;
-    return stream->getStatisticsInfo(info);
+    return m_stream->getStatisticsInfo(info);
 }
 
 bool CTavDevice::doPropertyReset()
 {
-    CEnumNode selector(m_spCamera, "UserSetSelector");
-    if (selector.isValid() && selector.isWriteable())
-    {
-        if (!selector.setValueBySymbol("Default"))
-            LOG_ERROR("set UserSetSelector Default fail. [%s]", errorText().constData());
-    }
-    CEnumNode userSetDefault(m_spCamera, "UserSetDefault");
-    if (userSetDefault.isValid() && userSetDefault.isWriteable())
-    {
-        if (!userSetDefault.setValueBySymbol("Default"))
-            LOG_ERROR("set UserSetDefault Default fail. [%s]", errorText().constData());
-    }
-    CCmdNode load(m_spCamera, "UserSetLoad");
-    if (!load.execute())
-    {
-        LOG_ERROR("execute UserSetLoad fail. [%s]", errorText().constData());
-        return false;
-    }
-    return true;
+    return CDeviceFeatures::loadFactoryUserSet(getDevice());
 }
 
 // ---------------------------------------------------------------- features
 
 CInternalParameterNodePtr CTavDevice::getParam(const char* name)
 {
-    return Vorlen::Memory::makeShared<CInternalParameterNode>(m_spCamera, name);
+    return Vorlen::Memory::makeShared<CInternalParameterNode>(getDevice(), name);
 }
 
 bool CTavDevice::getParaIntValue(const char* name, long& value)
 {
-    CIntNode node(m_spCamera, name);
-    if (!node.getValue(value))
-    {
-        LOG_ERROR("get %s value fail. [%s]", name, errorText().constData());
-        return false;
-    }
-    return true;
+    return CDeviceFeatures::call<CIntNode>(getDevice(), name, "get", [&](CIntNode& n) { return n.getValue(value); });
 }
 
 bool CTavDevice::setParaIntValue(const char* name, long value)
 {
-    CIntNode node(m_spCamera, name);
-    if (!node.setValue(value))
-    {
-        LOG_ERROR("set %s value %ld fail. [%s]", name, value, errorText().constData());
-        return false;
-    }
-    return true;
+    return CDeviceFeatures::call<CIntNode>(
+        getDevice(), name, "set", [value](CIntNode& n) { return n.setValue(value); }, numberText(value));
 }
 
 bool CTavDevice::getParaEnumValue(const char* name, unsigned long& value)
 {
-    CEnumNode node(m_spCamera, name);
-    if (!node.getEnumValue(value))
-    {
-        LOG_ERROR("get %s value fail. [%s]", name, errorText().constData());
-        return false;
-    }
-    return true;
+    return CDeviceFeatures::call<CEnumNode>(getDevice(), name, "get",
+                                            [&](CEnumNode& n) { return n.getEnumValue(value); });
 }
 
 bool CTavDevice::getParaEnumValue(const char* name, QString& symbol)
 {
-    CEnumNode node(m_spCamera, name);
     CString value;
-    if (!node.getValueSymbol(value))
-    {
-        LOG_ERROR("get %s value fail. [%s]", name, errorText().constData());
+    if (!CDeviceFeatures::call<CEnumNode>(getDevice(), name, "get",
+                                          [&](CEnumNode& n) { return n.getValueSymbol(value); }))
         return false;
-    }
     symbol = QString::fromLocal8Bit(value.c_str());
     return true;
 }
 
 bool CTavDevice::setParamEnumValue(const char* name, unsigned long value)
 {
-    CEnumNode node(m_spCamera, name);
-    if (!node.setEnumValue(value))
-    {
-        LOG_ERROR("set %s value %lu fail. [%s]", name, value, errorText().constData());
-        return false;
-    }
-    return true;
+    return CDeviceFeatures::call<CEnumNode>(
+        getDevice(), name, "set", [value](CEnumNode& n) { return n.setEnumValue(value); },
+        QByteArray::number(qulonglong(value)));
 }
 
 bool CTavDevice::getParaBoolValue(const char* name, bool& value)
 {
-    CBoolNode node(m_spCamera, name);
-    if (!node.getValue(value))
-    {
-        LOG_ERROR("get %s value fail. [%s]", name, errorText().constData());
-        return false;
-    }
-    return true;
+    return CDeviceFeatures::call<CBoolNode>(getDevice(), name, "get", [&](CBoolNode& n) { return n.getValue(value); });
 }
 
 bool CTavDevice::setParaBoolValue(const char* name, bool value)
 {
-    CBoolNode node(m_spCamera, name);
-    if (!node.setValue(value))
-    {
-        LOG_ERROR("set %s value %d fail. [%s]", name, int(value), errorText().constData());
-        return false;
-    }
-    return true;
+    return CDeviceFeatures::call<CBoolNode>(
+        getDevice(), name, "set", [value](CBoolNode& n) { return n.setValue(value); }, value ? "1" : "0");
 }
 
 bool CTavDevice::getParaStringValue(const char* name, QString& value, int& maxLength)
 {
-    CStringNode node(m_spCamera, name);
-    CString text;
-    if (!node.getValue(text))
-    {
-        LOG_ERROR("get %s value fail. [%s]", name, errorText().constData());
-        return false;
-    }
-    value = QString::fromLocal8Bit(text.c_str());
-    unsigned int length = 0;
-    if (node.getMaxStringLen(length))
-        maxLength = static_cast<int>(length);
-    else
-        LOG_ERROR("get %s max length fail. [%s]", name, errorText().constData());
-    return true;
+    return CDeviceFeatures::readString(getDevice(), name, value, maxLength);
 }
 
 bool CTavDevice::setParaStringValue(const char* name, QString value)
 {
-    CStringNode node(m_spCamera, name);
-    if (!node.setValue(CString(value.toLocal8Bit().constData())))
-    {
-        LOG_ERROR("set %s value fail. [%s]", name, errorText().constData());
+    const QByteArray text = value.toLocal8Bit();
+    if (!CDeviceFeatures::call<CStringNode>(getDevice(), name, "set", [&text](CStringNode& n) {
+            return n.setValue(CString(text.constData()));
+        }))
         return false;
-    }
     // The caller already waits on the camera: read back what it kept.
     if (std::strcmp(name, "DeviceUserID") == 0)
         readUserIdFromCamera();
@@ -926,30 +487,16 @@ bool CTavDevice::setParaStringValue(const char* name, QString value)
 
 bool CTavDevice::getParamEnumList(const char* name, QStringList& symbols)
 {
-    CEnumNode node(m_spCamera, name);
-    Vorlen::Infra::TVector<CString> list;
-    if (!node.getEnumSymbolList(list))
-    {
-        LOG_ERROR("get %s enum list fail. [%s]", name, errorText().constData());
-        return false;
-    }
-    symbols.clear();
-    for (const CString& symbol : list)
-        symbols.append(QString::fromLocal8Bit(symbol.c_str()));
-    return true;
+    return CDeviceFeatures::readEnumSymbols(getDevice(), name, symbols);
 }
 
 bool CTavDevice::setPersistentIp(const QString& ip, const QString& mask, const QString& gateway)
 {
-    bool ok = true;
-    if (!setParaBoolValue("GevCurrentIPConfigurationPersistentIP", true))
-        ok = false;
-    if (!setParaIntValue("GevPersistentIPAddress", static_cast<long>(QHostAddress(ip).toIPv4Address())))
-        ok = false;
-    if (!setParaIntValue("GevPersistentSubnetMask", static_cast<long>(QHostAddress(mask).toIPv4Address())))
-        ok = false;
-    if (!setParaIntValue("GevPersistentDefaultGateway", static_cast<long>(QHostAddress(gateway).toIPv4Address())))
-        ok = false;
+    bool ok = setParaBoolValue("GevCurrentIPConfigurationPersistentIP", true);
+    const QString addresses[] = {ip, mask, gateway};
+    const char* names[] = {"GevPersistentIPAddress", "GevPersistentSubnetMask", "GevPersistentDefaultGateway"};
+    for (int i = 0; i < 3; ++i)
+        ok = setParaIntValue(names[i], static_cast<long>(QHostAddress(addresses[i]).toIPv4Address())) && ok;
     return ok;
 }
 
@@ -957,78 +504,37 @@ bool CTavDevice::setPersistentIp(const QString& ip, const QString& mask, const Q
 
 bool CTavDevice::generateDeviceName(CString& name)
 {
-    if (!m_spCamera)
-        return false;
-    name = m_spCamera->getName() + CString(" (") + m_spCamera->getSerialNumber() + CString(")");
-    return true;
+    return CDeviceNames::deviceName(getDevice(), name);
 }
 
 bool CTavDevice::generateDeviceNameByUserID(CString& name)
 {
-    if (!m_spCamera)
-        return false;
-    CString userId;
-    if (m_bConnected)
-    {
-        QMutexLocker locker(&m_userIdMutex);
-        userId = m_strUserId;
-    }
-    if (userId.empty())
-        return generateDeviceName(name);
-    name = userId + CString(" (") + m_spCamera->getSerialNumber() + CString(")");
-    return true;
+    return m_names->nameByUserId(getDevice(), isConnected(), name);
 }
 
 QString CTavDevice::cachedUserId() const
 {
-    QMutexLocker locker(&m_userIdMutex);
-    return QString::fromLocal8Bit(m_strUserId.c_str());
+    return m_names->userId();
 }
 
-void CTavDevice::setCachedUserId(const CString& userId)
+void CTavDevice::readUserIdFromCamera()
 {
-    QMutexLocker locker(&m_userIdMutex);
-    m_strUserId = userId;
-}
-
-bool CTavDevice::readUserIdFromCamera()
-{
-    CString userId;
-    CStringNode node(m_spCamera, "DeviceUserID");
-    if (node.isValid() && node.isReadable() && !node.getValue(userId))
-        LOG_ERROR("get DeviceUserID value fail. [%s]", errorText().constData());
-    QMutexLocker locker(&m_userIdMutex);
-    if (m_strUserId == userId)
-        return false;
-    m_strUserId = userId;
-    return true;
+    m_names->setUserId(CDeviceFeatures::readUserId(getDevice()));
 }
 
 void CTavDevice::refreshUserId()
 {
-    if (!m_bConnected)
+    if (!isConnected())
         return;
     postJob([this]() {
-        if (m_bConnected)
+        if (isConnected())
             readUserIdFromCamera();
     });
 }
 
 QString CTavDevice::getDeviceSaveName()
 {
-    if (!m_spCamera)
-        return QString();
-    QString stem = QString("%1_%2")
-                       .arg(QString::fromLocal8Bit(m_spCamera->getName().c_str()),
-                            QString::fromLocal8Bit(m_spCamera->getSerialNumber().c_str()));
-    // Keep the name usable as a directory and file name.
-    for (QChar& c : stem)
-    {
-        if (c == '/' || c == '\\' || c == ':' || c == '*' || c == '?' || c == '"' || c == '<' || c == '>' ||
-            c == '|' || c.isSpace())
-            c = '_';
-    }
-    return stem;
+    return CDeviceNames::saveName(getDevice());
 }
 
 // ---------------------------------------------------------------- configuration
@@ -1037,59 +543,37 @@ QString CTavDevice::getDeviceSaveName()
 
 void CTavDevice::onAnswerTimeoutChanged(uint16_t ms)
 {
-    if (!m_bConnected || !isGigE())
-        return;
-    postJob([this, ms]() {
-        const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-        if (!m_bConnected || !camera)
-            return;
-        if (!camera->setAnswerTimeout(ms))
-            LOG_ERROR("set AnswerTimeout %u errror.", unsigned(ms));
-    });
+    applyLinkSetting(CDeviceLinkSettings::keyAnswerTimeout, ms);
 }
 
 void CTavDevice::onHeartbeatIntervalChanged(uint16_t ms)
 {
-    if (!m_bConnected || !isGigE())
-        return;
-    postJob([this, ms]() {
-        const TSharedPtr<CInternalCamera> camera = getInternalDevice();
-        if (!m_bConnected || !camera)
-            return;
-        if (!camera->setHeartbeatIntervel(ms))
-            LOG_ERROR("set HeartbeatInterval %u errror.", unsigned(ms));
-    });
+    applyLinkSetting(CDeviceLinkSettings::keyHeartbeatInterval, ms);
 }
 
 void CTavDevice::onInterPacketTimeoutChanged(uint32_t ms)
 {
-    if (!getStreamSource() || !isGigE())
-        return;
-    postJob([this, ms]() {
-        const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
-        if (stream && !stream->setInterPacketTimeout(ms))
-            LOG_ERROR("set InterPacketTimeout %u errror.", ms);
-    });
+    applyLinkSetting(CDeviceLinkSettings::keyInterPacketTimeout, ms);
 }
 
 void CTavDevice::onSingleResendMaxPackNumChanged(uint32_t count)
 {
-    if (!getStreamSource() || !isGigE())
-        return;
-    postJob([this, count]() {
-        const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
-        if (stream && !stream->setSingleResendMaxPacketNum(count))
-            LOG_ERROR("set SingleResendMaxPacketNum %u errror.", count);
-    });
+    applyLinkSetting(CDeviceLinkSettings::keySingleResendMaxPackNum, count);
 }
 
 void CTavDevice::onMaximumLostPacketNumChanged(uint32_t count)
 {
-    if (!getStreamSource() || !isGigE())
+    applyLinkSetting(CDeviceLinkSettings::keyMaximumLostPacketNum, count);
+}
+
+void CTavDevice::applyLinkSetting(CDeviceLinkSettings::EKey key, uint32_t value)
+{
+    // Camera settings need a connection, stream settings a stream source.
+    const bool onStream = CDeviceLinkSettings::isStreamSetting(key);
+    if (interfaceType() != typeGigEVision || !(onStream ? bool(getStreamSource()) : isConnected()))
         return;
-    postJob([this, count]() {
-        const TSharedPtr<CInternalStreamSource> stream = getStreamSource();
-        if (stream && !stream->setMaxLostPacketNum(count))
-            LOG_ERROR("set MaxLostPacketNum %u errror.", count);
+    postJob([this, key, value, onStream]() {
+        if (onStream || isConnected())
+            CDeviceLinkSettings::apply(key, value, getInternalDevice(), getStreamSource());
     });
 }

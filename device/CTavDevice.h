@@ -3,20 +3,39 @@
 // thread, applies the link settings of the configuration, forwards its events
 // as Qt signals, runs its stream with a StreamRetrieveThread and offers typed
 // feature access by name. Owned by the device manager, shared as CTavDevicePtr.
-#include <QObject>
-#include <QPoint>
-#include <QString>
+//
+// The work is split in parts behind this interface: CDeviceConnection (where
+// the connection stands, and the device's worker that every camera round
+// trip of a request runs on), CDeviceStream (stream source and retrieval
+// thread), CDeviceEventBridge (the camera's events as this object's signals),
+// CDeviceFeatures (typed feature access), CDeviceNames (names and the user
+// id cache) and CDeviceLinkSettings (the configuration's link settings and
+// how each is applied).
+//
+// Threads: the object lives on the GUI thread, which alone changes the
+// connection state. The camera handle and its key, the stream source, the
+// event manager, the user id and the parameter file name are guarded; the
+// flags read by other threads are atomic. Nothing here waits on a camera on
+// the GUI thread, destruction included: a device that goes while its camera
+// is still open hands the closing to its worker, which ends by itself.
 #include <QMutex>
+#include <QObject>
+#include <QString>
 #include <QStringList>
 #include <atomic>
 #include <functional>
+#include <memory>
 
+#include "CDeviceLinkSettings.h"
 #include "CTavMessage.h"
 #include "StreamRetrieveThread.h"
 #include "Vorlen/GenICam.h"
 
-class CDeviceConnectThread;
 class AccessStatusThread;
+class CDeviceConnection;
+class CDeviceEventBridge;
+class CDeviceNames;
+class CDeviceStream;
 
 class CTavDevice : public QObject, public Vorlen::Memory::TEnableSharedFromThis<CTavDevice>
 {
@@ -47,14 +66,19 @@ public:
         stateDisconnecting = 3   // a close (or the clean-up after a loss) under way
     };
 
+    // How long a synchronous open or close waits for the device's worker;
+    // after that the result arrives as with the asynchronous form.
+    static const int kSyncWaitMs = 15000;
     // bSync false: the connection and the steps after it run on the device's
     // worker and the result arrives later (message 2 or 3); true: the caller
-    // waits for the worker and gets the result. A call while a connection,
+    // waits for the worker (at most kSyncWaitMs; for tests and tools, never
+    // the application's GUI) and gets the result. A call while a connection,
     // or a close, is under way starts nothing.
     bool openDevice(bool bSync);
     // bSync false: the close runs on the device's worker (message 5 when it
-    // is done); true: the caller waits for it. A close asked for during a
-    // connection is carried out once the connection has finished.
+    // is done); true: the caller waits for it, as openDevice(true) does. A
+    // close asked for during a connection is carried out once the connection
+    // has finished.
     bool closeDevice(bool bSync);
     // Requests that return at once (true when accepted); the worker reports
     // with message 7 (stream opened, a failure is logged) and message 8.
@@ -75,30 +99,32 @@ public:
                             QString& bandwidth, QString& errorText, unsigned long long& errorCount);
     bool getStatisticsInfo(Vorlen::GenICam::StreamStatisticsInfo& info);
 
-    StreamRetrieveThread* GetStreamThread() { return m_pStreamThread; }
+    StreamRetrieveThread* GetStreamThread();
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> getStreamSource() const;
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager> getEventManager() const;
     // The device's worker has a job queued or running.
     bool isConnectThreadRunning() const;
     // Waits until the worker has run every job asked for so far (timeoutMs
-    // < 0: without limit); true when it is idle. For tests and shutdown.
+    // < 0: without limit); true when it is idle. For tests and tools.
     bool waitForWorker(int timeoutMs = -1);
 
     // ---- state
-    EConnectionState connectionState() const { return EConnectionState(m_eState.load()); }
-    bool isConnecting() const { return m_eState == stateConnecting; }
-    bool isDisconnecting() const { return m_eState == stateDisconnecting; }
+    EConnectionState connectionState() const;
+    bool isConnecting() const { return connectionState() == stateConnecting; }
+    bool isDisconnecting() const { return connectionState() == stateDisconnecting; }
     // The camera is connected (set by the worker as soon as it is).
-    bool isConnected() const { return m_bConnected; }
+    bool isConnected() const;
+    // Connected, connecting or closing: not yet back at rest.
+    bool isActive() const { return connectionState() != stateDisconnected || isConnected(); }
     // A stream has been asked for and not closed since.
-    bool isStreamRequested() const { return m_bStreamRequested; }
+    bool isStreamRequested() const;
     bool isGrabing() const;
     void setAcqModeEnable(bool enable) { m_bAcqModeEnable = enable; }
     bool isAcqModeEnable() const { return m_bAcqModeEnable; }
     unsigned int getGevSCPHostPort() const { return m_nGevSCPHostPort; }
     Vorlen::GenICam::ECameraAccessPermission getAccessPermission() const { return m_eAccessPermission; }
-    void setCurFile(const QString& file) { m_strCurFile = file; }
-    QString getCurFile() const { return m_strCurFile; }
+    void setCurFile(const QString& file);
+    QString getCurFile() const;
 
     // ---- features by name; each returns the library's result, failures logged
     Vorlen::GenICam::CInternalParameterNodePtr getParam(const char* name);
@@ -157,87 +183,48 @@ signals:
     void increaseDisplayFrame();
     void signalStartGrab();
 
-    void ROIChanged(int x, int y, int width, int height);
-    void signalInitROI(int x, int y, int width, int height);
-    void signalDrawROI(bool draw);
-    void signalCancelDrawROI();
-    void signaROIEnable(bool enable);
-    void cursorPoint(QPoint point);
-
-private slots:
-    void onConnectResult(bool ok, quint64 generation);
-    void onDisconnectResult(bool ok, quint64 generation);
-    void onStreamOpenFailed();
-
-signals:
-    // Worker to device: the stream did not start.
-    void streamOpenFailed();
-
 private:
-    // Values the worker needs, copied from the configuration on the GUI
-    // thread when the request is made.
-    struct SLinkSettings
-    {
-        uint16_t answerTimeout = 1000;
-        uint16_t heartbeat = 1500;
-    };
-    struct SStreamSettings
-    {
-        uint32_t bufferCount = 8;
-        uint32_t interPacketTimeout = 0;
-        uint32_t singleResendMaxPackNum = 65536;
-        uint32_t maximumLostPacketNum = 65536;
-        uint32_t urbNumber = 64;
-        uint32_t urbSize = 64;
-    };
+    friend class CDeviceConnection;
 
     CTavDevicePtr self();
-    // Queues work on the worker; the job keeps the device alive until it ran.
-    void postJob(std::function<void()> job);
-    void deliverWorkerResults();
-    // Worker side of the requests.
-    bool connectOnWorker(const SLinkSettings& link);
-    void openStreamOnWorker(const SStreamSettings& settings);
-    void closeStreamOnWorker();
-    bool disconnectOnWorker(bool offline);
-    // Reads DeviceUserID from the camera into the cache (not on the GUI
-    // thread); true when the cached value changed.
-    bool readUserIdFromCamera();
-    void setCachedUserId(const Vorlen::Infra::CString& userId);
-    void setStreamObjects(const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource>& stream,
-                          const Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager>& events);
-    static SLinkSettings linkSettings();
-    static SStreamSettings streamSettings();
+    // Queues work on the device's worker; the job keeps the device alive
+    // until it ran. False when the device is already going away.
+    bool postJob(std::function<void()> job);
     void emitStatus(EN_MESSAGE_TYPE type);
-    void subscribeEvents();
-    void unsubscribeEvents();
-    // Stream thread stopped, stream and event manager released.
-    void releaseConnectionObjects();
-    bool isGigE() const;
-    bool isUsb() const;
+    // A configuration change signal: applied on the worker to a connected
+    // GigE camera or its stream source.
+    void applyLinkSetting(CDeviceLinkSettings::EKey key, uint32_t value);
+    Vorlen::GenICam::EInterfaceType interfaceType() const;
 
+    // Worker side of the requests, called by CDeviceConnection's jobs.
+    // Connects the camera and, on success, takes the steps after it.
+    bool connectOnWorker(const CDeviceLinkSettings& link);
+    // The subscriptions end, the stream is stopped and released, then the
+    // camera's disConnect (also after a loss: the library must forget it).
+    bool disconnectOnWorker();
+    // False (logged) when the stream did not start.
+    bool openStreamOnWorker(const CDeviceLinkSettings& settings);
+    // Closes the stream; announces message 8 when there was one.
+    void closeStreamOnWorker();
+    // Reads DeviceUserID from the camera into the cache (not on the GUI
+    // thread).
+    void readUserIdFromCamera();
+
+    mutable QMutex m_mutex;   // m_spCamera, m_strKey, m_strCurFile
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::ICamera> m_spCamera;
     QString m_strKey;
-    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager> m_ptrEventManager;
-    Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalStreamSource> m_ptrStream;
+    QString m_strCurFile;
 
-    mutable QMutex m_objectMutex;   // m_ptrEventManager and m_ptrStream: written by the worker
-    mutable QMutex m_userIdMutex;   // m_strUserId: written off the GUI thread, read by the name functions
-    Vorlen::Infra::CString m_strUserId;
-
-    StreamRetrieveThread* m_pStreamThread = nullptr;
-    CDeviceConnectThread* m_pConnectThread = nullptr;
+    // Shared, so that the worker's last job can close them after the device.
+    std::shared_ptr<CDeviceStream> m_stream;
+    std::shared_ptr<CDeviceEventBridge> m_events;
+    std::unique_ptr<CDeviceNames> m_names;
+    std::unique_ptr<CDeviceConnection> m_connection;
     AccessStatusThread* m_pAccessStatusThread = nullptr;
 
-    std::atomic<int> m_eState{stateDisconnected};
-    std::atomic<bool> m_bConnected{false};
-    std::atomic<bool> m_bStreamRequested{false};
     std::atomic<bool> m_bAcqModeEnable{true};
-    bool m_bInitialized = false;
-    bool m_bCloseAfterConnect = false;   // a close was asked for during the connection
-    bool m_bOfflineCleanup = false;      // the worker tears down a lost connection
-    quint64 m_nGeneration = 0;           // number of the request whose result is awaited
     std::atomic<unsigned int> m_nGevSCPHostPort{0};
-    Vorlen::GenICam::ECameraAccessPermission m_eAccessPermission = Vorlen::GenICam::accessPermissionUnknown;
-    QString m_strCurFile;
+    std::atomic<Vorlen::GenICam::ECameraAccessPermission> m_eAccessPermission{
+        Vorlen::GenICam::accessPermissionUnknown};
+    bool m_bInitialized = false;   // GUI thread only
 };

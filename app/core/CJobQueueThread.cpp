@@ -1,8 +1,39 @@
 #include "CJobQueueThread.h"
 
 #include <QDeadlineTimer>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
 
 #include "Tavlog4cpp/TavLogMacros.h"
+
+namespace {
+// Workers with work (busy or retired and still running), process-wide.
+struct SWorkTally
+{
+    std::mutex mutex;
+    std::condition_variable quiet;
+    int count = 0;
+
+    void add(int delta)
+    {
+        std::lock_guard<std::mutex> locker(mutex);
+        count += delta;
+        if (count == 0)
+            quiet.notify_all();
+    }
+};
+
+SWorkTally& tally()
+{
+    // Never destroyed: retired threads may still report while the program
+    // ends.
+    static SWorkTally* instance = new SWorkTally;
+    return *instance;
+}
+} // namespace
 
 CJobQueueThread::CJobQueueThread(const char* name, QObject* parent) : QThread(parent), m_name(name) {}
 
@@ -10,6 +41,18 @@ CJobQueueThread::~CJobQueueThread()
 {
     stop(true);
     wait();
+    QMutexLocker locker(&m_mutex);
+    m_bRunningJob = false;
+    updateBusy();
+}
+
+void CJobQueueThread::updateBusy()
+{
+    const bool busy = !m_jobs.empty() || m_bRunningJob;
+    if (busy == m_bCountedBusy)
+        return;
+    m_bCountedBusy = busy;
+    tally().add(busy ? 1 : -1);
 }
 
 bool CJobQueueThread::post(Job job)
@@ -18,6 +61,7 @@ bool CJobQueueThread::post(Job job)
     if (m_bStop)
         return false;
     m_jobs.push_back(std::move(job));
+    updateBusy();
     if (!isRunning())
         start(QThread::InheritPriority);
     m_wake.wakeOne();
@@ -30,6 +74,7 @@ void CJobQueueThread::clearPending()
     {
         QMutexLocker locker(&m_mutex);
         dropped.swap(m_jobs);
+        updateBusy();
         if (!m_bRunningJob)
             m_idle.wakeAll();
     }
@@ -66,9 +111,15 @@ void CJobQueueThread::stop(bool dropPending)
     QMutexLocker locker(&m_mutex);
     m_bStop = true;
     if (dropPending)
+    {
         dropped.swap(m_jobs);
+        updateBusy();
+        if (!m_bRunningJob)
+            m_idle.wakeAll();
+    }
     m_wake.wakeAll();
     locker.unlock();
+    // The dropped jobs are released here, outside the lock.
 }
 
 bool CJobQueueThread::stopAndWait(int timeoutMs, bool dropPending)
@@ -77,22 +128,59 @@ bool CJobQueueThread::stopAndWait(int timeoutMs, bool dropPending)
     return wait(QDeadlineTimer(timeoutMs));
 }
 
-void CJobQueueThread::retire()
+void CJobQueueThread::retire(bool dropPending)
 {
     setParent(nullptr);
-    stop(true);
-    // finished() is emitted after isRunning() turns false (both under the
-    // thread's own lock), so either the connection sees it or the check
-    // below does. A second deleteLater() is harmless.
-    connect(this, &QThread::finished, this, &QObject::deleteLater, Qt::DirectConnection);
-    if (!isRunning())
+    // The run under way counts as work until the thread has handed itself
+    // over for deletion.
+    tally().add(1);
+    auto handedOver = std::make_shared<std::atomic<bool>>(false);
+    auto handOver = [this, handedOver]() {
+        if (handedOver->exchange(true))
+            return;
         deleteLater();
+        tally().add(-1);   // touches nothing of this object, which may be gone
+    };
+    stop(dropPending);
+    // finished() comes after isRunning() has turned false, so either the
+    // connection sees it or the check below does; the flag keeps it to once.
+    // The destructor's wait() then covers only the last instructions of
+    // the thread.
+    connect(this, &QThread::finished, this, handOver, Qt::DirectConnection);
+    if (!isRunning())
+        handOver();
 }
 
 bool CJobQueueThread::isStopping() const
 {
     QMutexLocker locker(&m_mutex);
     return m_bStop;
+}
+
+bool CJobQueueThread::pauseUnlessStopping(int ms)
+{
+    QDeadlineTimer deadline(ms);
+    QMutexLocker locker(&m_mutex);
+    while (!m_bStop)
+    {
+        // post() wakes the same condition too: wait on until the deadline.
+        if (!m_wake.wait(&m_mutex, deadline))
+            break;
+    }
+    return !m_bStop;
+}
+
+bool CJobQueueThread::waitUntilQuiet(int timeoutMs)
+{
+    SWorkTally& t = tally();
+    std::unique_lock<std::mutex> locker(t.mutex);
+    auto isQuiet = [&t]() { return t.count == 0; };
+    if (timeoutMs < 0)
+    {
+        t.quiet.wait(locker, isQuiet);
+        return true;
+    }
+    return t.quiet.wait_for(locker, std::chrono::milliseconds(timeoutMs), isQuiet);
 }
 
 void CJobQueueThread::run()
@@ -117,12 +205,14 @@ void CJobQueueThread::run()
         job = nullptr;
         QMutexLocker locker(&m_mutex);
         m_bRunningJob = false;
+        updateBusy();
         if (m_jobs.empty())
             m_idle.wakeAll();
     }
     {
         QMutexLocker locker(&m_mutex);
         m_bRunningJob = false;
+        updateBusy();
         m_idle.wakeAll();
     }
     LOG_DEBUG("%s run end", m_name.constData());

@@ -12,6 +12,7 @@ CMainWindowPanels::CMainWindowPanels(MainWindow* window) : QObject(window)
     m_deviceList = new CDiscoveryDevicesForm(window);
     m_videoManager = new CVideoManagerForm(window);
     m_propertyPanel = new CPropertyForm(window);
+    m_propertyPanel->setViewSignals(m_videoManager->viewSignals());
     window->setDeviceListPanel(m_deviceList);
     window->setVideoPanel(m_videoManager);
     window->setPropertyPanel(m_propertyPanel);

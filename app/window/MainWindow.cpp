@@ -403,22 +403,28 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     // Every open camera is closed first, on the disconnect-all worker; a wait
     // dialog covers the window meanwhile and the window closes again when
-    // the worker reports (it gives up after 5 s).
+    // the worker reports (it gives up after 5 s). The GUI thread waits for
+    // nothing: the worker's report arrives as a queued signal.
     if (!m_devicesClosed) {
-        event->ignore();
-        if (m_closingDevices)
+        if (m_closingDevices) {
+            event->ignore();
             return;
-        m_closingDevices = true;
-        m_closeWait = new CWaitDlg(this);
-        m_closeWait->setObjectName(QStringLiteral("closeWaitDlg"));
-        retranslate();
-        m_closeWait->open();
+        }
         CDisconnectAllThread* worker = CDisconnectAllThread::getInstance();
-        connect(worker, &CDisconnectAllThread::closeAllFinished, this, &MainWindow::onCloseAllFinished,
-                Qt::QueuedConnection);
-        if (!worker->isRunning())
-            worker->start();
-        return;
+        if (worker) {
+            event->ignore();
+            m_closingDevices = true;
+            m_closeWait = new CWaitDlg(this);
+            m_closeWait->setObjectName(QStringLiteral("closeWaitDlg"));
+            retranslate();
+            m_closeWait->open();
+            m_closeAllConnection = connect(worker, &CDisconnectAllThread::closeAllFinished, this,
+                                           &MainWindow::onCloseAllFinished, Qt::QueuedConnection);
+            worker->closeAll();
+            return;
+        }
+        // Outside the application's lifetime there is nothing to close.
+        m_devicesClosed = true;
     }
     QMainWindow::closeEvent(event);
     // Closing the last window does not end the program by itself.
@@ -428,8 +434,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::onCloseAllFinished()
 {
-    disconnect(CDisconnectAllThread::getInstance(), &CDisconnectAllThread::closeAllFinished, this,
-               &MainWindow::onCloseAllFinished);
+    disconnect(m_closeAllConnection);
     m_devicesClosed = true;
     m_closingDevices = false;
     if (m_closeWait)

@@ -127,5 +127,6 @@ private:
     bool m_closingDevices = false;
     bool m_splitterSized = false;   // side panels given their widths at the first show
     bool m_devicesClosed = false;
+    QMetaObject::Connection m_closeAllConnection;   // to the disconnect-all worker while it closes
     int m_cameraCount = -1;
 };

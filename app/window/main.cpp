@@ -1,9 +1,8 @@
 // Lumidor: viewer for GenICam cameras.
 #include <QApplication>
 
-#include "CConfiguration.h"
-#include "CDeviceManager.h"
 #include "CMainWindowPanels.h"
+#include "CSingletonOwner.h"
 #include "CTavMessage.h"
 #include "MainWindow.h"
 #include "StartupUtils.h"
@@ -34,17 +33,15 @@ int main(int argc, char* argv[])
     setStyleSheet<QApplication>(app, QStringLiteral("Skins/Default/Vintrel/style.qss"));
 
     const QString commandLine = joinCommandLine(argc, argv);
-    CConfiguration::getInstance();
+    // The process-wide objects, the configuration first; they end in the
+    // reverse order after the window and before the application object
+    // (see CSingletonOwner.h).
+    CSingletonOwner singletons;
 
     MainWindow* window = new MainWindow(commandLine, nullptr);
     new CMainWindowPanels(window);
     window->showMaximized();
     const int result = app.exec();
     delete window;
-    // The long-lived objects go while the application is still whole, in one
-    // order: devices (closed, bounded wait), disconnect-all and discovery
-    // workers, then the configuration.
-    CDeviceManager::shutdown();
-    CConfiguration::shutdownInstance();
     return result;
 }

@@ -13,6 +13,7 @@
 #include <memory>
 #include <vector>
 
+#include "CSingletonOwner.h"
 #include "CDeviceManager.h"
 #include "CDiscoveryDevicesForm.h"
 #include "CDiscoveryDevicesThread.h"
@@ -94,6 +95,7 @@ int main(int argc, char** argv)
         std::vector<Vorlen::Memory::TSharedPtr<ICamera>> cameras;
         for (int i = 0; i < count; ++i)
             cameras.push_back(Vorlen::Memory::TSharedPtr<ICamera>(std::make_shared<StandInCamera>(i)));
+        auto singletons = std::make_unique<CSingletonOwner>();
         {
             QMutexLocker lock(&system->mutex);
             system->registry.clear();
@@ -134,7 +136,7 @@ int main(int argc, char** argv)
         std::printf("%-8d %-22s %.3f\n", count, "first camera gone", removeMs / repeats);
         std::printf("%-8d %-22s %.3f\n", count, "first camera back", insertMs / repeats);
         delete form;
-        CDeviceManager::destroyInstance();
+        singletons.reset();
     }
     return 0;
 }

@@ -35,6 +35,7 @@
 
 #include "../common/BenchSimCams.h"
 #include "../common/BenchStats.h"
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CMultiVideoForm.h"
@@ -371,7 +372,6 @@ int runCamera(const SOptions& o)
     manager.reset();
     devices.clear();
     device.reset();
-    CDeviceManager::destroyInstance();
     stopCameras(cams);
     return 0;
 }
@@ -381,6 +381,7 @@ int runCamera(const SOptions& o)
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
+    CSingletonOwner singletons;
     registerMessageMetaTypes();
     // The application's look, so that grabbed pictures show what users see.
     QFile sheet(QCoreApplication::applicationDirPath() + "/Skins/Default/Vintrel/style.qss");

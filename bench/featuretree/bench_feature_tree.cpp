@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "CSingletonOwner.h"
 #include "CDeviceManager.h"
 #include "CPropertyFeaturesForm.h"
 #include "CTavDevice.h"
@@ -41,6 +42,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
         qputenv("LUMIDOR_HOME", QByteArray("/tmp/bench_feature_tree_home"));
     QApplication app(argc, argv);
+    CSingletonOwner singletons;
     const char* address = "127.0.0.1";
 
     FakeCameraRig rig;
@@ -152,6 +154,5 @@ int main(int argc, char** argv)
     }
     device->closeDevice(true);
     device.reset();
-    CDeviceManager::destroyInstance();
     return 0;
 }

@@ -28,6 +28,7 @@
 
 #include "../common/BenchSimCams.h"
 #include "../common/BenchStats.h"
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CTavDevice.h"
@@ -310,9 +311,6 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "bench_ingest: %s not found\n", qPrintable(BenchSimCams::simcamPath()));
         return 1;
     }
-    // Displayed frames only are converted: no saving, no recording.
-    CConfiguration::getInstance()->strDisplayValue = "30 FPS";
-
     std::printf("bench_ingest: %dx%d BayerRG8 at %.0f fps, packet size %d, %d s per run\n", o.width, o.height, o.fps,
                 o.packetSize, o.seconds);
     std::printf("%-5s %-8s %9s %6s %9s %6s %9s %9s %12s\n", "mode", "camera", "received", "fps", "displayed", "lost",
@@ -352,9 +350,15 @@ int main(int argc, char** argv)
         std::printf("-- %d camera(s)\n", n);
         std::vector<SCameraFigures> rows;
         double cpuUs = 0.0;
+        auto singletons = std::make_unique<CSingletonOwner>();
+        // Displayed frames only are converted: no saving, no recording.
+        CConfiguration::getInstance()->strDisplayValue = "30 FPS";
         if (runFull(o, n, rows, cpuUs))
             printRows("full", n, rows, cpuUs, o.seconds);
-        CDeviceManager::destroyInstance();
+        // The device layer lets the cameras go before the bare client
+        // takes them; the bare client reads the configuration too.
+        singletons.reset();
+        singletons = std::make_unique<CSingletonOwner>();
         if (runBare(o, n, rows, cpuUs))
             printRows("bare", n, rows, cpuUs, o.seconds);
         std::fflush(stdout);

@@ -1,15 +1,19 @@
 // bench_gui_stall: how long the GUI thread's event loop stops while four
 // simulated 1920x1080 cameras (lumidor-simcam processes on 127.0.0.1..4)
 // connect, stream, get their settings changed as a settings dialog would,
-// lose one camera (its process killed) and are all disconnected.
+// lose one camera (its process killed) and are all disconnected; then, with
+// all four streaming again, while the application's singleton owner ends
+// everything as the program's end does; and while the main window is closed
+// (its close path, disconnect-all) with a camera still connecting.
 //
 // A 5 ms timer on the GUI thread records how late each tick comes; per phase
 // the longest stall and the 99th percentile are printed, with the time the
-// lost camera took to be reported offline and the time the device manager
-// took to shut down.
+// lost camera took to be reported offline, the time the workers took to
+// finish after the owner's shutdown and the time the window took to close.
+// The last two phases must not stall the GUI thread for more than 50 ms.
 //
 //   bench_gui_stall [--cameras 4] [--fps 30] [--stream-seconds 3] [--first-address 1]
-#include <QCoreApplication>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QMap>
 #include <QTemporaryDir>
@@ -20,11 +24,16 @@
 #include <vector>
 
 #include "../common/BenchSimCams.h"
+#include "../common/BenchStats.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDisconnectAllThread.h"
+#include "CJobQueueThread.h"
+#include "CMainWindowPanels.h"
 #include "CObserver.h"
+#include "CSingletonOwner.h"
 #include "CTavDevice.h"
+#include "MainWindow.h"
 #include "Tavlog4cpp/CTavLog.h"
 
 using namespace BenchSimCams;
@@ -32,6 +41,7 @@ using namespace BenchSimCams;
 namespace {
 
 const qint64 kTickNs = 5000000;   // 5 ms
+const double kStallGoalMs = 50.0;
 
 // Lateness of a 5 ms timer on the GUI thread, per named phase.
 class StallMeter
@@ -68,29 +78,34 @@ public:
         m_timer.stop();
     }
 
+    double longestMs(const QString& phase) const
+    {
+        const std::vector<qint64> v = m_late.value(phase);
+        return v.empty() ? 0.0 : *std::max_element(v.begin(), v.end()) / 1e6;
+    }
+
     void print() const
     {
-        std::printf("%-16s %8s %10s %10s\n", "phase", "ticks", "max (ms)", "p99 (ms)");
-        qint64 overall = 0;
+        std::printf("%-24s %8s %10s %10s\n", "phase", "ticks", "max (ms)", "p99 (ms)");
+        double overall = 0;
         for (const QString& name : m_order)
         {
-            std::vector<qint64> v = m_late.value(name);
+            const std::vector<qint64>& v = m_late[name];
             if (v.empty())
                 continue;
-            std::sort(v.begin(), v.end());
-            const qint64 p99 = v[std::min(v.size() - 1, size_t(double(v.size()) * 0.99))];
-            overall = std::max(overall, v.back());
-            std::printf("%-16s %8zu %10.1f %10.1f\n", qPrintable(name), v.size(), v.back() / 1e6, p99 / 1e6);
+            double median = 0, p99 = 0;
+            BenchStats::percentiles(v, median, p99);
+            overall = std::max(overall, longestMs(name));
+            std::printf("%-24s %8zu %10.1f %10.1f\n", qPrintable(name), v.size(), longestMs(name), p99);
         }
-        std::printf("%-16s %8s %10.1f\n", "longest stall", "", overall / 1e6);
+        std::printf("%-24s %8s %10.1f\n", "longest stall", "", overall);
     }
 
 private:
     void tick()
     {
         const qint64 now = m_clock.nsecsElapsed();
-        const qint64 late = std::max<qint64>(0, now - m_last - kTickNs);
-        m_late[m_phase].push_back(late);
+        m_late[m_phase].push_back(std::max<qint64>(0, now - m_last - kTickNs));
         m_last = now;
     }
 
@@ -152,13 +167,41 @@ bool waitUntil(Pred pred, int timeoutMs)
     return true;
 }
 
+bool all(const std::vector<CTavDevicePtr>& devices, const BusWatch& bus, EN_MESSAGE_TYPE type, int except = -1)
+{
+    for (size_t i = 0; i < devices.size(); ++i)
+        if (int(i) != except && !bus.has(devices[i], type))
+            return false;
+    return true;
+}
+
+// Connects every device and starts its stream; false when one did not.
+bool connectAndStream(const std::vector<CTavDevicePtr>& devices, const BusWatch& bus)
+{
+    for (const CTavDevicePtr& d : devices)
+        d->openDevice(false);
+    if (!waitUntil([&]() { return all(devices, bus, MSG_DEVICE_CONNECTED); }, 20000))
+        return false;
+    for (const CTavDevicePtr& d : devices)
+        d->openStream();
+    return waitUntil([&]() { return all(devices, bus, MSG_STREAM_OPENED); }, 20000);
+}
+
+const char* verdict(double ms)
+{
+    return ms <= kStallGoalMs ? "met" : "MISSED";
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     QTemporaryDir home;
     BenchSimCams::setUpProcess(home);
-    QCoreApplication app(argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    app.setQuitOnLastWindowClosed(false);
 
     int cameras = 4;
     double fps = 30.0;
@@ -195,6 +238,7 @@ int main(int argc, char** argv)
         return 1;
     }
 
+    auto singletons = std::make_unique<CSingletonOwner>();
     CConfiguration* cfg = CConfiguration::getInstance();
     std::printf("bench_gui_stall: %d camera(s) %dx%d %s at %.0f fps, heartbeat %u ms\n", cameras, setups[0].width,
                 setups[0].height, qPrintable(setups[0].pixelFormat), fps, unsigned(cfg->iHeartbeatIval));
@@ -208,36 +252,26 @@ int main(int argc, char** argv)
     BusWatch bus;
     CDeviceManager::getInstance()->attach(&bus);
     std::vector<unsigned long long> frames(size_t(cameras), 0);
-    std::vector<QMetaObject::Connection> frameLinks;
     for (int i = 0; i < cameras; ++i)
-        frameLinks.push_back(QObject::connect(
+        QObject::connect(
             devices[size_t(i)].get(), &CTavDevice::newFrame, &app,
-            [&frames, i](CQtHybridFramePtr, bool, bool, bool) { ++frames[size_t(i)]; }, Qt::QueuedConnection));
-
-    auto all = [&](EN_MESSAGE_TYPE type, int except = -1) {
-        for (int i = 0; i < cameras; ++i)
-            if (i != except && !bus.has(devices[size_t(i)], type))
-                return false;
-        return true;
-    };
+            [&frames, i](CQtHybridFramePtr, bool, bool, bool) { ++frames[size_t(i)]; }, Qt::QueuedConnection);
 
     StallMeter meter;
     meter.start("idle");
     pump(500);
 
-    // Connect.
+    // Connect, then stream.
     meter.phase("connect");
     for (const CTavDevicePtr& d : devices)
         d->openDevice(false);
-    if (!waitUntil([&]() { return all(MSG_DEVICE_CONNECTED); }, 20000))
+    if (!waitUntil([&]() { return all(devices, bus, MSG_DEVICE_CONNECTED); }, 20000))
         std::printf("connect: not every camera connected\n");
     pump(300);
-
-    // Stream.
     meter.phase("stream start");
     for (const CTavDevicePtr& d : devices)
         d->openStream();
-    if (!waitUntil([&]() { return all(MSG_STREAM_OPENED); }, 20000))
+    if (!waitUntil([&]() { return all(devices, bus, MSG_STREAM_OPENED); }, 20000))
         std::printf("stream: not every stream opened\n");
     meter.phase("streaming");
     pump(streamSeconds * 1000);
@@ -279,21 +313,52 @@ int main(int argc, char** argv)
     QObject::connect(closer, &CDisconnectAllThread::closeAllFinished, &app, [&]() { closeAllDone = true; },
                      Qt::QueuedConnection);
     const qint64 closeStart = bus.now();
-    closer->start();
+    closer->closeAll();
     waitUntil([&]() { return closeAllDone; }, 30000);
     const qint64 closeAllMs = bus.now() - closeStart;
-    waitUntil([&]() { return all(MSG_DEVICE_DISCONNECTED, lost); }, 10000);
+    waitUntil([&]() { return all(devices, bus, MSG_DEVICE_DISCONNECTED, lost); }, 10000);
     pump(300);
+
+    // The lost camera is back and all stream again; then the owner ends
+    // everything while they stream, as the program's end does.
+    meter.phase("stream again");
+    std::vector<std::unique_ptr<QProcess>> restarted;
+    bus.clear();
+    bool streamingAgain = startCameras({setups[size_t(lost)]}, restarted, "bench_gui_stall") &&
+                          findDevices(serials, devices, 20000, "bench_gui_stall") && connectAndStream(devices, bus);
+    if (!streamingAgain)
+        std::printf("stream again: not every camera streams\n");
+    pump(1000);
+    meter.phase("owner end, 4 streaming");
+    devices.clear();
+    const qint64 endStart = bus.now();
+    singletons->shutdown();
+    const bool quiet = waitUntil([]() { return CJobQueueThread::waitUntilQuiet(0); }, 10000);
+    const qint64 quietMs = bus.now() - endStart;
+    singletons.reset();
+    const qint64 endMs = bus.now() - endStart;
+
+    // A new start; the main window is closed with a camera connecting.
+    meter.phase("window setup");
+    singletons = std::make_unique<CSingletonOwner>();
+    bool windowReady = findDevices(serials, devices, 20000, "bench_gui_stall");
+    auto* window = new MainWindow(QString());
+    new CMainWindowPanels(window);
+    window->resize(1200, 800);
+    window->show();
+    pump(1000);
+    meter.phase("window close, connecting");
+    const qint64 closeWindowStart = bus.now();
+    windowReady = windowReady && devices[0]->openDevice(false);
+    window->close();
+    const bool windowClosed = waitUntil([&]() { return !window->isVisible(); }, 20000);
+    const qint64 closeWindowMs = bus.now() - closeWindowStart;
+    const bool cameraClosed = windowReady && waitUntil([&]() { return !devices[0]->isActive(); }, 10000);
     meter.stop();
 
-    for (auto& link : frameLinks)
-        QObject::disconnect(link);
-    CDeviceManager::getInstance()->detach(&bus);
+    delete window;
     devices.clear();
-    QElapsedTimer shutdown;
-    shutdown.start();
-    CDeviceManager::destroyInstance();
-    const qint64 shutdownMs = shutdown.elapsed();
+    singletons.reset();
 
     meter.print();
     std::printf("frames received on the GUI thread:");
@@ -305,9 +370,17 @@ int main(int argc, char** argv)
     else
         std::printf("lost camera NOT reported offline within 30 s\n");
     std::printf("disconnect all finished after %lld ms%s\n", closeAllMs, closeAllDone ? "" : " (no closeAllFinished)");
-    std::printf("device manager shut down in %lld ms\n", shutdownMs);
+    std::printf("owner end with %d camera(s) streaming: workers done after %lld ms%s, owner gone after %lld ms\n",
+                streamingAgain ? cameras : 0, quietMs, quiet ? "" : " (NOT quiet)", endMs);
+    std::printf("window closed %lld ms after the close with a camera connecting%s\n", closeWindowMs,
+                windowClosed && cameraClosed ? "" : " (window or camera NOT closed)");
+    const double ownerEnd = meter.longestMs("owner end, 4 streaming");
+    const double windowClose = meter.longestMs("window close, connecting");
+    std::printf("goal: no stall over %.0f ms -> owner end %.1f ms %s, window close %.1f ms %s\n", kStallGoalMs, ownerEnd,
+                verdict(ownerEnd), windowClose, verdict(windowClose));
     std::fflush(stdout);
 
+    stopCameras(restarted);
     stopCameras(processes);
     return 0;
 }

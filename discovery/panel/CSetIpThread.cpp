@@ -15,7 +15,8 @@ void CSetIpThread::startSetIp(QString key, QString ip, QString mask, QString gat
 bool CSetIpThread::writePersistentIp(const QString& key, const QString& ip, const QString& mask,
                                      const QString& gateway)
 {
-    CDeviceManager* manager = CDeviceManager::existingInstance();
+    // A worker may outlive the device manager (the end of the program).
+    CDeviceManager* manager = CDeviceManager::getInstance();
     CTavDevicePtr device = manager ? manager->getDeviceByKey(key) : CTavDevicePtr();
     if (!device) {
         LOG_ERROR("getDeviceByKey failed. [%s]", key.toLocal8Bit().constData());

@@ -1,9 +1,10 @@
 #include "CDiscoveryDevicesThread.h"
 
 #include <QByteArray>
-#include <QCoreApplication>
 #include <cstring>
+#include <mutex>
 
+#include "CSingletonSlot.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 
 using namespace Vorlen::GenICam;
@@ -12,16 +13,8 @@ namespace {
 const char* const kLogSource = "DiscoveryDeviceThread";
 const char* const kBroadcastAddress = "255.255.255.255";
 
-QMutex g_instanceMutex;
-CDiscoveryDevicesThread* g_instance = nullptr;
-bool g_shutDown = false;
+std::mutex g_defaultSystemMutex;
 std::shared_ptr<IDiscoverySystem> g_defaultSystem;
-
-// Deletes the singleton at process exit.
-struct InstanceReaper
-{
-    ~InstanceReaper() { CDiscoveryDevicesThread::destroyInstance(); }
-} g_reaper;
 }
 
 bool CSdkDiscoverySystem::discovery(CameraPtrVector& cameras, EInterfaceType type)
@@ -41,46 +34,16 @@ bool CSdkDiscoverySystem::getCameraPtrAll(CameraPtrVector& cameras)
 
 CDiscoveryDevicesThread* CDiscoveryDevicesThread::getInstance()
 {
-    QMutexLocker locker(&g_instanceMutex);
-    if (!g_instance && !g_shutDown)
-    {
-        g_instance = new CDiscoveryDevicesThread(g_defaultSystem);
-        // Stop the worker while the application and the camera library are
-        // still whole; the reaper below is the fallback without application.
-        static bool postRoutineAdded = false;
-        if (!postRoutineAdded && QCoreApplication::instance())
-        {
-            postRoutineAdded = true;
-            qAddPostRoutine(&CDiscoveryDevicesThread::destroyInstance);
-        }
-    }
-    return g_instance;
+    return CSingletonSlot<CDiscoveryDevicesThread>::instance([]() {
+        std::lock_guard<std::mutex> locker(g_defaultSystemMutex);
+        return new CDiscoveryDevicesThread(g_defaultSystem);
+    });
 }
 
 void CDiscoveryDevicesThread::setDefaultSystem(std::shared_ptr<IDiscoverySystem> system)
 {
-    QMutexLocker locker(&g_instanceMutex);
+    std::lock_guard<std::mutex> locker(g_defaultSystemMutex);
     g_defaultSystem = std::move(system);
-}
-
-void CDiscoveryDevicesThread::destroyInstance()
-{
-    CDiscoveryDevicesThread* instance = nullptr;
-    {
-        QMutexLocker locker(&g_instanceMutex);
-        instance = g_instance;
-        g_instance = nullptr;
-    }
-    delete instance;
-}
-
-void CDiscoveryDevicesThread::shutdownInstance()
-{
-    {
-        QMutexLocker locker(&g_instanceMutex);
-        g_shutDown = true;
-    }
-    destroyInstance();
 }
 
 CDiscoveryDevicesThread::CDiscoveryDevicesThread(std::shared_ptr<IDiscoverySystem> system, QObject* parent)
@@ -116,8 +79,15 @@ void CDiscoveryDevicesThread::clear()
 void CDiscoveryDevicesThread::stop()
 {
     clear();
-    m_bStop = true;
+    requestStop();
     wait();
+}
+
+void CDiscoveryDevicesThread::requestStop()
+{
+    QMutexLocker locker(&m_idleMutex);
+    m_bStop = true;
+    m_idleWake.wakeAll();
 }
 
 void CDiscoveryDevicesThread::runOnce()
@@ -147,7 +117,10 @@ void CDiscoveryDevicesThread::run()
         }
         else
         {
-            msleep(100);
+            // 100 ms between looks at the request; a stop ends the sleep.
+            QMutexLocker locker(&m_idleMutex);
+            if (!m_bStop)
+                m_idleWake.wait(&m_idleMutex, 100);
         }
     }
     TAVLOG_SRC(TAVLOG_LEVEL_DEBUG, kLogSource, "DiscoveryDevicesThread run end");

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QThread>
 #include <QVector>
+#include <QWaitCondition>
 #include <atomic>
 #include <memory>
 
@@ -49,14 +50,10 @@ public:
         flagStartup = 8            // first pass at start-up; no effect here
     };
 
-    // Created on first use; null once shutdownInstance() has run.
+    // Made on first use (thread-safe) while the application's singleton
+    // owner (CSingletonOwner) keeps it; null before the owner starts and
+    // after it has ended. The owner stops and deletes it.
     static CDiscoveryDevicesThread* getInstance();
-    // Stops and deletes the singleton; the next getInstance() makes a new
-    // one. For tests.
-    static void destroyInstance();
-    // The application's end: stops and deletes the singleton (a pass under
-    // way finishes first) and no new one is made afterwards.
-    static void shutdownInstance();
     // The system the next singleton is built with (null: the camera library).
     // Lets tests run the device manager on stand-in cameras.
     static void setDefaultSystem(std::shared_ptr<IDiscoverySystem> system);
@@ -76,6 +73,9 @@ public:
     void clear();
     // clear(), then ends the thread and waits for it.
     void stop();
+    // Asks the thread to end without waiting: an idle one ends at once, a
+    // pass under way finishes first.
+    void requestStop();
     // One pass in the caller's thread; always reports success.
     void runOnce();
 
@@ -102,6 +102,8 @@ private:
     QString m_strIp;
     int m_nFlags = 0;
     QMutex m_requestMutex;
+    QMutex m_idleMutex;           // with m_idleWake: the idle sleep, ended early by a stop
+    QWaitCondition m_idleWake;
 
     std::shared_ptr<IDiscoverySystem> m_system;
 };

@@ -14,6 +14,7 @@
 #include "CPropertyFeaturesForm.h"
 #include "CPropertyGPIOForm.h"
 #include "CPropertyImageFormatForm.h"
+#include "CViewSignalHub.h"
 #include "CPropertySettingsForm.h"
 #include "CSaveFeaturesDlg.h"
 #include "CTavDevice.h"
@@ -167,13 +168,18 @@ void CPropertyForm::onFeatureLanChanged(int language)
         page->setFeatureLanguage(language);
 }
 
+void CPropertyForm::setViewSignals(CViewSignalHub* hub)
+{
+    m_viewSignals = hub;
+}
+
 void CPropertyForm::addDevicePages(const CTavDevicePtr& device)
 {
     if (!device || m_features.contains(device))
         return;
     auto* features = new CPropertyFeaturesForm(device, m_stack);
     auto* settings = new CPropertySettingsForm(device, m_stack);
-    auto* imageFormat = new CPropertyImageFormatForm(device, m_stack);
+    auto* imageFormat = new CPropertyImageFormatForm(device, m_stack, m_viewSignals);
     auto* gpio = new CPropertyGPIOForm(m_stack);
     for (QWidget* page : {static_cast<QWidget*>(features), static_cast<QWidget*>(settings),
                           static_cast<QWidget*>(imageFormat), static_cast<QWidget*>(gpio)})

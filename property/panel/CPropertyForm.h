@@ -22,6 +22,7 @@ class CPropertyImageFormatForm;
 class CPropertyGPIOForm;
 class CParamFileController;
 class CSaveFeaturesDlg;
+class CViewSignalHub;
 
 class CPropertyForm : public QWidget, public CObserver
 {
@@ -42,6 +43,9 @@ public:
 
     void setCurDevice(CTavDevicePtr device);
     CTavDevicePtr curDevice() const { return m_curDevice; }
+    // The video views' drawing signals, for the image-format pages made
+    // from now on.
+    void setViewSignals(CViewSignalHub* hub);
     void refreshShow();
     void showWaitingGif(bool show);
     // Ends a region drawing of the current device's image-format page.
@@ -118,4 +122,5 @@ private:
     int m_tab = tabFeatures;
     CParamFileController* m_paramFiles = nullptr;
     QPointer<CSaveFeaturesDlg> m_saveDlg;
+    QPointer<CViewSignalHub> m_viewSignals;
 };

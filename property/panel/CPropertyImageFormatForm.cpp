@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "CTavDevice.h"
+#include "CViewSignalHub.h"
 
 namespace {
 qint64 snapDown(qint64 value, qint64 minimum, qint64 increment)
@@ -16,7 +17,7 @@ qint64 snapDown(qint64 value, qint64 minimum, qint64 increment)
 }
 }
 
-CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget* parent)
+CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget* parent, CViewSignalHub* viewSignals)
     : CFeatureControlPage(
           device, "CPropertyImageFormatForm",
           {{rowSection, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Region of Interest"), nullptr},
@@ -28,7 +29,8 @@ CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget
            {rowNumber, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Binning Horizontal"), "BinningHorizontal"},
            {rowNumber, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Binning Vertical"), "BinningVertical"},
            {rowEnum, QT_TRANSLATE_NOOP("CPropertyImageFormatForm", "Pixel Format"), "PixelFormat"}},
-          parent)
+          parent),
+      m_viewSignals(viewSignals)
 {
     auto* buttons = new QHBoxLayout();
     m_btnDraw = new QPushButton(this);
@@ -43,9 +45,14 @@ CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget
     bottomLayout()->addLayout(buttons);
     connect(m_btnDraw, &QPushButton::toggled, this, &CPropertyImageFormatForm::onDrawToggled);
     connect(m_btnFull, &QPushButton::clicked, this, &CPropertyImageFormatForm::onFullFrame);
-    if (m_device)
-        connect(m_device.get(), &CTavDevice::ROIChanged, this, &CPropertyImageFormatForm::onROIChanged,
-                Qt::QueuedConnection);
+    if (m_device && m_viewSignals)
+        connect(
+            m_viewSignals, &CViewSignalHub::ROIChanged, this,
+            [this, key = m_device->getDeviceKey()](const QString& from, int x, int y, int width, int height) {
+                if (from == key)
+                    onROIChanged(x, y, width, height);
+            },
+            Qt::QueuedConnection);
     retranslateExtra();
 }
 
@@ -88,13 +95,17 @@ void CPropertyImageFormatForm::onDrawToggled(bool on)
         }
         m_bDrawing = true;
         const SFeatureState w = state(QStringLiteral("Width")), h = state(QStringLiteral("Height"));
-        emit m_device->signalInitROI(0, 0, int(w.intValue), int(h.intValue));
-        emit m_device->signalDrawROI(true);
+        if (m_viewSignals)
+        {
+            emit m_viewSignals->signalInitROI(m_device->getDeviceKey(), 0, 0, int(w.intValue), int(h.intValue));
+            emit m_viewSignals->signalDrawROI(m_device->getDeviceKey(), true);
+        }
     }
     else if (m_bDrawing)
     {
         m_bDrawing = false;
-        emit m_device->signalDrawROI(false);
+        if (m_viewSignals)
+            emit m_viewSignals->signalDrawROI(m_device->getDeviceKey(), false);
     }
 }
 
@@ -105,11 +116,11 @@ void CPropertyImageFormatForm::endDrawing(bool cancelled)
         const QSignalBlocker b(m_btnDraw);
         m_btnDraw->setChecked(false);
     }
-    if (!m_device)
+    if (!m_device || !m_viewSignals)
         return;
     if (cancelled)
-        emit m_device->signalCancelDrawROI();
-    emit m_device->signalDrawROI(false);
+        emit m_viewSignals->signalCancelDrawROI(m_device->getDeviceKey());
+    emit m_viewSignals->signalDrawROI(m_device->getDeviceKey(), false);
 }
 
 void CPropertyImageFormatForm::cancelROI()

@@ -4,19 +4,25 @@
 // device's video view. Changes apply only while the camera is not grabbing.
 //
 // Drawing: "Draw ROI" sends signalInitROI (the current region) and
-// signalDrawROI(true) through the device to its view; the view answers with
-// ROIChanged(x, y, width, height) in the coordinates of the picture it
+// signalDrawROI(true) through the views' signal hub to the device's view;
+// the view answers with ROIChanged(key, x, y, width, height) in the
+// coordinates of the picture it
 // shows, which the page turns into camera offsets and sizes on the
 // increment grid and writes. cancelROI() ends a drawing without applying it.
+#include <QPointer>
+
 #include "CFeatureControlPage.h"
 
+class CViewSignalHub;
 class QPushButton;
 
 class CPropertyImageFormatForm : public CFeatureControlPage
 {
     Q_OBJECT
 public:
-    explicit CPropertyImageFormatForm(CTavDevicePtr device, QWidget* parent = nullptr);
+    // viewSignals: the hub of the video views (none: nothing is drawn).
+    explicit CPropertyImageFormatForm(CTavDevicePtr device, QWidget* parent = nullptr,
+                                      CViewSignalHub* viewSignals = nullptr);
     ~CPropertyImageFormatForm() override;
 
     bool isDrawingROI() const { return m_bDrawing; }
@@ -43,6 +49,7 @@ private:
     // then the size, then the offsets.
     void applyRegion(qint64 x, qint64 y, qint64 width, qint64 height);
 
+    QPointer<CViewSignalHub> m_viewSignals;
     QPushButton* m_btnDraw = nullptr;
     QPushButton* m_btnFull = nullptr;
     bool m_bDrawing = false;

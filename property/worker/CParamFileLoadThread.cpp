@@ -57,10 +57,21 @@ QList<SParamEntry> writeOrder(const QList<SParamEntry>& entries, const CParamFil
 SParamFileEnv SParamFileEnv::standard()
 {
     SParamFileEnv env;
-    env.isFirstDiscoveryFinished = []() { return CDiscoveryDevicesThread::getInstance()->isFirstDiscoveryFinished(); };
-    env.startDiscovery = []() { CDiscoveryDevicesThread::getInstance()->StartDiscovery(QString(), 0); };
+    // The worker may outlive the singletons (the end of the program): then
+    // there is nothing to wait for and no device to find.
+    env.isFirstDiscoveryFinished = []() {
+        CDiscoveryDevicesThread* discovery = CDiscoveryDevicesThread::getInstance();
+        return !discovery || discovery->isFirstDiscoveryFinished();
+    };
+    env.startDiscovery = []() {
+        if (CDiscoveryDevicesThread* discovery = CDiscoveryDevicesThread::getInstance())
+            discovery->StartDiscovery(QString(), 0);
+    };
     env.sleep = [](int ms) { QThread::msleep(ulong(ms)); };
-    env.findDevice = [](const QString& key) { return CDeviceManager::getInstance()->getDeviceByKey(key); };
+    env.findDevice = [](const QString& key) {
+        CDeviceManager* manager = CDeviceManager::getInstance();
+        return manager ? manager->getDeviceByKey(key) : CTavDevicePtr();
+    };
     return env;
 }
 

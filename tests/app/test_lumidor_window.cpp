@@ -7,6 +7,7 @@
 #include <QtTest>
 #include <memory>
 
+#include "SingletonTestSupport.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CDiscoveryDevicesForm.h"
@@ -23,12 +24,6 @@
 #include "DeviceTestSupport.h"
 #include "MainWindow.h"
 
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 class TestLumidorWindow : public QObject
 {
     Q_OBJECT
@@ -38,6 +33,7 @@ private slots:
     void fourCamerasInTheWholeWindow();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     static const int kCameras = 4;
     FakeCameraRig m_rig;
     MainWindow* m_window = nullptr;
@@ -52,6 +48,7 @@ static QString serialOf(int i)
 
 void TestLumidorWindow::initTestCase()
 {
+    m_owner = makeSingletons();
     enableLogWhenAsked();
     registerMessageMetaTypes();
     for (int i = 0; i < kCameras; ++i) {
@@ -81,7 +78,7 @@ void TestLumidorWindow::cleanupTestCase()
     delete m_window;   // closes nothing by itself: the close test did that
     for (CTavDevicePtr& d : m_devices)
         d.reset();
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestLumidorWindow::fourCamerasInTheWholeWindow()

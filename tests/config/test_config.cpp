@@ -8,11 +8,13 @@
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <QtTest>
+#include <memory>
 
 #include "TestFiles.h"
 
 #include "CConfigKeyTable.h"
 #include "CConfiguration.h"
+#include "CSingletonOwner.h"
 #include "Tavlog4cpp/CTavLog.h"
 
 #include <log4cpp/Category.hh>
@@ -83,6 +85,7 @@ class TestConfig : public QObject
 
 private:
     QTemporaryDir m_home;
+    std::unique_ptr<CSingletonOwner> m_owner;
     QString m_work;   // scratch files of the test cases
     CConfiguration* cfg() { return CConfiguration::getInstance(); }
     QByteArray expectedDefault()
@@ -102,12 +105,15 @@ private slots:
         QVERIFY(QDir().mkpath(m_work));
     }
 
+    void cleanupTestCase() { m_owner.reset(); }
+
     // First start: the directory is made and the default file written from
     // the built-in defaults, byte for byte; no user file yet.
     void firstStartWritesDefaultFile()
     {
         const QString cfgDir = m_home.path() + QStringLiteral("/Lumidor/cfg/app/");
         QVERIFY(!QDir(cfgDir).exists());
+        m_owner.reset(new CSingletonOwner);   // makes the configuration
         CConfiguration* c = cfg();
         QCOMPARE(c->defaultConfigPath(), cfgDir + QStringLiteral("LumidorDefault.tavcfg"));
         QCOMPARE(c->userConfigPath(), cfgDir + QStringLiteral("Lumidor.tavcfg"));

@@ -4,11 +4,13 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <memory>
 
 #include "SmallTmpfs.h"
 #include "TestFiles.h"
 
 #include "CConfiguration.h"
+#include "CSingletonOwner.h"
 
 class TestConfigFullDisk : public QObject
 {
@@ -17,6 +19,7 @@ class TestConfigFullDisk : public QObject
 private:
     QTemporaryDir m_home;
     SmallTmpfs m_disk;
+    std::unique_ptr<CSingletonOwner> m_owner;
 
 private slots:
     void initTestCase()
@@ -30,6 +33,7 @@ private slots:
 
     void settingsSurviveAFailedSaveAndARestart()
     {
+        m_owner.reset(new CSingletonOwner);
         CConfiguration* c = CConfiguration::getInstance();
         const QString userPath = c->userConfigPath();
         const QString defaultPath = c->defaultConfigPath();
@@ -52,7 +56,8 @@ private slots:
 
         // Restart on the full disk: the default file is not rewritten to
         // nothing, and the settings come back from the user file.
-        CConfiguration::destroyInstance();
+        m_owner.reset();
+        m_owner.reset(new CSingletonOwner);
         c = CConfiguration::getInstance();
         QCOMPARE(readAll(defaultPath), defaults);
         QCOMPARE(c->iHeartbeatIval, uint16_t(4000));
@@ -67,7 +72,7 @@ private slots:
         QVERIFY(c->saveConfigToUserXml());
         QVERIFY(c->lastSaveError().isEmpty());
         QVERIFY(readAll(userPath).contains("<iHeartbeatIval>2222</iHeartbeatIval>"));
-        CConfiguration::destroyInstance();
+        m_owner.reset();
     }
 };
 

@@ -106,15 +106,6 @@ class TestCoreBus : public QObject
 private slots:
     void initTestCase() { registerMessageMetaTypes(); }
 
-    void messageStartsEmpty()
-    {
-        CTavMessage msg;
-        QCOMPARE(int(msg.type), 0);
-        QVERIFY(msg.device.isNull());
-        QVERIFY(msg.paramUpdateArg.paramNames.empty());
-        QVERIFY(msg.msgChannelArg.paramNames.empty());
-    }
-
     void subjectOrderDuplicatesAndDetach()
     {
         CSubject subject;

@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
+#include <memory>
 
 #include "CAboutDlg.h"
 #include "CCollapsiblePanel.h"
@@ -26,6 +27,7 @@
 #include "CDiscoveryDevicesThread.h"
 #include "CDisconnectAllThread.h"
 #include "CLanguageManager.h"
+#include "CSingletonOwner.h"
 #include "CWaitDlg.h"
 #include "MainWindow.h"
 
@@ -51,6 +53,7 @@ class TestMainWindow : public QObject
 {
     Q_OBJECT
     QTemporaryDir m_home;
+    std::unique_ptr<CSingletonOwner> m_owner;
 
 private slots:
     void initTestCase()
@@ -65,7 +68,10 @@ private slots:
             QFAIL("LUMIDOR_SOURCE_DIR is not set: run this test through ctest");
         QVERIFY(QDir::setCurrent(QString::fromLocal8Bit(src) + QStringLiteral("/res")));
         QVERIFY2(QFile::exists(QStringLiteral("Skins/Default/Vintrel/style_chn_font.qss")), "font sheets missing");
+        m_owner.reset(new CSingletonOwner);
     }
+
+    void cleanupTestCase() { m_owner.reset(); }
 
     void panelsAndMenus()
     {
@@ -303,7 +309,7 @@ private slots:
         QVERIFY(waitShownWhileClosing);
         QVERIFY(!w.isVisible());
         QVERIFY(!w.closeWaitDialog()->isVisible());
-        worker->wait();
+        QVERIFY(worker->waitIdle(10000));
     }
 };
 

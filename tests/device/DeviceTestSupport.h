@@ -1,6 +1,8 @@
 #pragma once
 // Helpers of the device tests: a bus observer that records what it receives,
-// a queued frame counter, and the live thread count of the process.
+// a queued frame counter, waiting for a device to come to rest, and the live
+// thread count of the process; the singletons and device lookup come from
+// SingletonTestSupport.h.
 #include <QDir>
 #include <QList>
 #include <QMutex>
@@ -8,9 +10,8 @@
 #include <QString>
 #include <QtTest>
 
-#include "CDeviceManager.h"
 #include "CObserver.h"
-#include "CTavDevice.h"
+#include "SingletonTestSupport.h"
 #include "Tavlog4cpp/CTavLog.h"
 
 struct BusRecord
@@ -99,6 +100,25 @@ public slots:
     }
 };
 
+// Delivers what workers and the bus have queued for this thread so far: a
+// device signal reaches the manager, the manager's message the observers.
+inline void deliverQueued()
+{
+    for (int hop = 0; hop < 3; ++hop)
+        QCoreApplication::sendPostedEvents();
+}
+
+// Waits until the device's worker has run every request made so far and
+// delivers what it reported: afterwards no message of those requests is
+// still under way.
+inline bool settle(const CTavDevicePtr& device, int timeoutMs = 20000)
+{
+    if (!device->waitForWorker(timeoutMs))
+        return false;
+    deliverQueued();
+    return true;
+}
+
 // LUMIDOR_TEST_LOG=1 shows the application log on standard error.
 inline void enableLogWhenAsked()
 {
@@ -111,28 +131,6 @@ inline int liveThreadCount()
     return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
 }
 
-// The device whose key carries the serial number, or null.
-inline CTavDevicePtr findDeviceBySerial(const QString& serial)
-{
-    const QMap<QString, CTavDevicePtr> devices = CDeviceManager::getInstance()->getAllDevices();
-    for (auto it = devices.begin(); it != devices.end(); ++it)
-    {
-        if (it.value()->getDevice() &&
-            QString::fromLocal8Bit(it.value()->getDevice()->getSerialNumber().c_str()) == serial)
-            return it.value();
-    }
-    return CTavDevicePtr();
-}
-
-// Asks for a discovery pass and waits until the manager has rebuilt its map.
-inline bool rediscover(int timeoutMs = 15000)
-{
-    CDeviceManager* manager = CDeviceManager::getInstance();
-    QSignalSpy spy(manager, &CDeviceManager::discoveryDevicesFinished);
-    manager->refreshDeviceMap(QString(), 0);
-    return spy.wait(timeoutMs);
-}
-
 // Waits until the device manager lists a camera of every serial, asking for
 // one more discovery pass when the first ones miss some.
 inline bool waitForSerials(const QStringList& serials, int timeoutMs = 15000)
@@ -143,5 +141,6 @@ inline bool waitForSerials(const QStringList& serials, int timeoutMs = 15000)
                 return false;
         return true;
     };
-    return QTest::qWaitFor(allFound, timeoutMs) || (rediscover(timeoutMs) && QTest::qWaitFor(allFound, timeoutMs));
+    return QTest::qWaitFor(allFound, timeoutMs) ||
+           (rediscover(QString(), timeoutMs) && QTest::qWaitFor(allFound, timeoutMs));
 }

@@ -18,13 +18,6 @@
 #include "DeviceTestSupport.h"
 #include "QueuedSignalSpy.h"
 
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 using namespace Vorlen::GenICam;
 
 class TestDeviceConnect : public QObject
@@ -50,6 +43,7 @@ private:
     void setCameraUserId(const char* text);
 
     FakeCameraRig m_rig;
+    std::unique_ptr<CSingletonOwner> m_owner;
     BusRecorder m_bus;
     CTavDevicePtr m_device;
     QString m_key;
@@ -82,6 +76,7 @@ void TestDeviceConnect::initTestCase()
     if (m_rig.start("127.0.0.1", "LUMCONN1", std::string(), 320, 240, "Mono8") < 0)
         QFAIL("rig missing: the simulated camera cannot start on 127.0.0.1 (port 3956 taken or loopback down)");
 
+    m_owner = makeSingletons();
     CDeviceManager* manager = CDeviceManager::getInstance();
     manager->attach(&m_bus);
     QVERIFY(QTest::qWaitFor([&]() { return findDeviceBySerial("LUMCONN1") != nullptr; }, 15000) ||
@@ -99,13 +94,13 @@ void TestDeviceConnect::cleanupTestCase()
     m_device.reset();
     if (CDeviceManager* manager = CDeviceManager::getInstance())
         manager->detach(&m_bus);
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestDeviceConnect::init()
 {
-    // Queued messages of the previous case are delivered before the slate is cleaned.
-    QTest::qWait(100);
+    // What the previous case asked for is over before the slate is cleaned.
+    QVERIFY(settle(m_device));
     m_bus.clear();
 }
 
@@ -113,12 +108,14 @@ void TestDeviceConnect::openStreamCloseRepeatedly()
 {
     CDeviceManager* manager = CDeviceManager::getInstance();
     FrameCounter counter(m_device.get());
-    int baseline = -1;
+    int baseline = -1;   // threads alive before the second round
 
     for (int round = 0; round < 20; ++round)
     {
         m_bus.clear();
         counter.frames = 0;
+        if (round == 1)
+            baseline = liveThreadCount();
 
         QVERIFY(m_device->openDevice(false));
         QVERIFY(m_device->isConnecting());
@@ -153,14 +150,9 @@ void TestDeviceConnect::openStreamCloseRepeatedly()
                  QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECTED, MSG_STREAM_OPENED, MSG_DEVICE_DISCONNECTING,
                              MSG_STREAM_CLOSED, MSG_DEVICE_DISCONNECTED}));
 
-        // Every thread of a round ends with it: after the first rounds the
+        // Every thread of a round ends with it: after the first round the
         // count comes back to the same figure each time.
-        if (round == 1)
-        {
-            QTest::qWait(300);
-            baseline = liveThreadCount();
-        }
-        else if (round > 1)
+        if (round > 1)
         {
             QTRY_VERIFY2_WITH_TIMEOUT(liveThreadCount() <= baseline,
                                       qPrintable(QString("round %1: %2 threads, baseline %3")
@@ -177,7 +169,7 @@ void TestDeviceConnect::secondOpenDuringConnectStartsNothing()
     QVERIFY(m_device->openDevice(false));
     QVERIFY(!m_device->openDevice(false));   // the worker still runs
     QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key));
-    QTest::qWait(300);
+    QVERIFY(settle(m_device));
     QCOMPARE(m_bus.count(MSG_DEVICE_CONNECTING, m_key), 1);
     QCOMPARE(m_bus.count(MSG_DEVICE_CONNECTED, m_key), 1);
     QCOMPARE(m_bus.count(MSG_DEVICE_CONNECT_FAILED, m_key), 0);
@@ -270,7 +262,7 @@ void TestDeviceConnect::refusedWhenAnotherClientHoldsControl()
     m_bus.clear();
     QVERIFY(m_device->openDevice(false));
     QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECT_FAILED, m_key, 20000));
-    QTest::qWait(300);
+    QVERIFY(settle(m_device));
     QCOMPARE(m_bus.statusTypes(m_key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECT_FAILED}));
     QVERIFY(!m_device->isConnected());
     QVERIFY(!m_device->isConnecting());
@@ -300,7 +292,7 @@ void TestDeviceConnect::busMessagesFromDeviceSignals()
     manager->on_Device_Param_Update(param, "no such key");
     manager->on_Device_Stream_Event(SStreamArg(), "no such key");
     manager->on_Device_Msg_Channel(SMsgChannelArg(), "no such key");
-    QTest::qWait(100);
+    deliverQueued();
     QVERIFY2(m_bus.records.isEmpty(), qPrintable(m_bus.dump()));
 
     // For a known key each becomes one message with the record copied.
@@ -434,7 +426,7 @@ void TestDeviceConnect::accessRefreshDuringReadIsCarriedOut()
         QVERIFY(thread.entered.tryAcquire(1, 10000));
         thread.release.release();
         QTRY_COMPARE_WITH_TIMEOUT(answered.count(), 2, 10000);
-        QVERIFY(thread.wait(10000));
+        QVERIFY(thread.waitIdle(10000));
         QCOMPARE(thread.reads.load(), 2);
         QCOMPARE(answered.at(0).at(0).value<ECameraAccessPermission>(), accessPermissionOpen);
         QCOMPARE(answered.at(1).at(0).value<ECameraAccessPermission>(), accessPermissionControl);

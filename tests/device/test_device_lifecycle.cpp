@@ -15,13 +15,6 @@
 #include "CTavDevice.h"
 #include "DeviceTestSupport.h"
 
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 using namespace Vorlen::GenICam;
 
 class TestDeviceLifecycle : public QObject
@@ -43,6 +36,7 @@ private:
     bool restore(int slot);
 
     FakeCameraRig m_rig;
+    std::unique_ptr<CSingletonOwner> m_owner;
     BusRecorder m_bus;
     int m_cam[4] = {-1, -1, -1, -1};
     const char* m_address[4] = {"127.0.0.2", "127.0.0.3", "127.0.0.4", "127.0.0.5"};
@@ -79,6 +73,7 @@ void TestDeviceLifecycle::initTestCase()
         if (!startCamera(slot))
             QFAIL(qPrintable(QString("rig missing: the simulated camera cannot start on %1").arg(m_address[slot])));
 
+    m_owner = makeSingletons();
     CDeviceManager::getInstance()->attach(&m_bus);
     auto all = [&]() { return device(0) && device(1) && device(2) && device(3); };
     QVERIFY(QTest::qWaitFor(all, 15000) || (rediscover() && all()));
@@ -88,12 +83,15 @@ void TestDeviceLifecycle::cleanupTestCase()
 {
     if (CDeviceManager* manager = CDeviceManager::getInstance())
         manager->detach(&m_bus);
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestDeviceLifecycle::init()
 {
-    QTest::qWait(100);
+    // What the previous case asked for is over before the slate is cleaned.
+    for (int slot = 0; slot < 4; ++slot)
+        if (const CTavDevicePtr d = device(slot))
+            QVERIFY(settle(d));
     m_bus.clear();
 }
 
@@ -108,7 +106,7 @@ void TestDeviceLifecycle::closeDuringConnectFollowsIt()
     QVERIFY(d->closeDevice(false));
     QVERIFY(!d->openDevice(false));   // still busy: nothing new starts
     QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, key, 20000));
-    QTest::qWait(100);
+    QVERIFY(settle(d));
     QCOMPARE(m_bus.statusTypes(key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECTED,
                                                  MSG_DEVICE_DISCONNECTING, MSG_STREAM_CLOSED,
                                                  MSG_DEVICE_DISCONNECTED}));
@@ -123,7 +121,7 @@ void TestDeviceLifecycle::closeDuringConnectFollowsIt()
     QVERIFY(d->openStream());
     QVERIFY(d->closeDevice(false));
     QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, key, 20000));
-    QTest::qWait(100);
+    QVERIFY(settle(d));
     QCOMPARE(m_bus.statusTypes(key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECTED, MSG_STREAM_OPENED,
                                                  MSG_DEVICE_DISCONNECTING, MSG_STREAM_CLOSED,
                                                  MSG_DEVICE_DISCONNECTED}));
@@ -145,7 +143,7 @@ void TestDeviceLifecycle::cameraVanishesAtEachStep()
         [&]() { return m_bus.count(MSG_DEVICE_CONNECT_FAILED, key) + m_bus.count(MSG_DEVICE_OFFLINE, key) > 0; },
         30000));
     QTRY_VERIFY_WITH_TIMEOUT(d->connectionState() == CTavDevice::stateDisconnected, 30000);
-    QTest::qWait(200);
+    QVERIFY(settle(d));
     if (m_bus.count(MSG_DEVICE_CONNECT_FAILED, key))
         QCOMPARE(m_bus.statusTypes(key), connectFailed);
     else
@@ -176,7 +174,7 @@ void TestDeviceLifecycle::cameraVanishesAtEachStep()
     QVERIFY(d->closeDevice(false));
     m_rig.stop(m_cam[1]);
     QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, key, 30000));
-    QTest::qWait(200);
+    QVERIFY(settle(d));
     const QList<int> types = m_bus.statusTypes(key);
     QVERIFY2(types.mid(types.size() - 3) ==
                  QList<int>({MSG_DEVICE_DISCONNECTING, MSG_STREAM_CLOSED, MSG_DEVICE_DISCONNECTED}),
@@ -261,7 +259,9 @@ void TestDeviceLifecycle::settingsChangeWhileFourStream()
         cfg->setSingleResendMaxPackNum(round % 2 ? 65536 : 100);
         cfg->setMaximumLostPacketNum(round % 2 ? 65536 : 200);
         cfg->saveConfigToUserXml();
-        QTest::qWait(50);
+        // Each round is applied before the next one comes.
+        for (const CTavDevicePtr& d : devices)
+            QVERIFY(d->waitForWorker(10000));
     }
     // The last values reach every camera, and every stream goes on.
     for (const CTavDevicePtr& d : devices)

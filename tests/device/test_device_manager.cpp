@@ -11,13 +11,6 @@
 #include "DeviceTestSupport.h"
 #include "QueuedSignalSpy.h"
 
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 using namespace Vorlen::GenICam;
 
 class TestDeviceManager : public QObject
@@ -29,13 +22,14 @@ private slots:
     void init();
     void disconnectAllClosesEveryDevice();
     void offlineWhileStreamingThenBack();
-    void managerCanBeRecreated();
+    void endAndStartAgain();
 
 private:
     bool startCamera(int slot);
     bool waitForDevices();
 
     FakeCameraRig m_rig;
+    std::unique_ptr<CSingletonOwner> m_owner;
     BusRecorder m_bus;
     int m_cam[2] = {-1, -1};
     const char* m_address[2] = {"127.0.0.3", "127.0.0.4"};
@@ -62,6 +56,7 @@ void TestDeviceManager::initTestCase()
     QVERIFY(startCamera(0));
     QVERIFY(startCamera(1));
 
+    m_owner = makeSingletons();
     // Quick loss detection for the offline case.
     CConfiguration::getInstance()->iHeartbeatIval = 500;
     CConfiguration::getInstance()->iAnswerTimeout = 200;
@@ -74,13 +69,15 @@ void TestDeviceManager::cleanupTestCase()
 {
     if (CDeviceManager* manager = CDeviceManager::getInstance())
         manager->detach(&m_bus);
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestDeviceManager::init()
 {
-    // Queued messages of the previous case are delivered before the slate is cleaned.
-    QTest::qWait(100);
+    // What the previous case asked for is over before the slate is cleaned.
+    for (const char* serial : m_serial)
+        if (const CTavDevicePtr d = findDeviceBySerial(serial))
+            QVERIFY(settle(d));
     m_bus.clear();
 }
 
@@ -117,10 +114,10 @@ void TestDeviceManager::disconnectAllClosesEveryDevice()
     CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
     QueuedSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
     QueuedSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
-    closer->start();
+    closer->closeAll();
     QVERIFY(finished.wait(15000));
     QCOMPARE(begin.count(), 1);
-    QVERIFY(closer->wait(5000));
+    QVERIFY(closer->waitIdle(5000));
     for (const QMetaObject::Connection& watch : watches)
         disconnect(watch);
     QCOMPARE(closingThreads.size(), 2);
@@ -138,9 +135,9 @@ void TestDeviceManager::disconnectAllClosesEveryDevice()
     }
 
     // Nothing open: it finishes at once.
-    closer->start();
+    closer->closeAll();
     QVERIFY(finished.wait(5000));
-    QVERIFY(closer->wait(5000));
+    QVERIFY(closer->waitIdle(5000));
 }
 
 void TestDeviceManager::offlineWhileStreamingThenBack()
@@ -184,19 +181,26 @@ void TestDeviceManager::offlineWhileStreamingThenBack()
     QVERIFY(!device->isConnected());
 }
 
-void TestDeviceManager::managerCanBeRecreated()
+void TestDeviceManager::endAndStartAgain()
 {
     CDeviceManager* manager = CDeviceManager::getInstance();
     CTavDevicePtr device = findDeviceBySerial(m_serial[1]);
     QVERIFY(device);
     QVERIFY(device->openDevice(true));
+    QVERIFY(device->openStream());
+    QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, device->getDeviceKey()));
     manager->detach(&m_bus);
 
-    // Destroying the manager closes what is open.
-    CDeviceManager::destroyInstance();
+    // The end of the singletons closes what is open, on the device's own
+    // worker, and waits for it before it returns.
+    m_owner.reset();
     QVERIFY(!device->isConnected());
+    QVERIFY(!device->getDevice()->isConnected());
+    QVERIFY(!device->GetStreamThread()->isRunning());
     device.reset();
 
+    // A new owner starts afresh.
+    m_owner = makeSingletons();
     CDeviceManager* again = CDeviceManager::getInstance();
     again->attach(&m_bus);
     QVERIFY(waitForDevices() || (rediscover() && waitForDevices()));

@@ -1,29 +1,54 @@
 // The device manager's map across discovery passes, on stand-in cameras that
-// a test can make vanish while connected, and the disconnect-all worker with
-// a camera that takes long to close.
+// a test can make vanish while connected, the disconnect-all worker with a
+// camera that takes long to close, and the end of the singletons meanwhile.
+#include <QPointer>
+#include <QSemaphore>
 #include <QSignalSpy>
+#include <QWaitCondition>
 #include <QtTest>
-#include <QDeadlineTimer>
 #include <atomic>
 #include <memory>
 
+#include "CConfiguration.h"
 #include "CDeviceManager.h"
+#include "CJobQueueThread.h"
 #include "CDisconnectAllThread.h"
 #include "CDiscoveryDevicesThread.h"
 #include "CTavDevice.h"
 #include "DeviceTestSupport.h"
 #include "QueuedSignalSpy.h"
 
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 using namespace Vorlen::GenICam;
 
 namespace {
+
+// A door a stub call waits at while it is shut.
+class CDoor
+{
+public:
+    void shut()
+    {
+        QMutexLocker locker(&m_mutex);
+        m_open = false;
+    }
+    void open()
+    {
+        QMutexLocker locker(&m_mutex);
+        m_open = true;
+        m_opened.wakeAll();
+    }
+    void pass()
+    {
+        QMutexLocker locker(&m_mutex);
+        while (!m_open)
+            m_opened.wait(&m_mutex);
+    }
+
+private:
+    QMutex m_mutex;
+    QWaitCondition m_opened;
+    bool m_open = true;
+};
 
 class StubCamera : public CInternalCamera
 {
@@ -38,7 +63,7 @@ public:
     bool isConnected() const override { return m_connected; }
     bool connect(ECameraAccessPermission) override
     {
-        QThread::msleep(connectDelayMs);
+        connectDoor.pass();
         if (!allowConnect)
             return false;
         m_connected = true;
@@ -46,9 +71,7 @@ public:
     }
     bool disConnect() override
     {
-        QThread::msleep(disconnectDelayMs);
-        while (hold)
-            QThread::msleep(5);
+        disconnectDoor.pass();
         m_connected = false;
         return true;
     }
@@ -64,9 +87,8 @@ public:
     CString getDefXMLFilename() const override { return CString(); }
 
     std::atomic<bool> allowConnect{true};
-    std::atomic<int> disconnectDelayMs{0};
-    std::atomic<bool> hold{false};
-    std::atomic<int> connectDelayMs{0};   // disConnect hangs while set
+    CDoor connectDoor;      // connect() waits while it is shut
+    CDoor disconnectDoor;   // disConnect() waits while it is shut
 
 private:
     std::string m_serial;
@@ -137,10 +159,12 @@ private slots:
     void refreshPassesTheRequest();
     void disconnectAllGivesUp();
     void disconnectAllWaitsForAConnection();
-    void managerGoesAfterDisconnectAll();
+    void ownerEndsDuringDisconnectAll();
+    void deviceReleasedWhileOpenClosesOnItsWorker();
 
 private:
     std::shared_ptr<StubSystem> m_system;
+    std::unique_ptr<CSingletonOwner> m_owner;
     std::unique_ptr<BusRecorder> m_bus;
     std::shared_ptr<StubCamera> m_a, m_b, m_c;
 };
@@ -154,14 +178,20 @@ void TestDeviceMap::init()
     m_c = std::make_shared<StubCamera>("C3");
     m_system->setRegistry({m_c, m_a});
     CDiscoveryDevicesThread::setDefaultSystem(m_system);
+    m_owner = makeSingletons();
     m_bus.reset(new BusRecorder);
 }
 
 void TestDeviceMap::cleanup()
 {
+    for (const auto& camera : {m_a, m_b, m_c})
+    {
+        camera->connectDoor.open();
+        camera->disconnectDoor.open();
+    }
     if (CDeviceManager* manager = CDeviceManager::getInstance())
         manager->detach(m_bus.get());
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
     CDiscoveryDevicesThread::setDefaultSystem(nullptr);
     m_bus.reset();
 }
@@ -209,7 +239,7 @@ void TestDeviceMap::mapFollowsTheCameras()
     QVERIFY(!manager->getDeviceByKey(keyOf(m_c)));     // closed: dropped
 
     // A dropped device no longer reaches the bus.
-    QTest::qWait(50);
+    deliverQueued();
     m_bus->clear();
     emit c->device_status_changed(MSG_ACCESS_STATUS_CHANGED, c);
     emit a->device_status_changed(MSG_ACCESS_STATUS_CHANGED, a);
@@ -237,7 +267,7 @@ void TestDeviceMap::mapFollowsTheCameras()
     m_b->allowConnect = false;
     QVERIFY(b->openDevice(false));
     QVERIFY(m_bus->waitFor(MSG_DEVICE_CONNECT_FAILED, keyOf(m_b)));
-    QTest::qWait(100);
+    QVERIFY(settle(b));
     QCOMPARE(m_bus->statusTypes(keyOf(m_b)), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECT_FAILED}));
     QVERIFY(!b->isConnected() && !b->isConnecting());
     QVERIFY(!b->getEventManager() && !b->getStreamSource());
@@ -263,31 +293,34 @@ void TestDeviceMap::disconnectAllGivesUp()
     const CTavDevicePtr c = manager->getDeviceByKey(keyOf(m_c));
     QVERIFY(a->openDevice(true));
     QVERIFY(c->openDevice(true));
-    m_a->hold = true;   // A hangs in its disconnection until released
+    m_a->disconnectDoor.shut();   // A hangs in its disconnection until let go
 
-    // Simulated clock: each pause lets the real closes progress (until C,
-    // which does not hang, is closed), then advances by the poll step.
+    // Simulated clock: the first pause lets C's close (on its own worker,
+    // beside the hanging A) come through, then each pause advances the
+    // clock by the poll step.
+    QSemaphore cClosed;
+    connect(c.get(), &CTavDevice::device_status_changed, this, [&cClosed](EN_MESSAGE_TYPE type, CTavDevicePtr) {
+        if (type == MSG_DEVICE_DISCONNECTED)
+            cClosed.release();
+    });
     CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
     std::atomic<qint64> fakeNow{100000};
     std::atomic<int> pauses{0};
     std::atomic<bool> cClosedDuringWait{false};
     closer->setClock([&]() { return fakeNow.load(); },
                      [&](int ms) {
-                         QDeadlineTimer limit(20000);
-                         while (c->connectionState() != CTavDevice::stateDisconnected && !limit.hasExpired())
-                             QThread::msleep(5);
-                         cClosedDuringWait = c->connectionState() == CTavDevice::stateDisconnected;
-                         ++pauses;
+                         if (pauses++ == 0)
+                             cClosedDuringWait = cClosed.tryAcquire(1, 20000);
                          fakeNow += ms;
+                         return true;
                      });
     QueuedSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
-    closer->start();
+    closer->closeAll();
     QVERIFY(finished.wait(30000));
-    QVERIFY(closer->wait(5000));
+    QVERIFY(closer->waitIdle(5000));
     closer->setClock(nullptr, nullptr);
 
-    // It gave up after 5000 ms of its clock with A still closing; C closed
-    // meanwhile, on its own worker, beside the hanging A.
+    // It gave up after 5000 ms of its clock with A still closing.
     QCOMPARE(pauses.load(), CDisconnectAllThread::kTimeoutMs / CDisconnectAllThread::kPollMs);
     QVERIFY(cClosedDuringWait);
     QCOMPARE(manager->getOpenedDeviceCount(), 1);
@@ -295,7 +328,7 @@ void TestDeviceMap::disconnectAllGivesUp()
     QVERIFY(!c->isConnected());
 
     // A's disconnection ends once the camera lets go.
-    m_a->hold = false;
+    m_a->disconnectDoor.open();
     QTRY_VERIFY_WITH_TIMEOUT(a->connectionState() == CTavDevice::stateDisconnected, 10000);
     QCOMPARE(manager->getOpenedDeviceCount(), 0);
 }
@@ -305,38 +338,75 @@ void TestDeviceMap::disconnectAllWaitsForAConnection()
     CDeviceManager* manager = CDeviceManager::getInstance();
     QVERIFY(QTest::qWaitFor([&]() { return manager->getAllDevices().size() == 2; }, 10000));
     const CTavDevicePtr a = manager->getDeviceByKey(keyOf(m_a));
-    m_a->connectDelayMs = 300;
+    m_a->connectDoor.shut();
     QVERIFY(a->openDevice(false));
     QCOMPARE(a->connectionState(), CTavDevice::stateConnecting);
 
     // A device still connecting is closed once connected, and waited for.
     CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
+    QueuedSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
     QueuedSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
-    closer->start();
+    closer->closeAll();
+    QVERIFY(begin.wait(10000));
+    m_a->connectDoor.open();
     QVERIFY(finished.wait(15000));
-    QVERIFY(closer->wait(5000));
     QCOMPARE(a->connectionState(), CTavDevice::stateDisconnected);
     QVERIFY(!m_a->isConnected());
     QCOMPARE(manager->getActiveDeviceCount(), 0);
 }
 
-void TestDeviceMap::managerGoesAfterDisconnectAll()
+void TestDeviceMap::ownerEndsDuringDisconnectAll()
 {
     CDeviceManager* manager = CDeviceManager::getInstance();
     QVERIFY(QTest::qWaitFor([&]() { return manager->getAllDevices().size() == 2; }, 10000));
-    const CTavDevicePtr a = manager->getDeviceByKey(keyOf(m_a));
+    CTavDevicePtr a = manager->getDeviceByKey(keyOf(m_a));
     QVERIFY(a->openDevice(true));
+    QPointer<CTavDevice> aAlive(a.get());
+    m_a->disconnectDoor.shut();
 
-    // The program ends while the disconnect-all worker is still waiting for
-    // the devices: the manager it polls must outlive it.
+    // The program ends while the disconnect-all worker waits for a camera
+    // that does not let go: the end does not wait for that worker, and
+    // nothing can be made again afterwards.
     CDisconnectAllThread* closer = CDisconnectAllThread::getInstance();
     QueuedSignalSpy begin(closer, &CDisconnectAllThread::closeAllBegin);
-    closer->start();
-    QTRY_COMPARE_WITH_TIMEOUT(begin.count(), 1, 5000);
-    CDeviceManager::destroyInstance();
-    QVERIFY(!closer->isRunning());
-    QVERIFY(!a->isConnected());
+    closer->closeAll();
+    QVERIFY(begin.wait(5000));
+    QTRY_VERIFY(a->isDisconnecting());   // the close reached the device's worker
+    a.reset();
+    m_owner->shutdown();
+    QVERIFY(!CDeviceManager::getInstance());
+    QVERIFY(!CDisconnectAllThread::getInstance());
+    QVERIFY(!CDiscoveryDevicesThread::getInstance());
+    QVERIFY(!CConfiguration::getInstance());
+
+    // The camera lets go: its device's worker finishes the close and the
+    // device goes with it.
+    QVERIFY(!CJobQueueThread::waitUntilQuiet(0));
+    m_a->disconnectDoor.open();
+    m_owner.reset();
     QVERIFY(!m_a->isConnected());
+    QVERIFY(aAlive.isNull());
+}
+
+void TestDeviceMap::deviceReleasedWhileOpenClosesOnItsWorker()
+{
+    // A device let go while its camera is open does not wait for the camera
+    // on this thread: its worker closes the camera and then ends by itself.
+    CTavDevicePtr device = CTavDevice::create();
+    Vorlen::Memory::TSharedPtr<ICamera> camera(m_b);
+    device->setDevice(camera);
+    device->init();
+    QVERIFY(device->openDevice(true));
+    QVERIFY(m_b->isConnected());
+    QPointer<CTavDevice> alive(device.get());
+    m_b->disconnectDoor.shut();
+    device.reset();
+    QVERIFY(alive.isNull());
+    QVERIFY(m_b->isConnected());
+    QVERIFY(!CJobQueueThread::waitUntilQuiet(0));
+    m_b->disconnectDoor.open();
+    QVERIFY(CJobQueueThread::waitUntilQuiet(10000));
+    QVERIFY(!m_b->isConnected());
 }
 
 QTEST_GUILESS_MAIN(TestDeviceMap)

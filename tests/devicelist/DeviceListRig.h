@@ -7,9 +7,11 @@
 #include <QSignalSpy>
 #include <QToolButton>
 #include <QtTest>
+#include <memory>
 
 #include "CCameraTaskThread.h"
 #include "CConfiguration.h"
+#include "CSingletonOwner.h"
 #include "CDiscoveryButtonsForm.h"
 #include "CDiscoveryDevicesForm.h"
 #include "CDiscoveryRootForm.h"
@@ -26,6 +28,7 @@ public:
     // Empty when ready, else what is missing.
     QString setUp()
     {
+        m_owner.reset(new CSingletonOwner);
         enableLogWhenAsked();
         for (const char* a : address)
             if (!FakeCameraRig::hasAddress(a))
@@ -58,7 +61,7 @@ public:
         delete host;
         form = nullptr;
         QTRY_COMPARE_WITH_TIMEOUT(CCameraTaskThread::liveCount(), 0, 10000);
-        CDeviceManager::destroyInstance();
+        m_owner.reset();
     }
 
     CTavDevicePtr deviceOf(int slot) const { return findDeviceBySerial(serial[slot]); }
@@ -95,6 +98,7 @@ public:
     CDiscoveryDevicesForm* form = nullptr;
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     FakeCameraRig m_rig;
     int m_cam[2] = {-1, -1};
 };

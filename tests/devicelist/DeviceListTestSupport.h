@@ -1,7 +1,7 @@
 #pragma once
 // Helpers of the device list tests: answering the modal boxes and dialogs the
-// panel opens, and waiting for the device manager. The device tests' helpers
-// (DeviceTestSupport.h) come along.
+// panel opens. The device tests' helpers (DeviceTestSupport.h, with the
+// singleton owner and discovery passes) come along.
 #include <QApplication>
 #include <QPushButton>
 #include <QTimer>
@@ -9,17 +9,7 @@
 #include <functional>
 
 #include "CCommonMessageBox.h"
-#include "CDeviceManager.h"
-#include "CDiscoveryDevicesThread.h"
-#include "CTavDevice.h"
 #include "DeviceTestSupport.h"
-
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
 
 // Answers every application message box that shows up while it lives, with
 // the button given, and records the texts in order.
@@ -91,16 +81,13 @@ void onDialog(std::function<void(T*)> act, int timeoutMs = 20000)
 }
 
 // Asks for a discovery pass (ip: "" or one address to probe) and waits until
-// the manager has rebuilt its map. The worker drops a request that comes
-// while a pass runs: this waits for it to be idle first.
+// the manager has rebuilt its map.
 inline bool rediscoverWhenIdle(const QString& ip = QString(), int timeoutMs = 20000)
 {
-    CDeviceManager* manager = CDeviceManager::getInstance();
-    CDiscoveryDevicesThread* worker = CDiscoveryDevicesThread::getInstance();
-    if (!QTest::qWaitFor([worker]() { return worker->isFirstDiscoveryFinished() && !worker->isDisconvrying(); },
-                         timeoutMs))
-        return false;
-    QSignalSpy spy(manager, &CDeviceManager::discoveryDevicesFinished);
-    manager->refreshDeviceMap(ip, 0);
-    return spy.wait(timeoutMs);
+    return rediscover(ip, timeoutMs);
+}
+
+inline CTavDevicePtr deviceBySerial(const QString& serial)
+{
+    return findDeviceBySerial(serial);
 }

@@ -13,6 +13,7 @@
 #include <memory>
 #include <random>
 
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "CDiscoveryDevicesForm.h"
 #include "CSetDevUserIDDlg.h"
@@ -71,6 +72,7 @@ private slots:
     void cameraGoneWhileDialogOpen();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     QTreeWidgetItem* responderItem() const;
     // The IP dialog for the responder, shown, persistent write as given;
     // null when it could not be filled.
@@ -103,6 +105,7 @@ std::unique_ptr<CSetIPDlg> TestDeviceListDialogs::openIpDialog(bool persistent) 
 
 void TestDeviceListDialogs::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     enableLogWhenAsked();
     // Lengths are counted in the local 8-bit encoding: make it UTF-8 whatever
     // the test's locale.
@@ -125,7 +128,7 @@ void TestDeviceListDialogs::cleanupTestCase()
 {
     delete m_host;
     delete m_responder;
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestDeviceListDialogs::unicastDialogChecks()

@@ -10,8 +10,10 @@
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QtTest>
+#include <memory>
 #include <unistd.h>
 
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "QueuedSignalSpy.h"
 #include "CDiscoveryDevicesForm.h"
@@ -36,6 +38,7 @@ private slots:
     void silentAddressIsReported();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     bool rig(const QString& action, QString* error = nullptr);
     bool addRemote(const QString& ip, bool whenIdle = true);
     QTreeWidgetItem* remoteItem() const;
@@ -91,6 +94,7 @@ bool TestDeviceListUnicast::addRemote(const QString& ip, bool whenIdle)
 
 void TestDeviceListUnicast::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     enableLogWhenAsked();
     m_name = QString("lumi%1").arg(::getpid());
     rig("down");
@@ -129,7 +133,7 @@ void TestDeviceListUnicast::initTestCase()
 void TestDeviceListUnicast::cleanupTestCase()
 {
     delete m_host;
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
     if (m_camera.state() != QProcess::NotRunning) {
         m_camera.kill();
         m_camera.waitForFinished(5000);

@@ -13,8 +13,10 @@
 #include <QTextEdit>
 #include <QTreeWidget>
 #include <QtTest>
+#include <memory>
 
 #include "CCommandParamDoneStatusThread.h"
+#include "CSingletonOwner.h"
 #include "CConfiguration.h"
 #include "CUpdateParamThread.h"
 #include "CFeatureTreeBuilder.h"
@@ -60,6 +62,7 @@ private slots:
     void relabelWithoutRebuilding();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     CPropertyFeaturesForm* newForm();
     QtProperty* row(const QString& name) const { return m_form->findProperty(name); }
     bool rowShown(const QString& name) const;
@@ -87,6 +90,7 @@ CPropertyFeaturesForm* TestFeaturesForm::newForm()
 
 void TestFeaturesForm::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     m_cam = m_rig.start("127.0.0.1", "LUMPROP1", std::string(), 320, 240, "Mono8");
     if (m_cam < 0)
         QFAIL("the simulated camera cannot start on 127.0.0.1 (run inside a network namespace with lo up)");
@@ -113,7 +117,7 @@ void TestFeaturesForm::cleanupTestCase()
     if (m_device)
         m_device->closeDevice(true);
     m_device.reset();
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestFeaturesForm::init()

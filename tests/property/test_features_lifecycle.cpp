@@ -4,6 +4,7 @@
 // workers wait on the camera.
 // GLib headers come before Qt's: Qt defines "signals" as a keyword.
 #include <arv.h>
+#include "CSingletonOwner.h"
 #include "FakeCameraRig.h"
 #include <QPointer>
 #include <QRegularExpression>
@@ -39,12 +40,14 @@ private:
     FakeCameraRig m_rig;
     QTemporaryDir m_dir;
     int m_cam = -1;
+    std::unique_ptr<CSingletonOwner> m_owner;
     CTavDevicePtr m_device, m_empty;
     QStringList m_messages;
 };
 
 void TestFeaturesLifecycle::initTestCase()
 {
+    m_owner.reset(new CSingletonOwner);
     QVERIFY(m_dir.isValid());
     m_cam = m_rig.start("127.0.0.1", "LUMLIFE1", std::string(), 320, 240, "Mono8");
     if (m_cam < 0)
@@ -79,7 +82,7 @@ void TestFeaturesLifecycle::cleanupTestCase()
             (*d)->closeDevice(true);
         d->reset();
     }
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 CPropertyFeaturesForm* TestFeaturesLifecycle::loadedForm(const CTavDevicePtr& device)

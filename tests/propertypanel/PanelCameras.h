@@ -4,7 +4,10 @@
 // panel (straight through the camera's node map).
 #include "FakeCameraRig.h"
 
+#include <memory>
+
 #include "CDeviceManager.h"
+#include "CSingletonOwner.h"
 #include "CParamFileNodeMap.h"
 #include "FeatureTestSupport.h"
 
@@ -14,6 +17,7 @@ public:
     // Empty when both cameras run and are connected, else what is missing.
     QString start()
     {
+        owner.reset(new CSingletonOwner);
         const char* addresses[2] = {"127.0.0.2", "127.0.0.3"};
         const char* serials[2] = {"LUMPANEL1", "LUMPANEL2"};
         for (int i = 0; i < 2; ++i)
@@ -50,9 +54,10 @@ public:
                 d->closeDevice(true);
             d.reset();
         }
-        CDeviceManager::destroyInstance();
+        owner.reset();
     }
 
+    std::unique_ptr<CSingletonOwner> owner;
     FakeCameraRig rig;
     int cam[2] = {-1, -1};
     CTavDevicePtr dev[2];

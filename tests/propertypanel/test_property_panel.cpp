@@ -14,14 +14,17 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
+#include <memory>
 
 #include "CAravisCamera.h"
 #include "CDoubleSpinBox.h"
+#include "CSingletonOwner.h"
 #include "CFeatureControlWorker.h"
 #include "CPropertyFeaturesForm.h"
 #include "CPropertyForm.h"
 #include "CPropertyGPIOForm.h"
 #include "CPropertyImageFormatForm.h"
+#include "CViewSignalHub.h"
 #include "CPropertySettingsForm.h"
 #include "CSaveFeaturesDlg.h"
 #include "CSpinBox.h"
@@ -58,6 +61,8 @@ void TestPropertyPanel::initTestCase()
 void TestPropertyPanel::panelPagesFollowTheBus()
 {
     CPropertyForm panel;
+    CViewSignalHub hub;
+    panel.setViewSignals(&hub);
     panel.resize(420, 700);
     panel.show();
     // No device: the empty page, no waiting animation.
@@ -88,7 +93,7 @@ void TestPropertyPanel::panelPagesFollowTheBus()
     QCOMPARE(panel.stack()->currentWidget(), static_cast<QWidget*>(panel.imageFormatPage(dev)));
     QVERIFY(!panel.findChild<QToolButton*>("btnfeatures")->isChecked());
     // Leaving the image-format tab ends a drawing in progress.
-    QSignalSpy cancelled(dev.get(), &CTavDevice::signalCancelDrawROI);
+    QSignalSpy cancelled(&hub, &CViewSignalHub::signalCancelDrawROI);
     panel.imageFormatPage(dev)->drawButton()->click();
     QVERIFY(panel.imageFormatPage(dev)->isDrawingROI());
     panel.findChild<QToolButton*>("btnSettings")->click();
@@ -274,11 +279,11 @@ void TestPropertyPanel::imageFormatRefusedWhileGrabbing()
     QTRY_VERIFY_WITH_TIMEOUT(!dev->isGrabing() && busSaid(MSG_STREAM_CLOSED), 5000);
     QCoreApplication::sendPostedEvents(&page);
     m_shown.clear();
-    QSignalSpy initRoi(dev.get(), &CTavDevice::signalInitROI);
+    QSignalSpy initRoi(&hub, &CViewSignalHub::signalInitROI);
     page.drawButton()->click();
     QVERIFY(page.isDrawingROI());
     QCOMPARE(initRoi.count(), 1);
-    emit dev->ROIChanged(11, 7, 101, 51);
+    emit hub.ROIChanged(dev->getDeviceKey(), 11, 7, 101, 51);
     // Offsets and sizes move down onto their grids (increment 2).
     QTRY_COMPARE_WITH_TIMEOUT(featureValue(dev, "OffsetY"), QString("6"), 5000);
     QCOMPARE(featureValue(dev, "OffsetX"), QString("10"));

@@ -10,15 +10,9 @@
 
 #include "CConfiguration.h"
 #include "CDisplayCounter.h"
+#include "SingletonTestSupport.h"
 #include "StreamRetrieveThread.h"
 #include "StreamStatistic.h"
-
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
 
 using Vorlen::GenICam::CFrame;
 
@@ -72,6 +66,9 @@ private slots:
     void disabledDisplayStillSavesAndRecords();
     void chunkOnlyFrameIsIgnored();
     void unsupportedFormatSetsError();
+
+private:
+    std::unique_ptr<CSingletonOwner> m_owner = makeSingletons();   // the configuration the threads read
 };
 
 void TestVideoStream::init()

@@ -12,17 +12,11 @@
 #include <vector>
 
 #include "CConfiguration.h"
+#include "SingletonTestSupport.h"
 #include "FakeCameraRig.h"
 #include "Gliv/PixelFormats.h"
 #include "StreamRetrieveThread.h"
 #include "Vorlen/GenICam.h"
-
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
 
 using namespace Vorlen::GenICam;
 
@@ -82,6 +76,7 @@ class TestVideoWorker : public QObject
     Q_OBJECT
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner = makeSingletons();   // the configuration the threads read
     FakeCameraRig m_rig;
     QList<CInternalCameraPtr> m_cameras;
     QString m_error;
@@ -270,6 +265,12 @@ private slots:
                     return false;
             return true;
         };
+        auto total = [&]() {
+            int frames = 0;
+            for (const SReceived& r : received)
+                frames += r.frames;
+            return frames;
+        };
         // Bounded so that a stalled stream fails instead of hanging.
         QElapsedTimer bound;
         bound.start();
@@ -289,7 +290,10 @@ private slots:
                 cfg()->notifySaveConfigChanged();
             else
                 cfg()->notifyRestoreCfg();
-            QTest::qWait(1);
+            // The next round comes with the next frame.
+            const int before = total();
+            if (!QTest::qWaitFor([&]() { return total() > before; }, 5000))
+                break;   // no frame comes any more: the check below says so
         }
         QVERIFY2(enough(), qPrintable(QString("only %1/%2/%3/%4 frames after %5 rounds")
                                           .arg(received[0].frames)
@@ -304,33 +308,27 @@ private slots:
         cfg()->imageSaveThrottleOption = 3;   // every frame saved, so frames keep coming
         cfg()->notifyRestoreCfg();
         QCOMPARE(threads[0]->settings()->displayRate, 0);
-        std::vector<int> before(n), displayedBefore(n);
+        std::vector<int> displayedBefore(n);
+        // Waits until every thread has handed out five more frames.
+        auto fiveMoreEach = [&]() {
+            std::vector<int> before(n);
+            for (int i = 0; i < n; ++i)
+                before[i] = received[i].frames;
+            return QTest::qWaitFor(
+                [&]() {
+                    for (int i = 0; i < n; ++i)
+                        if (received[i].frames < before[i] + 5)
+                            return false;
+                    return true;
+                },
+                30000);
+        };
+        for (SReceived& r : received)
+            r.kept.clear();
+        QVERIFY(fiveMoreEach());
         for (int i = 0; i < n; ++i)
-        {
-            before[i] = received[i].frames;
-            received[i].kept.clear();
-        }
-        QTRY_VERIFY_WITH_TIMEOUT(
-            [&]() {
-                for (int i = 0; i < n; ++i)
-                    if (received[i].frames < before[i] + 5)
-                        return false;
-                return true;
-            }(),
-            30000);
-        for (int i = 0; i < n; ++i)
-        {
             displayedBefore[i] = received[i].displayed;
-            before[i] = received[i].frames;
-        }
-        QTRY_VERIFY_WITH_TIMEOUT(
-            [&]() {
-                for (int i = 0; i < n; ++i)
-                    if (received[i].frames < before[i] + 5)
-                        return false;
-                return true;
-            }(),
-            30000);
+        QVERIFY(fiveMoreEach());
 
         for (int i = 0; i < n; ++i)
         {

@@ -16,6 +16,7 @@
 #include "CConfiguration.h"
 #include "CMultiVideoForm.h"
 #include "CRoiEditor.h"
+#include "SingletonTestSupport.h"
 #include "CTavDevice.h"
 #include "CVideoControlBar.h"
 #include "CVideoForm.h"
@@ -25,13 +26,6 @@
 #include "Gliv/PixelFormats.h"
 #include "TestFiles.h"
 #include "VideoLayout.h"
-
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
 
 namespace {
 
@@ -85,6 +79,8 @@ private slots:
     void viewShowsPixelUnderCursorAndFollowsStream();
 
 private:
+    // First in, last out: the views and devices go before it.
+    std::unique_ptr<CSingletonOwner> m_owner = makeSingletons();
     std::unique_ptr<CVideoManagerForm> m_manager;
     QStringList m_messages;
     std::vector<CTavDevicePtr> m_devices;
@@ -497,6 +493,10 @@ void TestVideoviewForms::roiEditorDrawsMovesResizesDeletes()
 void TestVideoviewForms::viewShowsPixelUnderCursorAndFollowsStream()
 {
     CVideoForm view(3, nullptr, false);
+    CViewSignalHub hub;
+    view.setViewSignals(&hub);
+    QSignalSpy cursor(&hub, &CViewSignalHub::cursorPoint);
+    QSignalSpy drawn(&hub, &CViewSignalHub::ROIChanged);
     view.resize(400, 300);
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
@@ -535,6 +535,10 @@ void TestVideoviewForms::viewShowsPixelUnderCursorAndFollowsStream()
     QVERIFY(view.statusBar()->cursorText().contains("Y 5"));
     QVERIFY2(view.statusBar()->cursorText().contains("Raw 110"), qPrintable(view.statusBar()->cursorText()));
     QVERIFY(view.statusBar()->cursorText().contains("RGB (110, 110, 110)"));
+    // ... and the same pixel on the hub, under the device's key.
+    QVERIFY(!cursor.isEmpty());
+    QCOMPARE(cursor.last().at(0).toString(), m_devices[0]->getDeviceKey());
+    QCOMPARE(cursor.last().at(1).toPoint(), QPoint(10, 5));
 
     // A click selects the view; the ROI tool draws in image pixels.
     QSignalSpy clicked(&view, &CVideoForm::signalClicked);
@@ -547,6 +551,10 @@ void TestVideoviewForms::viewShowsPixelUnderCursorAndFollowsStream()
     QCOMPARE(roiChanged.count(), 1);
     QCOMPARE(view.getROI().size(), 1);
     QVERIFY(std::abs(view.getROI()[0].Left - 4) <= 1 && std::abs(view.getROI()[0].Width - 16) <= 1);
+    QCOMPARE(drawn.count(), 1);
+    QCOMPARE(drawn.first().at(0).toString(), m_devices[0]->getDeviceKey());
+    QCOMPARE(drawn.first().at(1).toInt(), int(view.getROI()[0].Left));
+    QCOMPARE(drawn.first().at(3).toInt(), int(view.getROI()[0].Width));
     QTest::keyClick(&view, Qt::Key_Delete);
     QVERIFY(view.getROI().isEmpty());
 
@@ -554,7 +562,7 @@ void TestVideoviewForms::viewShowsPixelUnderCursorAndFollowsStream()
     view.Update(message(MSG_STREAM_OPENED, m_devices[0]));
     QTRY_VERIFY(view.controlBar()->isStreaming());
     view.Update(message(MSG_STREAM_CLOSED, m_devices[1]));   // another device
-    QTest::qWait(20);
+    QCoreApplication::sendPostedEvents();
     QVERIFY(view.controlBar()->isStreaming());
     view.Update(message(MSG_STREAM_CLOSED, m_devices[0]));
     QTRY_VERIFY(!view.controlBar()->isStreaming());

@@ -7,6 +7,7 @@
 #include <QToolButton>
 #include <memory>
 
+#include "SingletonTestSupport.h"
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
 #include "CMultiVideoForm.h"
@@ -17,13 +18,6 @@
 #include "CVideoStatusBar.h"
 #include "DeviceTestSupport.h"
 
-// Configuration files go to the test's own home (CTest sets HOME per test).
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
 class TestVideoviewLive : public QObject
 {
     Q_OBJECT
@@ -33,6 +27,7 @@ private slots:
     void fourCamerasStreamIntoTheirViews();
 
 private:
+    std::unique_ptr<CSingletonOwner> m_owner;
     static const int kCameras = 4;
     FakeCameraRig m_rig;
     std::unique_ptr<CVideoManagerForm> m_manager;
@@ -46,6 +41,7 @@ static QString serialOf(int i)
 
 void TestVideoviewLive::initTestCase()
 {
+    m_owner = makeSingletons();
     enableLogWhenAsked();
     registerMessageMetaTypes();
     for (int i = 0; i < kCameras; ++i) {
@@ -77,7 +73,7 @@ void TestVideoviewLive::cleanupTestCase()
     m_manager.reset();
     for (CTavDevicePtr& d : m_devices)
         d.reset();
-    CDeviceManager::destroyInstance();
+    m_owner.reset();
 }
 
 void TestVideoviewLive::fourCamerasStreamIntoTheirViews()

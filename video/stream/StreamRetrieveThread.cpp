@@ -28,13 +28,17 @@ StreamRetrieveThread::StreamRetrieveThread(QObject* parent) : QThread(parent)
     m_clock.start();
     // Direct: the configuration emits on the GUI thread, so the snapshot is
     // always rebuilt there, whatever thread this object is moved to.
-    CConfiguration* cfg = CConfiguration::getInstance();
-    connect(cfg, &CConfiguration::signalSaveConfigChanged, this, &StreamRetrieveThread::onSaveConfigChanged,
-            Qt::DirectConnection);
-    connect(cfg, &CConfiguration::signalDisplayConfigChanged, this, &StreamRetrieveThread::onDisplayConfigChanged,
-            Qt::DirectConnection);
-    connect(cfg, &CConfiguration::signalRestoreCfg, this, &StreamRetrieveThread::onRestoreCfg,
-            Qt::DirectConnection);
+    // Without a configuration (outside the application's lifetime) the
+    // built-in defaults apply.
+    if (CConfiguration* cfg = CConfiguration::getInstance())
+    {
+        connect(cfg, &CConfiguration::signalSaveConfigChanged, this, &StreamRetrieveThread::onSaveConfigChanged,
+                Qt::DirectConnection);
+        connect(cfg, &CConfiguration::signalDisplayConfigChanged, this, &StreamRetrieveThread::onDisplayConfigChanged,
+                Qt::DirectConnection);
+        connect(cfg, &CConfiguration::signalRestoreCfg, this, &StreamRetrieveThread::onRestoreCfg,
+                Qt::DirectConnection);
+    }
     refreshSettings(true);
 }
 
@@ -259,7 +263,8 @@ void StreamRetrieveThread::onRestoreCfg()
 
 void StreamRetrieveThread::refreshSettings(bool rearmSave)
 {
-    publishSettings(SStreamSettings::fromConfiguration(*CConfiguration::getInstance()), rearmSave);
+    const CConfiguration* cfg = CConfiguration::getInstance();
+    publishSettings(cfg ? SStreamSettings::fromConfiguration(*cfg) : SStreamSettings(), rearmSave);
 }
 
 void StreamRetrieveThread::publishSettings(SStreamSettings settings, bool rearmSave)

@@ -5,6 +5,7 @@
 #include "CRoiEditor.h"
 #include "CTavDevice.h"
 #include "CVideoForm.h"
+#include "CViewSignalHub.h"
 
 namespace {
 
@@ -25,8 +26,10 @@ CMultiVideoForm::CMultiVideoForm(QWidget* parent, bool attachToBus) : QWidget(pa
     m_grid->setObjectName(QStringLiteral("gridVideo"));
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->setSpacing(2);
+    m_viewSignals = new CViewSignalHub(this);
     for (int i = 0; i < kFormCount; ++i) {
         auto* form = new CVideoForm(i, this, attachToBus);
+        form->setViewSignals(m_viewSignals);
         form->hide();
         connect(form, &CVideoForm::signalClicked, this, &CMultiVideoForm::OnFormHighLighted);
         connect(form, &CVideoForm::signalMaxMize, this, &CMultiVideoForm::OnMaxMizeForm);

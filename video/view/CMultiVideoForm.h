@@ -14,6 +14,7 @@
 #include "VideoLayout.h"
 
 class CVideoForm;
+class CViewSignalHub;
 class QGridLayout;
 
 class CMultiVideoForm : public QWidget
@@ -27,6 +28,8 @@ public:
 
     void setGridLayout(EN_VIDEO_LAYOUT layout);
     EN_VIDEO_LAYOUT getCurrentLayout() const { return m_layout; }
+    // The drawing signals of every view, keyed by device key.
+    CViewSignalHub* viewSignals() const { return m_viewSignals; }
     QGridLayout* getGridLayout() const { return m_grid; }
     CVideoForm* getForm(int id) const;
     // Id of the view bound to the device, or -1.
@@ -78,6 +81,7 @@ private:
     void highlight(int id);
 
     QGridLayout* m_grid;
+    CViewSignalHub* m_viewSignals;
     QVector<CVideoForm*> m_forms;
     // Form id at each grid position, row by row; swaps permute it.
     QVector<int> m_order;

@@ -85,7 +85,8 @@ CVideoForm::CVideoForm(int formId, QWidget* parent, bool attachToBus) : QWidget(
     connect(this, &CVideoForm::update_receive, this, &CVideoForm::OnUpdateReceive, Qt::QueuedConnection);
     if (attachToBus) {
         m_busOwner = CDeviceManager::getInstance();
-        m_busOwner->attach(this);
+        if (m_busOwner)
+            m_busOwner->attach(this);
     }
     retranslate();
     updateTitle();
@@ -331,9 +332,10 @@ void CVideoForm::onDisplayReleased(QPointF image, Qt::MouseButton button)
     if (!changed)
         return;
     const int sel = m_roiEditor.selected();
-    if (m_device && sel >= 0) {
+    if (m_device && m_viewSignals && sel >= 0) {
         const stuROI& r = m_roiEditor.rois().at(sel);
-        emit m_device->ROIChanged(int(r.Left), int(r.Top), int(r.Width), int(r.Height));
+        emit m_viewSignals->ROIChanged(m_device->getDeviceKey(), int(r.Left), int(r.Top), int(r.Width),
+                                       int(r.Height));
     }
     emit signalROIChanged(m_formId);
 }
@@ -350,8 +352,8 @@ void CVideoForm::onCursorMoved(QPoint pixel, bool inside)
     bool rgbValid = false;
     Gliv::CDisplayRenderer::probePixel(*frame, pixel.x(), pixel.y(), raw, rgb, rgbValid);
     m_statusBar->setCursorInfo(pixel, raw, rgb, rgbValid);
-    if (m_device)
-        emit m_device->cursorPoint(pixel);
+    if (m_device && m_viewSignals)
+        emit m_viewSignals->cursorPoint(m_device->getDeviceKey(), pixel);
 }
 
 void CVideoForm::drawOverlays(void* painter, void*, void* context, const CQtHybridFramePtr& frame)

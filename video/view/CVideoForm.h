@@ -14,6 +14,7 @@
 #include "CObserver.h"
 #include "CRoiEditor.h"
 #include "CTavMessage.h"
+#include "CViewSignalHub.h"
 #include "Gliv/CQtDisplayWndEx.h"
 #include "VideoLayout.h"
 
@@ -53,6 +54,9 @@ public:
     bool isHighlighted() const { return m_highlighted; }
     // Start the stream as soon as the device has connected (default on).
     void setAutoPlay(bool autoPlay) { m_autoPlay = autoPlay; }
+    // Where the view reports the ROI drawn and the pixel under the cursor
+    // (none: not reported).
+    void setViewSignals(CViewSignalHub* hub) { m_viewSignals = hub; }
 
     // Display options.
     void setShowCrosshair(bool show);
@@ -121,6 +125,7 @@ private:
     // gone at destruction is not created again just to detach.
     QPointer<CDeviceManager> m_busOwner;
     CTavDevicePtr m_device;
+    QPointer<CViewSignalHub> m_viewSignals;
     QMetaObject::Connection m_frameConnection;
     EN_VIDEO_LAYOUT m_layout = VIDEO_LAYOUT_1;
     bool m_maxMode = false;

@@ -106,11 +106,17 @@ CVideoManagerForm::CVideoManagerForm(QWidget* parent, bool attachToBus) : QWidge
             Qt::QueuedConnection);
     if (attachToBus) {
         m_busOwner = CDeviceManager::getInstance();
-        m_busOwner->attach(this);
+        if (m_busOwner)
+            m_busOwner->attach(this);
     }
     retranslate();
     applyConfig();
     OnLayoutChanged();
+}
+
+CViewSignalHub* CVideoManagerForm::viewSignals() const
+{
+    return m_multi->viewSignals();
 }
 
 CVideoManagerForm::~CVideoManagerForm()

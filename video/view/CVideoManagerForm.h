@@ -16,6 +16,7 @@
 
 class CDeviceManager;
 class CMultiVideoForm;
+class CViewSignalHub;
 class CVideoFullScreenWnd;
 class QAbstractButton;
 class QAction;
@@ -38,6 +39,8 @@ public:
     void Update(CTavMessagePtr msg) override;
 
     CMultiVideoForm* multiVideoForm() const { return m_multi; }
+    // The views' drawing signals, for the panels that draw on them.
+    CViewSignalHub* viewSignals() const;
     QMenu* displayMenu() const { return m_menu; }
     QButtonGroup* layoutButtons() const { return m_layoutGroup; }
     bool isFullScreenMode() const;

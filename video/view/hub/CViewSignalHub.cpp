@@ -1,0 +1,6 @@
+#include "CViewSignalHub.h"
+
+CViewSignalHub::CViewSignalHub(QObject* parent) : QObject(parent)
+{
+    setObjectName(QStringLiteral("viewSignalHub"));
+}
