@@ -185,7 +185,8 @@ bool CJobQueueThread::waitUntilQuiet(int timeoutMs)
 
 void CJobQueueThread::run()
 {
-    LOG_DEBUG("%s run begin", m_name.constData());
+    // Logged under the owner's name, as its own begin and end lines.
+    TAVLOG_SRC(TAVLOG_LEVEL_DEBUG, m_name.constData(), "%s run begin", m_name.constData());
     for (;;)
     {
         Job job;
@@ -215,5 +216,5 @@ void CJobQueueThread::run()
         updateBusy();
         m_idle.wakeAll();
     }
-    LOG_DEBUG("%s run end", m_name.constData());
+    TAVLOG_SRC(TAVLOG_LEVEL_DEBUG, m_name.constData(), "%s run end", m_name.constData());
 }

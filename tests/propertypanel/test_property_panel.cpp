@@ -251,7 +251,8 @@ void TestPropertyPanel::quickSettingsFollowTheCamera()
 void TestPropertyPanel::imageFormatRefusedWhileGrabbing()
 {
     const CTavDevicePtr dev = m_cams.dev[0];
-    CPropertyImageFormatForm page(dev);
+    CViewSignalHub hub;
+    CPropertyImageFormatForm page(dev, nullptr, &hub);
     page.setMessageHandler([this](const QString& t) { m_shown.append(t); });
     QTRY_VERIFY_WITH_TIMEOUT(page.state("Width").valid, 5000);
     const QString before = featureValue(dev, "Width");
