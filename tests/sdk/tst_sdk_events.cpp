@@ -119,17 +119,33 @@ void TestSdkEvents::cameraLost()
     QCOMPARE(arg.event, connectEventOffline);
     QCOMPARE(QString(arg.key.c_str()), QString(m_cam2->getKey().c_str()));
     QVERIFY(!m_cam2->isConnected());
+    // Calls fail with the loss, not with a timeout of their own.
     long v = 0;
     QVERIFY(!CIntNode(m_cam2, "Width").getValue(v));
-    QCOMPARE(getLastError(), int(ERR_NOT_CONNECTED));
-    QVERIFY(cam->disConnect());
+    QCOMPARE(getLastError(), int(ERR_DEVICE_LOST));
+    QCOMPARE(lastErrorText(), "Camera lost: " + QString(m_cam2->getKey().c_str()) + " does not answer any more");
+    ECameraAccessPermission permission;
+    QVERIFY(!CInternalGigECameraInfo(m_cam2).getAccessPermission(permission));
+    QCOMPARE(getLastError(), int(ERR_DEVICE_LOST));
 
-    // Still listed (the last discovery saw it); one event only.
+    // A later notice of the same loss (Aravis' own, say) says nothing more;
+    // a subscriber that comes after the loss hears of it at once.
+    CAravisCamera* camera = toAravisCamera(m_cam2);
+    camera->markLost(camera->generation());
+    CEventRecorder<SConnectArg> late;
+    CInternalEventManager lateEvents(m_cam2);
+    QVERIFY(lateEvents.subscribeConnectArgs(late.proc()));
+    QTRY_COMPARE_WITH_TIMEOUT(late.count(), size_t(1), 5000);
+    QVERIFY(EventHub::flush(5000));
+    QCOMPARE(connection.count(), size_t(1));
+    QVERIFY(cam->disConnect());
+    QVERIFY(!CIntNode(m_cam2, "Width").getValue(v));
+    QCOMPARE(getLastError(), int(ERR_NOT_CONNECTED));
+
+    // Still listed (the last discovery saw it).
     TVector<ICameraPtr> all;
     QVERIFY(CSystem::getInstance().getCameraPtrAll(all));
     QVERIFY(findBySerial(all, "SIM002"));
-    QVERIFY(EventHub::flush(5000));
-    QCOMPARE(connection.count(), size_t(1));
 
     // The camera comes back: same object, connects again.
     m_fake2 = m_rig.start("127.0.0.2", "SIM002");

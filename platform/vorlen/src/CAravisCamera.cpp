@@ -2,14 +2,13 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cctype>
 
-#include "CCameraConnector.h"
+#include "CConnectAttempt.h"
 #include "CDescriptionFetcher.h"
 #include "CForceIpSender.h"
 #include "CLibraryLifetime.h"
 #include "CLossWatchdog.h"
-#include "CBackgroundReleaser.h"
+#include "CBackgroundWork.h"
 #include "EventHub.h"
 #include "Gvcp.h"
 #include "MessageChannel.h"
@@ -34,20 +33,13 @@ struct SLostContext
     uint64_t generation = 0;
 };
 
-void postLost(const std::weak_ptr<CAravisCamera>& self, uint64_t generation)
-{
-    EventHub::post([self, generation] {
-        if (auto camera = self.lock())
-            camera->handleLost(generation);
-    });
-}
-
 void onControlLost(ArvDevice*, gpointer data)
 {
-    // Aravis' heartbeat thread: hand the work to the event thread, which may
-    // destroy the device (this thread cannot: the device joins it).
+    // Aravis' heartbeat thread: markLost never waits, and leaves the release
+    // of the device (which joins this very thread) to a thread of its own.
     const SLostContext* ctx = static_cast<const SLostContext*>(data);
-    postLost(ctx->self, ctx->generation);
+    if (auto camera = ctx->self.lock())
+        camera->markLost(ctx->generation);
 }
 
 void deleteLostContext(gpointer data, GClosure*)
@@ -60,14 +52,6 @@ std::string errorText(GError* error)
     return error && error->message ? error->message : "";
 }
 
-std::string sanitizeFileName(std::string s)
-{
-    for (char& c : s)
-        if (!std::isalnum(static_cast<unsigned char>(c)) && c != '-' && c != '_' && c != '.')
-            c = '_';
-    return s;
-}
-
 } // namespace
 
 struct CAravisCamera::SPrivate
@@ -76,9 +60,8 @@ struct CAravisCamera::SPrivate
     SDiscoveryInfo info;
     std::weak_ptr<CAravisCamera> self;
 
-    // Guarded by gcMutex.
+    // Guarded by the camera's lock.
     ArvCamera* camera = nullptr;
-    uint64_t generation = 0;
     gulong lostHandler = 0;
     uint32_t hostIp = 0;
     ECameraAccessPermission held = accessPermissionOpen;
@@ -87,12 +70,22 @@ struct CAravisCamera::SPrivate
     std::string xmlUrl;
 
     std::atomic<bool> connected{false};
+    // Connections are numbered; the one numbered lostGeneration was found
+    // lost. A loss notice of an older connection never touches a newer one.
+    std::atomic<uint64_t> generation{0};   // changed under the lock, read anywhere
+    std::atomic<uint64_t> lostGeneration{UINT64_MAX};
+    std::atomic<bool> lossUnclosed{false};
+    std::atomic<bool> closedAfterLoss{false};   // disConnect() since the loss: not connected, no longer "lost"
     std::atomic<unsigned int> answerTimeoutMs{1000};
     // Heartbeat interval as configured (before any raise of the camera's
     // register); the loss watchdog reports a camera silent for this long.
     std::atomic<unsigned int> heartbeatMs{1500};
 
     CLossWatchdog watchdog;
+
+    // The open under way in connect(), which a loss abandons.
+    std::mutex attemptMutex;
+    std::shared_ptr<CConnectAttempt> attempt;
 
     template <class T>
     T field(T SDiscoveryInfo::*member) const
@@ -109,9 +102,10 @@ CAravisCamera::CAravisCamera(const SDiscoveryInfo& info) : p(new SPrivate)
 
 CAravisCamera::~CAravisCamera()
 {
-    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    EventHub::forget(this);
+    std::lock_guard<CCameraLock> lock(m_lock);
     if (p->connected)
-        releaseConnection(true);
+        releaseConnection(!isLost());
 }
 
 Memory::TSharedPtr<CAravisCamera> CAravisCamera::create(const SDiscoveryInfo& info)
@@ -134,7 +128,41 @@ EInterfaceType CAravisCamera::getType() const { return p->field(&SDiscoveryInfo:
 
 bool CAravisCamera::isConnected() const
 {
-    return p->connected;
+    return p->connected && !isLost();
+}
+
+bool CAravisCamera::isLost() const
+{
+    return p->lostGeneration == p->generation;
+}
+
+uint64_t CAravisCamera::generation() const
+{
+    return p->generation;
+}
+
+bool CAravisCamera::lossUnclosed() const
+{
+    return p->lossUnclosed;
+}
+
+bool CAravisCamera::failLost() const
+{
+    if (p->closedAfterLoss) {
+        setLastError(ERR_NOT_CONNECTED, getKey().c_str());
+        return false;
+    }
+    const std::string detail = getKey().str() + " does not answer any more";
+    setLastError(ERR_DEVICE_LOST, detail.c_str());
+    return false;
+}
+
+bool CAravisCamera::lockAccess(std::unique_lock<CCameraLock>& lock) const
+{
+    if (!m_lock.lockUnlessLost())
+        return failLost();
+    lock = std::unique_lock<CCameraLock>(m_lock, std::adopt_lock);
+    return true;
 }
 
 CAravisCamera::SDiscoveryInfo CAravisCamera::discoveryInfo() const
@@ -169,11 +197,15 @@ unsigned int CAravisCamera::answerTimeoutMs() const
 
 bool CAravisCamera::connect(ECameraAccessPermission permission)
 {
-    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    // A call still inside the previous connection's camera is waited for:
+    // the connection it works on may still need letting go.
+    std::lock_guard<CCameraLock> lock(m_lock);
     const SDiscoveryInfo info = discoveryInfo();
-    CBackgroundReleaser::instance().joinFinished();
+    CBackgroundWork::instance().joinFinished();
     if (CLibraryLifetime::refuse())
         return false;
+    if (p->connected && isLost())
+        releaseConnection(false);
     if (p->connected) {
         setLastError(ERR_ALREADY_CONNECTED, info.key.c_str());
         return false;
@@ -183,43 +215,77 @@ bool CAravisCamera::connect(ECameraAccessPermission permission)
         setLastError(ERR_INVALID_PARAMETER, "access permission");
         return false;
     }
-    std::unique_ptr<CCameraConnector> connector = CCameraConnector::forType(info.type);
-    if (!connector) {
-        setLastError(ERR_NOT_SUPPORTED, "interface kind");
-        return false;
-    }
-    CCameraConnector::SConnection connection;
-    if (!connector->open(info, permission, p->answerTimeoutMs, connection))
-        return false;
-
-    p->camera = connection.camera;
-    p->hostIp = connection.hostIp;
-    p->held = connection.permission;
-    const uint64_t generation = ++p->generation;
-    SLostContext* ctx = new SLostContext;
-    ctx->self = p->self;
-    ctx->generation = generation;
-    p->lostHandler = g_signal_connect_data(arv_camera_get_device(p->camera), "control-lost",
-                                           G_CALLBACK(onControlLost), ctx, deleteLostContext, GConnectFlags(0));
-    p->connected = true;
+    p->lossUnclosed = false;
+    p->closedAfterLoss = false;
+    const uint64_t generation = ++p->generation;   // not lost: the lost one is older
+    // The watchdog runs from the start: a camera that stops answering while
+    // it is being opened is given up at once.
     uint32_t cameraIp = 0;
     if (info.type == typeGigEVision && Gvcp::parseIp(info.ipAddress.c_str(), cameraIp)) {
         std::weak_ptr<CAravisCamera> self = p->self;
-        p->watchdog.start(cameraIp, p->heartbeatMs, p->answerTimeoutMs,
-                          [self, generation] { postLost(self, generation); });
+        p->watchdog.start(cameraIp, p->heartbeatMs, p->answerTimeoutMs, [self, generation] {
+            if (auto camera = self.lock())
+                camera->markLost(generation);
+        });
+    }
+    if (!open(info, permission, generation)) {
+        p->watchdog.stop();
+        return false;
     }
     LOG_DEBUG("connected %s", info.key.c_str());
-
     if (info.type == typeGigEVision && EventHub::hasSubscribers(this, EventHub::kindMsgChannel))
         openMessageChannel();
     clearLastError();
     return true;
 }
 
+bool CAravisCamera::open(const SDiscoveryInfo& info, ECameraAccessPermission permission, uint64_t generation)
+{
+    std::unique_ptr<CCameraConnector> connector = CCameraConnector::forType(info.type);
+    if (!connector) {
+        setLastError(ERR_NOT_SUPPORTED, "interface kind");
+        return false;
+    }
+    std::shared_ptr<CConnectAttempt> attempt =
+        CConnectAttempt::start(std::move(connector), info, permission, p->answerTimeoutMs);
+    {
+        std::lock_guard<std::mutex> lock(p->attemptMutex);
+        p->attempt = attempt;
+    }
+    if (isLost())
+        attempt->abandon();   // lost before the attempt could be told
+    CCameraConnector::SConnection connection;
+    const bool opened = attempt->wait(connection);
+    {
+        std::lock_guard<std::mutex> lock(p->attemptMutex);
+        p->attempt.reset();
+    }
+    if (!opened)
+        return isLost() ? failLost() : false;
+
+    p->camera = connection.camera;
+    p->hostIp = connection.hostIp;
+    p->held = connection.permission;
+    SLostContext* ctx = new SLostContext;
+    ctx->self = p->self;
+    ctx->generation = generation;
+    p->lostHandler = g_signal_connect_data(arv_camera_get_device(p->camera), "control-lost",
+                                           G_CALLBACK(onControlLost), ctx, deleteLostContext, GConnectFlags(0));
+    p->connected = true;
+    // A loss between the opening and here: markLost may not have seen the
+    // connection; let go of it here.
+    if (isLost()) {
+        releaseConnection(false);
+        return failLost();
+    }
+    return true;
+}
+
 void CAravisCamera::releaseConnection(bool cameraAlive)
 {
-    // Caller holds gcMutex.
-    p->watchdog.stop();
+    // Caller holds the lock. The watchdog keeps watching while the message
+    // channel is closed on the camera: a loss then is still reported.
+    cameraAlive = cameraAlive && !isLost();
     if (p->channel) {
         if (cameraAlive && p->camera)
             arv_device_write_register(arv_camera_get_device(p->camera), Gvcp::REG_MCP, 0, nullptr);
@@ -233,43 +299,68 @@ void CAravisCamera::releaseConnection(bool cameraAlive)
     p->connected = false;
     p->nodeMap.reset();
     p->held = accessPermissionOpen;
+    p->watchdog.stop();
     if (!camera)
         return;
-    if (cameraAlive) {
-        g_object_unref(camera);
+    if (cameraAlive && !isLost()) {   // (again: the camera may have gone meanwhile)
+        g_object_unref(camera);   // gives control back: one round trip
     } else {
         // Releasing a vanished camera waits for its control channel to time
-        // out; that must not hold up the event thread. A stream may still
-        // hold the device: it goes as soon as the camera no longer needs it.
-        CBackgroundReleaser::instance().run([camera] { g_object_unref(camera); });
+        // out. A stream may still hold the device: it goes as soon as the
+        // camera no longer needs it.
+        CBackgroundWork::instance().run([camera] { g_object_unref(camera); });
     }
 }
 
 bool CAravisCamera::disConnect()
 {
-    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    CBackgroundWork::instance().joinFinished();
+    // A lost connection is let go of by a thread of its own; closing it
+    // waits for nothing.
+    std::unique_lock<CCameraLock> lock;
+    if (isLost() || !lockAccess(lock)) {
+        p->lossUnclosed = false;
+        p->closedAfterLoss = true;
+        clearLastError();
+        return true;
+    }
     if (p->connected) {
         releaseConnection(true);
         LOG_DEBUG("disconnected %s", getKey().c_str());
     }
-    CBackgroundReleaser::instance().joinFinished();
     clearLastError();
     return true;
 }
 
-void CAravisCamera::handleLost(uint64_t generation)
+void CAravisCamera::markLost(uint64_t generation)
 {
+    uint64_t previous = p->lostGeneration;
+    if (generation != p->generation || previous == generation ||
+        !p->lostGeneration.compare_exchange_strong(previous, generation))
+        return;   // another connection's notice, or reported already
+    m_lock.notifyLost();
     {
-        std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
-        if (!p->connected || p->generation != generation)
-            return;
-        releaseConnection(false);
+        std::lock_guard<std::mutex> lock(p->attemptMutex);
+        if (p->attempt)
+            p->attempt->abandon();
     }
     SConnectArg arg;
     arg.event = connectEventOffline;
     arg.key = getKey();
     LOG_WARN("camera %s lost", arg.key.c_str());
+    if (!p->connected)
+        return;   // while it was being opened: connect() fails with the loss
+    p->lossUnclosed = true;
     EventHub::publishConnect(this, arg);
+    if (auto self = p->self.lock())
+        CBackgroundWork::instance().run([self, generation] { self->releaseLost(generation); });
+}
+
+void CAravisCamera::releaseLost(uint64_t generation)
+{
+    std::lock_guard<CCameraLock> lock(m_lock);
+    if (p->generation == generation && p->connected)
+        releaseConnection(false);
 }
 
 bool CAravisCamera::isDriverInstalled(bool& installed) const
@@ -310,7 +401,9 @@ bool CAravisCamera::setHeartbeatIntervel(unsigned short ms)
 {
     if (!requireGigE("heartbeat is a GigE Vision setting"))
         return false;
-    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    std::unique_lock<CCameraLock> lock;
+    if (!lockAccess(lock))
+        return false;
     ArvDevice* device = arvDevice();
     if (!device) {
         setLastError(ERR_NOT_CONNECTED, getKey().c_str());
@@ -342,30 +435,9 @@ bool CAravisCamera::forceIpAddress(const char* ip, const char* mask, const char*
 {
     if (!requireGigE("FORCEIP is a GigE Vision command"))
         return false;
-    uint32_t newIp = 0, newMask = 0, newGateway = 0;
-    if (!Gvcp::parseIp(ip, newIp) || !Gvcp::parseIp(mask, newMask)) {
-        setLastError(ERR_INVALID_PARAMETER, "address or mask");
-        return false;
-    }
-    if (gateway && *gateway && !Gvcp::parseIp(gateway, newGateway)) {
-        setLastError(ERR_INVALID_PARAMETER, "gateway");
-        return false;
-    }
     SDiscoveryInfo info = discoveryInfo();
-    const unsigned int timeout = std::max(1000u, p->answerTimeoutMs.load());
-    const int err = CForceIpSender(info).send(newIp, newMask, newGateway, timeout);
-    if (err == ERR_INVALID_PARAMETER) {
-        setLastError(err, "camera MAC or address unknown");
+    if (!CForceIpSender(info).send(ip, mask, gateway, std::max(1000u, p->answerTimeoutMs.load()), info))
         return false;
-    }
-    if (err != ERR_OK) {
-        setLastError(err, info.key.c_str());
-        LOG_ERROR("FORCEIP %s -> %s failed: %s", info.key.c_str(), ip, getErrMsg(err));
-        return false;
-    }
-    info.ipAddress = Gvcp::ipToString(newIp);
-    info.subnetMask = Gvcp::ipToString(newMask);
-    info.gateway = Gvcp::ipToString(newGateway);
     updateDiscoveryInfo(info);
     LOG_DEBUG("FORCEIP %s -> %s", info.key.c_str(), ip);
     clearLastError();
@@ -380,7 +452,9 @@ bool CAravisCamera::downLoadGenICamXML(const char* path)
     }
     std::string xml;
     {
-        std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+        std::unique_lock<CCameraLock> lock;
+        if (!lockAccess(lock))
+            return false;
         if (ArvDevice* device = arvDevice()) {
             size_t size = 0;
             const char* data = arv_device_get_genicam_xml(device, &size);
@@ -409,7 +483,9 @@ CString CAravisCamera::getDefXMLFilename() const
     const SDiscoveryInfo info = discoveryInfo();
     std::string url;
     {
-        std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+        std::unique_lock<CCameraLock> lock;
+        if (!lockAccess(lock))
+            return CString();
         url = p->xmlUrl;
         if (url.empty()) {
             char buffer[513] = {0};
@@ -422,16 +498,13 @@ CString CAravisCamera::getDefXMLFilename() const
             p->xmlUrl = url;
         }
     }
-    std::string name = CDescriptionFetcher::fileNameOfUrl(url);
-    if (name.empty())
-        name = sanitizeFileName(info.vendor + "_" + info.model) + ".xml";
     clearLastError();
-    return name;
+    return CDescriptionFetcher::fileNameFor(url, info.vendor, info.model);
 }
 
 std::shared_ptr<CNodeMap> CAravisCamera::nodeMap()
 {
-    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    std::lock_guard<CCameraLock> lock(m_lock);   // the caller holds it already
     ArvDevice* device = arvDevice();
     if (!device)
         return nullptr;
@@ -442,7 +515,9 @@ std::shared_ptr<CNodeMap> CAravisCamera::nodeMap()
 
 bool CAravisCamera::openMessageChannel()
 {
-    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    std::unique_lock<CCameraLock> lock;
+    if (!lockAccess(lock))
+        return false;
     ArvDevice* device = arvDevice();
     if (!device || !isGigE()) {
         setLastError(device ? ERR_NOT_SUPPORTED : ERR_NOT_CONNECTED, "message channel");
@@ -475,7 +550,9 @@ bool CAravisCamera::openMessageChannel()
 
 void CAravisCamera::closeMessageChannel()
 {
-    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    std::unique_lock<CCameraLock> lock;
+    if (!lockAccess(lock))
+        return;   // let go of with the lost connection
     if (!p->channel)
         return;
     if (ArvDevice* device = arvDevice())
@@ -485,13 +562,17 @@ void CAravisCamera::closeMessageChannel()
 
 ECameraAccessPermission CAravisCamera::heldPermission() const
 {
-    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    std::unique_lock<CCameraLock> lock;
+    if (!lockAccess(lock))
+        return accessPermissionOpen;
     return p->connected ? p->held : accessPermissionOpen;
 }
 
 uint16_t CAravisCamera::messageChannelPort() const
 {
-    std::lock_guard<std::recursive_mutex> lock(m_gcMutex);
+    std::unique_lock<CCameraLock> lock;
+    if (!lockAccess(lock))
+        return 0;
     return p->channel ? p->channel->port() : 0;
 }
 

@@ -112,6 +112,8 @@ bool CInternalGigECameraInfo::getAccessPermission(ECameraAccessPermission& permi
         setLastError(c ? ERR_NOT_SUPPORTED : ERR_INVALID_HANDLE, "access permission");
         return false;
     }
+    if (c->lossUnclosed())
+        return c->failLost();   // no round trip to a camera known to be gone
     if (c->isConnected()) {
         permission = c->heldPermission();
         clearLastError();

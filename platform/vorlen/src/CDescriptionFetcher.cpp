@@ -100,6 +100,19 @@ std::string CDescriptionFetcher::fileNameOfUrl(const std::string& url)
     return name;
 }
 
+std::string CDescriptionFetcher::fileNameFor(const std::string& url, const std::string& vendor,
+                                             const std::string& model)
+{
+    std::string name = fileNameOfUrl(url);
+    if (!name.empty())
+        return name;
+    name = vendor + "_" + model;
+    for (char& c : name)
+        if (!std::isalnum(static_cast<unsigned char>(c)) && c != '-' && c != '_' && c != '.')
+            c = '_';
+    return name + ".xml";
+}
+
 bool CDescriptionFetcher::unpack(const std::string& url, const std::vector<uint8_t>& raw, std::string& xml)
 {
     std::string name;

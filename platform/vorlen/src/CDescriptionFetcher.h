@@ -24,6 +24,9 @@ public:
     static bool parseLocalUrl(const std::string& url, std::string& name, uint32_t& address, uint32_t& size);
     // File name a URL names, without a ".zip" ending.
     static std::string fileNameOfUrl(const std::string& url);
+    // The name to offer for a camera's description: the URL's, else one
+    // made of vendor and model.
+    static std::string fileNameFor(const std::string& url, const std::string& vendor, const std::string& model);
     // The description file of a "Local:" URL, unpacked when zipped.
     static bool unpack(const std::string& url, const std::vector<uint8_t>& raw, std::string& xml);
     // Writes text to path; false with the last error set (ERR_IO).

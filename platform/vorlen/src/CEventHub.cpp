@@ -1,6 +1,7 @@
 #include "CEventHub.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace Vorlen {
 namespace GenICam {
@@ -51,12 +52,15 @@ bool CEventHub::hasSubscribers(const ICamera* camera, EventHub::EKind kind)
     return false;
 }
 
-std::shared_ptr<CEventDispatcher> CEventHub::dispatcherFor(const ICamera*)
+std::shared_ptr<CEventDispatcher> CEventHub::dispatcherFor(const ICamera* camera)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_dispatcher && !m_shutDown)
-        m_dispatcher = std::make_shared<CEventDispatcher>();
-    return m_dispatcher;
+    if (m_shutDown)
+        return nullptr;
+    std::shared_ptr<CEventDispatcher>& dispatcher = m_dispatchers[camera];
+    if (!dispatcher)
+        dispatcher = std::make_shared<CEventDispatcher>();
+    return dispatcher;
 }
 
 bool CEventHub::post(const ICamera* camera, std::function<void()> task)
@@ -67,39 +71,62 @@ bool CEventHub::post(const ICamera* camera, std::function<void()> task)
 
 bool CEventHub::flush(unsigned int timeoutMs)
 {
-    std::shared_ptr<CEventDispatcher> dispatcher;
+    std::vector<std::shared_ptr<CEventDispatcher>> dispatchers;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
         if (m_shutDown)
             return false;
-        dispatcher = m_dispatcher;
+        for (const auto& entry : m_dispatchers)
+            dispatchers.push_back(entry.second);
     }
-    return !dispatcher || dispatcher->flush(timeoutMs);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeoutMs);
+    for (const auto& dispatcher : dispatchers) {
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left.count() <= 0 || !dispatcher->flush(unsigned(left.count())))
+            return false;
+    }
+    return true;
 }
 
-void CEventHub::waitIdle(const ICamera*)
+void CEventHub::waitIdle(const ICamera* camera)
 {
     std::shared_ptr<CEventDispatcher> dispatcher;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
-        dispatcher = m_dispatcher;
+        auto it = m_dispatchers.find(camera);
+        if (it != m_dispatchers.end())
+            dispatcher = it->second;
     }
     if (dispatcher)
         dispatcher->waitIdle();
 }
 
-void CEventHub::shutdown()
+void CEventHub::forget(const ICamera* camera)
 {
     std::shared_ptr<CEventDispatcher> dispatcher;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        auto it = m_dispatchers.find(camera);
+        if (it == m_dispatchers.end())
+            return;
+        dispatcher = std::move(it->second);
+        m_dispatchers.erase(it);
+    }
+    dispatcher->stop();
+}
+
+void CEventHub::shutdown()
+{
+    std::map<const ICamera*, std::shared_ptr<CEventDispatcher>> dispatchers;
     std::vector<std::shared_ptr<SSubscriber>> subscribers;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
         m_shutDown = true;
-        dispatcher = std::move(m_dispatcher);
+        dispatchers.swap(m_dispatchers);
         subscribers.swap(m_subscribers);
     }
-    if (dispatcher)
-        dispatcher->stop();
+    for (const auto& entry : dispatchers)
+        entry.second->stop();
 }
 
 } // namespace GenICam

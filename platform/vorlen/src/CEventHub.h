@@ -1,9 +1,13 @@
 #pragma once
-// The process-wide registry of event subscribers and the thread that
-// delivers their events. Publishers hand over a task; it runs on the
-// dispatch thread, never on the publisher's, so a slow subscriber never
-// stalls a stream or a camera call. shutdown() ends delivery for good.
+// The process-wide registry of event subscribers and the threads that
+// deliver their events: one per camera, started with its first event, so
+// that a subscriber stuck with one camera's event never holds up another
+// camera's events (a loss report above all). Publishers hand over a task;
+// it runs on the camera's dispatch thread, never on the publisher's, so a
+// slow subscriber never stalls a stream or a camera call either.
+// shutdown() ends delivery for good.
 #include <functional>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -48,11 +52,22 @@ public:
         return out;
     }
 
+    // The subscriber's handler now (empty once cleared).
+    template <class Proc>
+    Proc handlerOf(const EventHub::SSubscriber& s, Proc EventHub::SSubscriber::*member)
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        return s.*member;
+    }
+
     bool hasSubscribers(const ICamera* camera, EventHub::EKind kind);
     // Runs task on the thread that delivers camera's events; false once
     // shut down.
     bool post(const ICamera* camera, std::function<void()> task);
+    // Waits until the events queued so far for every camera are delivered.
     bool flush(unsigned int timeoutMs);
+    // The camera object is going away: its dispatch thread ends.
+    void forget(const ICamera* camera);
     // Drops every subscriber and queued event and ends the dispatch thread;
     // idempotent. Later posts fail, later attaches are ignored.
     void shutdown();
@@ -62,9 +77,9 @@ private:
     std::shared_ptr<CEventDispatcher> dispatcherFor(const ICamera* camera);
     void waitIdle(const ICamera* camera);
 
-    std::mutex m_mutex;   // guards the subscribers, every handler and the dispatcher
+    std::mutex m_mutex;   // guards the subscribers, every handler and the dispatchers
     std::vector<std::shared_ptr<EventHub::SSubscriber>> m_subscribers;
-    std::shared_ptr<CEventDispatcher> m_dispatcher;
+    std::map<const ICamera*, std::shared_ptr<CEventDispatcher>> m_dispatchers;
     bool m_shutDown = false;
 };
 

@@ -1,12 +1,43 @@
 #include "CForceIpSender.h"
 
 #include "Gvcp.h"
+#include "Tavlog4cpp/TavLogMacros.h"
 #include "Vorlen/Infra/Error.h"
 
 namespace Vorlen {
 namespace GenICam {
 
-int CForceIpSender::send(uint32_t ip, uint32_t mask, uint32_t gateway, unsigned int timeoutMs) const
+bool CForceIpSender::send(const char* ip, const char* mask, const char* gateway, unsigned int timeoutMs,
+                          CAravisCamera::SDiscoveryInfo& updated) const
+{
+    using namespace Infra;
+    uint32_t newIp = 0, newMask = 0, newGateway = 0;
+    if (!Gvcp::parseIp(ip, newIp) || !Gvcp::parseIp(mask, newMask)) {
+        setLastError(ERR_INVALID_PARAMETER, "address or mask");
+        return false;
+    }
+    if (gateway && *gateway && !Gvcp::parseIp(gateway, newGateway)) {
+        setLastError(ERR_INVALID_PARAMETER, "gateway");
+        return false;
+    }
+    const int err = sendTo(newIp, newMask, newGateway, timeoutMs);
+    if (err == ERR_INVALID_PARAMETER) {
+        setLastError(err, "camera MAC or address unknown");
+        return false;
+    }
+    if (err != ERR_OK) {
+        setLastError(err, m_info.key.c_str());
+        LOG_ERROR("FORCEIP %s -> %s failed: %s", m_info.key.c_str(), ip, getErrMsg(err));
+        return false;
+    }
+    updated = m_info;
+    updated.ipAddress = Gvcp::ipToString(newIp);
+    updated.subnetMask = Gvcp::ipToString(newMask);
+    updated.gateway = Gvcp::ipToString(newGateway);
+    return true;
+}
+
+int CForceIpSender::sendTo(uint32_t ip, uint32_t mask, uint32_t gateway, unsigned int timeoutMs) const
 {
     uint64_t mac = 0;
     uint32_t cameraIp = 0;

@@ -15,10 +15,16 @@ class CForceIpSender
 public:
     explicit CForceIpSender(const CAravisCamera::SDiscoveryInfo& info) : m_info(info) {}
 
-    // An Infra error code: ERR_OK once the camera acknowledged.
-    int send(uint32_t ip, uint32_t mask, uint32_t gateway, unsigned int timeoutMs) const;
+    // Sends the addresses (dotted quads; an empty or null gateway is
+    // 0.0.0.0) and waits for the acknowledge. On success updated carries
+    // the camera's new address, mask and gateway; otherwise false with the
+    // last error set.
+    bool send(const char* ip, const char* mask, const char* gateway, unsigned int timeoutMs,
+              CAravisCamera::SDiscoveryInfo& updated) const;
 
 private:
+    int sendTo(uint32_t ip, uint32_t mask, uint32_t gateway, unsigned int timeoutMs) const;
+
     const CAravisCamera::SDiscoveryInfo& m_info;
 };
 

@@ -83,7 +83,18 @@ bool unsubscribe(const Memory::TSharedPtr<CInternalEventManager::SImpl>& d,
 
 bool CInternalEventManager::subscribeConnectArgs(const ConnectProc& proc)
 {
-    return subscribe(d, &EventHub::setConnectHandler, proc);
+    if (!subscribe(d, &EventHub::setConnectHandler, proc))
+        return false;
+    // A camera lost before anybody listened (between connecting and
+    // subscribing, say) is reported to the newcomer at once.
+    CAravisCamera* camera = toAravisCamera(d->camera);
+    if (camera && camera->lossUnclosed()) {
+        SConnectArg arg;
+        arg.event = connectEventOffline;
+        arg.key = camera->getKey();
+        EventHub::tellConnect(d->subscriber, arg);
+    }
+    return true;
 }
 
 bool CInternalEventManager::unsubscribeConnectArgs()

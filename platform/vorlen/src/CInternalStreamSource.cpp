@@ -4,7 +4,7 @@
 #include <mutex>
 
 #include "CAravisCamera.h"
-#include "CBackgroundReleaser.h"
+#include "CBackgroundWork.h"
 #include "CFrameLoss.h"
 #include "CStreamEventReporter.h"
 #include "CStreamSettings.h"
@@ -119,6 +119,8 @@ bool CInternalStreamSource::SImpl::start(unsigned long maxImages, EGrabStrategy 
         setLastError(Infra::ERR_INVALID_HANDLE, "no camera behind the stream");
         return false;
     }
+    if (ac->isLost())
+        return ac->failLost();
     if (!ac->isConnected()) {
         setLastError(Infra::ERR_NOT_CONNECTED, "the camera is not connected");
         return false;
@@ -180,7 +182,7 @@ bool CInternalStreamSource::SImpl::stop()
         // The session may hold the last reference to a vanished camera's
         // device, whose release waits for the control channel to time out:
         // do not make the caller (often the GUI thread) wait for that.
-        CBackgroundReleaser::instance().run([s = std::move(session)]() mutable { s.reset(); });
+        CBackgroundWork::instance().run([s = std::move(session)]() mutable { s.reset(); });
     }
     session.reset();
     LOG_DEBUG("stream stopped: channel %u, %d buffer(s) still held by frames", unsigned(channel),
@@ -192,9 +194,9 @@ bool CInternalStreamSource::SImpl::stop()
 void CInternalStreamSource::SImpl::stopAcquisition()
 {
     CAravisCamera* ac = toAravisCamera(camera);
-    if (!ac)
-        return;
-    std::lock_guard<std::recursive_mutex> gc(ac->gcMutex());
+    std::unique_lock<CCameraLock> lock;
+    if (!ac || !ac->lockAccess(lock))
+        return;   // a lost camera streams no more
     if (ArvCamera* cam = ac->arvCamera()) {
         GError* error = nullptr;
         arv_camera_stop_acquisition(cam, &error);

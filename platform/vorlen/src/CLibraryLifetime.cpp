@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "CBackgroundReleaser.h"
+#include "CBackgroundWork.h"
 #include "CCameraRegistry.h"
 #include "EventHub.h"
 #include "Tavlog4cpp/TavLogMacros.h"
@@ -25,7 +25,7 @@ void CLibraryLifetime::shutdown()
     std::vector<CCameraRegistry::CameraPtr> cameras = CCameraRegistry::instance().takeAll();
     for (const CCameraRegistry::CameraPtr& camera : cameras)
         camera->disConnect();
-    CBackgroundReleaser::instance().shutdown();
+    CBackgroundWork::instance().shutdown();
     EventHub::shutdown();
     LOG_DEBUG("camera library shut down, %zu camera(s) closed", cameras.size());
 }

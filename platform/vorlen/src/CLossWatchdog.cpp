@@ -36,7 +36,13 @@ void CLossWatchdog::stop()
         m_stop = true;
     }
     m_wake.notify_all();
-    if (m_thread.joinable())
+    if (!m_thread.joinable())
+        return;
+    // Never from onSilent; but the camera's last reference may go on this
+    // very thread, and its end stops the watchdog.
+    if (m_thread.get_id() == std::this_thread::get_id())
+        m_thread.detach();
+    else
         m_thread.join();
 }
 

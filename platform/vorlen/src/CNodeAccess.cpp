@@ -93,7 +93,8 @@ bool CNodeAccess::resolve(EUse use, const SKind* kind)
     m_camera = toAravisCamera(m_cameraPtr);
     if (!m_camera)
         return fail(ERR_INVALID_HANDLE);
-    m_lock = std::unique_lock<std::recursive_mutex>(m_camera->gcMutex());
+    if (!m_camera->lockAccess(m_lock))
+        return false;
     ArvDevice* device = m_camera->arvDevice();
     if (!device)
         return fail(ERR_NOT_CONNECTED);
@@ -115,6 +116,10 @@ bool CNodeAccess::check(GError*& e, int fallback) const
 {
     if (!e)
         return true;
+    if (m_camera && m_camera->isLost()) {
+        g_clear_error(&e);
+        return m_camera->failLost();
+    }
     std::string detail = m_name.str();
     if (e->message) {
         detail += ": ";
@@ -127,6 +132,8 @@ bool CNodeAccess::check(GError*& e, int fallback) const
 
 bool CNodeAccess::fail(int code, const std::string& more) const
 {
+    if (m_camera && m_camera->isLost())
+        return m_camera->failLost();
     std::string detail = m_name.str();
     if (!more.empty())
         detail += ": " + more;

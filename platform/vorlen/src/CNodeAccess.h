@@ -5,8 +5,11 @@
 // the kind the operation needs; every failure, there and after, lands in the
 // calling thread's last error with the feature's name. The lock is held for
 // as long as the object lives. Every parameter-node operation goes through
-// one of these.
+// one of these. A camera found lost fails the access at once, and every
+// failure after its loss reports the loss, whatever Aravis made of it.
 #include <mutex>
+
+#include "CCameraLock.h"
 #include <string>
 
 #include "CAravisCamera.h"
@@ -51,7 +54,8 @@ public:
     const CString& name() const { return m_name; }
 
     // True when e is null; otherwise consumes it, sets the last error it
-    // maps to (fallback for errors without a closer code) and returns false.
+    // maps to (fallback for errors without a closer code; the camera's loss
+    // once it is lost) and returns false.
     bool check(GError*& e, int fallback) const;
     // Sets the last error to code, detailed by the feature name and more.
     bool fail(int code, const std::string& more = std::string()) const;
@@ -96,7 +100,7 @@ private:
     const Memory::TSharedPtr<ICamera>& m_cameraPtr;
     const CString& m_name;
     CAravisCamera* m_camera = nullptr;
-    std::unique_lock<std::recursive_mutex> m_lock;
+    std::unique_lock<CCameraLock> m_lock;
     ArvGcNode* m_node = nullptr;
     bool m_ok = false;
 };

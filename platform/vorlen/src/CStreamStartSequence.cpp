@@ -72,13 +72,26 @@ bool isLoopback(const std::string& ip)
 
 bool CStreamStartSequence::run(GrabSession& session)
 {
-    std::lock_guard<std::recursive_mutex> gc(m_camera.gcMutex());
+    std::unique_lock<CCameraLock> lock;
+    if (!m_camera.lockAccess(lock))
+        return false;
     ArvCamera* camera = m_camera.arvCamera();
     if (!camera) {
         setLastError(Infra::ERR_NOT_CONNECTED, "the camera is not connected");
         return false;
     }
-    return configure(camera, session) && createStream(camera, session) && startAcquisition(camera, session);
+    // Every step is a round trip or more; a camera lost meanwhile ends the
+    // sequence after the one under way, with the loss as its error.
+    const bool started = configure(camera, session) && alive() && createStream(camera, session) && alive() &&
+                         startAcquisition(camera, session);
+    if (!started && m_camera.isLost())
+        return m_camera.failLost();
+    return started;
+}
+
+bool CStreamStartSequence::alive() const
+{
+    return !m_camera.isLost() || m_camera.failLost();
 }
 
 bool CStreamStartSequence::configure(ArvCamera* camera, GrabSession& session)
@@ -92,14 +105,16 @@ bool CStreamStartSequence::configure(ArvCamera* camera, GrabSession& session)
             return false;
         }
     }
-    m_packetBytes = settlePacketSize(camera);
+    if (!settlePacketSize(camera) || !alive())
+        return false;
     m_payload = arv_camera_get_payload(camera, &error);
     if (error || m_payload == 0) {
         setLastError(Infra::ERR_READ_FAILED, error ? error->message : "payload size is 0");
         g_clear_error(&error);
         return false;
     }
-    readGeometry(camera, session);
+    if (!readGeometry(camera, session) || !alive())
+        return false;
 
     // Chunk decoding, when the camera has chunks at all.
     if (arv_camera_are_chunks_available(camera, nullptr)) {
@@ -115,17 +130,18 @@ bool CStreamStartSequence::configure(ArvCamera* camera, GrabSession& session)
     return true;
 }
 
-unsigned int CStreamStartSequence::settlePacketSize(ArvCamera* camera)
+bool CStreamStartSequence::settlePacketSize(ArvCamera* camera)
 {
+    m_packetBytes = 0;
     if (!arv_camera_is_gv_device(camera))
-        return 0;
+        return true;
     unsigned int wanted = m_settings.packetSize;
     if (wanted == 0 && isLoopback(m_camera.discoveryInfo().ipAddress)) {
         const guint current = arv_camera_gv_get_packet_size(camera, nullptr);
         if (current < kLoopbackPacketSize)
             wanted = kLoopbackPacketSize;
     }
-    if (wanted > 0) {
+    if (wanted > 0 && alive()) {
         GError* error = nullptr;
         arv_camera_gv_set_packet_size(camera, gint(wanted), &error);
         if (error) {
@@ -133,10 +149,13 @@ unsigned int CStreamStartSequence::settlePacketSize(ArvCamera* camera)
             g_clear_error(&error);
         }
     }
-    return arv_camera_gv_get_packet_size(camera, nullptr);
+    if (!alive())
+        return false;
+    m_packetBytes = arv_camera_gv_get_packet_size(camera, nullptr);
+    return true;
 }
 
-void CStreamStartSequence::readGeometry(ArvCamera* camera, GrabSession& session)
+bool CStreamStartSequence::readGeometry(ArvCamera* camera, GrabSession& session)
 {
     // For payloads that carry none (chunk-only, JPEG).
     GError* error = nullptr;
@@ -147,8 +166,11 @@ void CStreamStartSequence::readGeometry(ArvCamera* camera, GrabSession& session)
     session.fallback.height = uint32_t(std::max(h, 0));
     session.fallback.offsetX = uint64_t(std::max(x, 0));
     session.fallback.offsetY = uint64_t(std::max(y, 0));
+    if (!alive())
+        return false;
     session.fallback.pixelFormat = uint32_t(arv_camera_get_pixel_format(camera, &error));
     g_clear_error(&error);
+    return true;
 }
 
 bool CStreamStartSequence::createStream(ArvCamera* camera, GrabSession& session)
@@ -187,9 +209,10 @@ bool CStreamStartSequence::startAcquisition(ArvCamera* camera, GrabSession& sess
         LOG_WARN("AcquisitionMode Continuous refused: %s", error->message);
         g_clear_error(&error);
     }
-    arv_camera_start_acquisition(camera, &error);
-    if (error) {
-        setLastError(Infra::ERR_WRITE_FAILED, error->message);
+    if (alive())
+        arv_camera_start_acquisition(camera, &error);
+    if (error || m_camera.isLost()) {
+        setLastError(Infra::ERR_WRITE_FAILED, error ? error->message : "");
         g_clear_error(&error);
         std::lock_guard<std::mutex> lock(m_core.mutex);
         m_stats->detach(session.stream);

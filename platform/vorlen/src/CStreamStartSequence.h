@@ -2,7 +2,9 @@
 // The camera's side of startGrabbing, run under the camera's lock: select
 // the channel, settle the packet size, read the payload size and the
 // geometry, prepare chunk decoding, create the stream with its buffers, and
-// start acquisition. On success the grab session owns the stream.
+// start acquisition. On success the grab session owns the stream. A camera
+// lost on the way ends the sequence after the round trip under way, with
+// the loss as its error.
 #include <memory>
 
 #include "CStreamSettings.h"
@@ -31,9 +33,11 @@ public:
     unsigned int payload() const { return m_payload; }
 
 private:
+    // False with the loss as the last error once the camera is lost.
+    bool alive() const;
     bool configure(ArvCamera* camera, GrabSession& session);
-    unsigned int settlePacketSize(ArvCamera* camera);
-    void readGeometry(ArvCamera* camera, GrabSession& session);
+    bool settlePacketSize(ArvCamera* camera);
+    bool readGeometry(ArvCamera* camera, GrabSession& session);
     bool createStream(ArvCamera* camera, GrabSession& session);
     bool startAcquisition(ArvCamera* camera, GrabSession& session);
 

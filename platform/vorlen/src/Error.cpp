@@ -1,6 +1,8 @@
 // Per-thread last error and its texts.
 #include "Vorlen/Infra/Error.h"
 
+#include "LastErrorDetail.h"
+
 #include <string>
 
 namespace Vorlen {
@@ -77,6 +79,11 @@ void setLastError(int code, const char* detail)
 {
     t_last.code = code;
     t_last.detail = detail ? detail : "";
+}
+
+const char* lastErrorDetail()
+{
+    return t_last.detail.c_str();
 }
 
 void clearLastError()

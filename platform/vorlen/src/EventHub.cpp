@@ -87,10 +87,23 @@ void setMsgChannelHandler(SSubscriber& s, const CInternalEventManager::MsgChanne
     CEventHub::instance().setHandler(s, &SSubscriber::onMsgChannel, proc);
 }
 
-void post(const std::function<void()>& task)
+void tellConnect(const std::shared_ptr<SSubscriber>& subscriber, const SConnectArg& arg)
 {
-    if (task)
-        CEventHub::instance().post(nullptr, task);
+    if (!subscriber)
+        return;
+    CEventHub::instance().post(subscriber->camera, [subscriber, arg] {
+        if (const auto proc = CEventHub::instance().handlerOf(*subscriber, &SSubscriber::onConnect)) {
+            try {
+                proc(arg);
+            } catch (...) {
+            }
+        }
+    });
+}
+
+void forget(const ICamera* camera)
+{
+    CEventHub::instance().forget(camera);
 }
 
 bool onDispatchThread()

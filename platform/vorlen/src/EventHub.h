@@ -1,10 +1,10 @@
 #pragma once
 // Delivery of camera events to the subscribers of each camera's event
 // managers. Publishers are the camera (connection loss), parameter nodes
-// (writes) and streams (per-frame status); callbacks run on the hub's own
-// dispatch thread, never on the publisher's, so a slow subscriber never
-// stalls a stream or a GUI call. The functions below work on the
-// process-wide hub (CEventHub).
+// (writes) and streams (per-frame status); callbacks run on the dispatch
+// thread of their camera, never on the publisher's, so a slow subscriber
+// never stalls a stream or a GUI call, nor another camera's events. The
+// functions below work on the process-wide hub (CEventHub).
 #include <functional>
 #include <memory>
 #include "Vorlen/GenICam/ICamera.h"
@@ -54,11 +54,15 @@ void setStreamHandler(SSubscriber& s, const CInternalEventManager::StreamProc& p
 void setMsgChannelHandler(SSubscriber& s, const CInternalEventManager::MsgChannelProc& proc);
 bool hasSubscribers(const ICamera* camera, EKind kind);
 
-// Runs a task on the dispatch thread, after the events queued before it.
-void post(const std::function<void()>& task);
+// Delivers a connection event to one subscriber only (one who subscribed
+// after its camera was lost), after the camera's events queued before it.
+void tellConnect(const std::shared_ptr<SSubscriber>& subscriber, const SConnectArg& arg);
+// The camera object is going away: its dispatch thread ends.
+void forget(const ICamera* camera);
+// True on the dispatch thread of any camera.
 bool onDispatchThread();
-// Waits until everything queued so far has been delivered (not from the
-// dispatch thread itself; returns false on timeout).
+// Waits until everything queued so far for any camera has been delivered
+// (not from a dispatch thread; returns false on timeout).
 bool flush(unsigned int timeoutMs);
 // Ends delivery for good: drops every subscriber and queued event and joins
 // the dispatch thread. Idempotent; publishing afterwards does nothing.

@@ -1,46 +1,46 @@
-#include "CBackgroundReleaser.h"
+#include "CBackgroundWork.h"
 
 #include "ThreadName.h"
 
 namespace Vorlen {
 namespace GenICam {
 
-CBackgroundReleaser& CBackgroundReleaser::instance()
+CBackgroundWork& CBackgroundWork::instance()
 {
     // Never destroyed: shutdown() joins its threads while the process is whole.
-    static CBackgroundReleaser* releaser = new CBackgroundReleaser;
-    return *releaser;
+    static CBackgroundWork* instance = new CBackgroundWork;
+    return *instance;
 }
 
-void CBackgroundReleaser::run(std::function<void()> release)
+void CBackgroundWork::run(std::function<void()> work)
 {
     joinFinished();
-    SRelease r;
+    SJob r;
     r.done = std::make_shared<std::atomic<bool>>(false);
     {
         std::lock_guard<std::mutex> lock(m_mutex);
         if (!m_shutDown) {
             std::shared_ptr<std::atomic<bool>> done = r.done;
             // Moved, not copied: the thread must hold the only reference to
-            // whatever release lets go of.
-            r.thread = std::thread([release = std::move(release), done] {
-                nameThisThread("vorlen-release");
-                release();
+            // whatever the work lets go of.
+            r.thread = std::thread([work = std::move(work), done] {
+                nameThisThread("vorlen-work");
+                work();
                 done->store(true);
             });
-            m_releases.push_back(std::move(r));
+            m_jobs.push_back(std::move(r));
             return;
         }
     }
-    release();
+    work();
 }
 
-void CBackgroundReleaser::joinFinished()
+void CBackgroundWork::joinFinished()
 {
     join(false);
 }
 
-void CBackgroundReleaser::shutdown()
+void CBackgroundWork::shutdown()
 {
     {
         std::lock_guard<std::mutex> lock(m_mutex);
@@ -49,21 +49,21 @@ void CBackgroundReleaser::shutdown()
     join(true);
 }
 
-void CBackgroundReleaser::join(bool all)
+void CBackgroundWork::join(bool all)
 {
-    std::vector<SRelease> joining;
+    std::vector<SJob> joining;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
-        for (auto it = m_releases.begin(); it != m_releases.end();) {
+        for (auto it = m_jobs.begin(); it != m_jobs.end();) {
             if (all || it->done->load()) {
                 joining.push_back(std::move(*it));
-                it = m_releases.erase(it);
+                it = m_jobs.erase(it);
             } else {
                 ++it;
             }
         }
     }
-    for (SRelease& r : joining)
+    for (SJob& r : joining)
         r.thread.join();
 }
 
