@@ -104,9 +104,10 @@ public:
     Vorlen::Memory::TSharedPtr<Vorlen::GenICam::CInternalEventManager> getEventManager() const;
     // The device's worker has a job queued or running.
     bool isConnectThreadRunning() const;
-    // Waits until the worker has run every job asked for so far (timeoutMs
-    // < 0: without limit); true when it is idle. For tests and tools.
-    bool waitForWorker(int timeoutMs = -1);
+    // Waits at most timeoutMs until the worker has run every job asked for
+    // so far; true when it is idle. For tests and tools, never the
+    // application's GUI thread.
+    bool waitForWorker(int timeoutMs);
 
     // ---- state
     EConnectionState connectionState() const;

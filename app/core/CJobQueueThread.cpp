@@ -1,10 +1,8 @@
 #include "CJobQueueThread.h"
 
 #include <QDeadlineTimer>
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
-#include <memory>
 #include <mutex>
 
 #include "Tavlog4cpp/TavLogMacros.h"
@@ -62,8 +60,11 @@ bool CJobQueueThread::post(Job job)
         return false;
     m_jobs.push_back(std::move(job));
     updateBusy();
-    if (!isRunning())
+    if (!m_bRunActive)
+    {
+        m_bRunActive = true;
         start(QThread::InheritPriority);
+    }
     m_wake.wakeOne();
     return true;
 }
@@ -131,24 +132,18 @@ bool CJobQueueThread::stopAndWait(int timeoutMs, bool dropPending)
 void CJobQueueThread::retire(bool dropPending)
 {
     setParent(nullptr);
-    // The run under way counts as work until the thread has handed itself
-    // over for deletion.
-    tally().add(1);
-    auto handedOver = std::make_shared<std::atomic<bool>>(false);
-    auto handOver = [this, handedOver]() {
-        if (handedOver->exchange(true))
-            return;
-        deleteLater();
-        tally().add(-1);   // touches nothing of this object, which may be gone
-    };
     stop(dropPending);
-    // finished() comes after isRunning() has turned false, so either the
-    // connection sees it or the check below does; the flag keeps it to once.
-    // The destructor's wait() then covers only the last instructions of
-    // the thread.
-    connect(this, &QThread::finished, this, handOver, Qt::DirectConnection);
-    if (!isRunning())
-        handOver();
+    QMutexLocker locker(&m_mutex);
+    m_bRetired = true;
+    if (m_bRunActive)
+    {
+        // The run under way counts as work until its end hands the thread
+        // over for deletion (see run()).
+        tally().add(1);
+        return;
+    }
+    locker.unlock();
+    deleteLater();
 }
 
 bool CJobQueueThread::isStopping() const
@@ -210,11 +205,18 @@ void CJobQueueThread::run()
         if (m_jobs.empty())
             m_idle.wakeAll();
     }
-    {
-        QMutexLocker locker(&m_mutex);
-        m_bRunningJob = false;
-        updateBusy();
-        m_idle.wakeAll();
-    }
     TAVLOG_SRC(TAVLOG_LEVEL_DEBUG, m_name.constData(), "%s run end", m_name.constData());
+    QMutexLocker locker(&m_mutex);
+    m_bRunningJob = false;
+    updateBusy();
+    m_idle.wakeAll();
+    m_bRunActive = false;
+    if (!m_bRetired)
+        return;
+    // Retired: the thread is handed over for deletion on its object's
+    // thread, whose destructor waits out the last instructions of this one.
+    // Nothing of this object is touched after that.
+    locker.unlock();
+    deleteLater();
+    tally().add(-1);
 }

@@ -77,4 +77,6 @@ private:
     bool m_bStop = false;
     bool m_bRunningJob = false;
     bool m_bCountedBusy = false;
+    bool m_bRunActive = false;   // started and run() not yet at its end
+    bool m_bRetired = false;
 };
