@@ -36,14 +36,10 @@ public:
         a.sin_family = AF_INET;
         a.sin_port = htons(3956);
         inet_pton(AF_INET, address, &a.sin_addr);
-        int on = 1;
-        ::setsockopt(m_fd, SOL_SOCKET, SO_REUSEADDR, &on, sizeof(on));
-        if (::bind(m_fd, reinterpret_cast<sockaddr*>(&a), sizeof(a)) != 0) {
-            ::close(m_fd);
-            m_fd = -1;
-            return;
-        }
-        m_thread = std::thread([this] { loop(); });
+        if (::bind(m_fd, reinterpret_cast<sockaddr*>(&a), sizeof(a)) == 0)
+            m_thread = std::thread([this] { loop(); });
+        else
+            stop();
     }
     ~GvcpResponder() { stop(); }
 
@@ -79,33 +75,29 @@ private:
                 ::recvfrom(m_fd, buffer, sizeof(buffer), 0, reinterpret_cast<sockaddr*>(&from), &length);
             if (n < 8 || buffer[0] != 0x42)
                 continue;
-            const uint16_t command = Gvcp::get16(buffer + 2), id = Gvcp::get16(buffer + 6);
+            const uint16_t command = Gvcp::get16(buffer + 2);
             std::vector<uint8_t> reply(8, 0);
-            Gvcp::put16(reply.data() + 6, id);
+            Gvcp::put16(reply.data() + 6, Gvcp::get16(buffer + 6));   // the request's id
+            uint16_t ack = 0;
             if (command == Gvcp::DISCOVERY_CMD) {
                 reply.resize(8 + Gvcp::kDiscoveryAckSize);
                 Gvcp::writeDiscoveryAck(m_identity, reply.data() + 8);
-                Gvcp::put16(reply.data() + 2, Gvcp::DISCOVERY_ACK);
-                Gvcp::put16(reply.data() + 4, uint16_t(Gvcp::kDiscoveryAckSize));
+                ack = Gvcp::DISCOVERY_ACK;
             } else if (command == Gvcp::FORCEIP_CMD) {
                 SForced f;
                 if (!Gvcp::parseForceIp(buffer + 8, size_t(n - 8), f.mac, f.ip, f.mask, f.gateway))
                     continue;
-                {
-                    std::lock_guard<std::mutex> lock(m_mutex);
-                    m_forced.push_back(f);
-                }
-                if (!m_answerForceIp)
-                    continue;
-                Gvcp::put16(reply.data() + 2, Gvcp::FORCEIP_ACK);
+                std::lock_guard<std::mutex> lock(m_mutex);
+                m_forced.push_back(f);
+                ack = m_answerForceIp ? Gvcp::FORCEIP_ACK : 0;
             } else if (command == Gvcp::READREG_CMD) {
-                const size_t count = size_t(n - 8) / 4;
-                reply.resize(8 + 4 * count, 0);
-                Gvcp::put16(reply.data() + 2, Gvcp::READREG_ACK);
-                Gvcp::put16(reply.data() + 4, uint16_t(4 * count));
-            } else {
-                continue;
+                reply.resize(8 + 4 * (size_t(n - 8) / 4), 0);   // every register reads 0
+                ack = Gvcp::READREG_ACK;
             }
+            if (!ack)
+                continue;
+            Gvcp::put16(reply.data() + 2, ack);
+            Gvcp::put16(reply.data() + 4, uint16_t(reply.size() - 8));
             ::sendto(m_fd, reply.data(), reply.size(), 0, reinterpret_cast<sockaddr*>(&from), sizeof(from));
         }
     }

@@ -1,7 +1,7 @@
-// The device list's rules without window or camera: status icons, inline
-// buttons, menu entries and connection checks from a device state; the item
-// type helpers; the copied information's layout; the discovery requests
-// waiting for a busy worker; and the camera-task worker with its callbacks.
+// The device list's rules without window or camera: for each device state
+// its status icon, inline buttons, menu entries and connection checks; the
+// copied information's layout; the discovery requests waiting for a busy
+// worker; and the camera-task worker with its callbacks.
 #include <QSemaphore>
 #include <QStringList>
 #include <QtTest>
@@ -17,28 +17,43 @@
 #include "Vorlen/GenICam/Defs.h"
 
 namespace {
-SDeviceState gige(bool connected = false)
+// A found device with a valid address, open to anyone, and what the words
+// say: "gige", "usb:<port speed>", "type<n>", "connected", "connecting",
+// "disconnecting", "grabbing", "acq" (acquisition mode enabled), "badip",
+// "controlled" (by another host), "gone" (the key no longer resolves).
+SDeviceState state(const QString& words)
 {
     SDeviceState s;
-    s.cameraType = cameraTypeGigE;
-    s.found = true;
-    s.ipValid = true;
+    s.found = s.ipValid = true;
     s.accessPermission = Vorlen::GenICam::accessPermissionOpen;
-    s.connected = connected;
+    for (const QString& w : words.split(' ')) {
+        if (w == "gige") {
+            s.cameraType = cameraTypeGigE;
+        } else if (w.startsWith("usb:")) {
+            s.cameraType = cameraTypeUsb;
+            s.usb3Port = isUsb3PortSpeed(w.mid(4));
+            s.superSpeed = isSuperSpeedPort(w.mid(4));
+        } else if (w.startsWith("type")) {
+            s.cameraType = w.mid(4).toInt();
+        } else {
+            bool* flags[] = {&s.connected, &s.connecting, &s.disconnecting, &s.grabbing, &s.acqModeEnable};
+            const int flag = QStringList({"connected", "connecting", "disconnecting", "grabbing", "acq"}).indexOf(w);
+            if (flag >= 0)
+                *flags[flag] = true;
+            else if (w == "badip")
+                s.ipValid = false;
+            else if (w == "controlled")
+                s.accessPermission = Vorlen::GenICam::accessPermissionControl;
+            else if (w == "gone")
+                s.found = false;
+            else
+                qFatal("unknown state word %s", qPrintable(w));
+        }
+    }
     return s;
 }
 
-SDeviceState usb(const QString& speed)
-{
-    SDeviceState s;
-    s.cameraType = cameraTypeUsb;
-    s.found = true;
-    s.usb3Port = isUsb3PortSpeed(speed);
-    s.superSpeed = isSuperSpeedPort(speed);
-    return s;
-}
-
-// "C+ D- F-" style: each button shown (+) enabled, shown disabled (~) or hidden (-).
+// "C+ D- F-": each inline button shown (+), shown disabled (~) or hidden (-).
 QString describe(const SInlineButtonsState& b)
 {
     auto one = [](const char* name, const SButtonState& s) {
@@ -46,162 +61,99 @@ QString describe(const SInlineButtonsState& b)
     };
     return QStringList({one("C", b.connect), one("D", b.disconnect), one("F", b.forceIp)}).join(' ');
 }
+
+// The menu entries that are set, in menu order: "disc" (the first entry
+// reads Disconnect), "conn" (it is enabled), "open", "save", "play", "stop"
+// (play reads Stop Acquisition), "ip" (Force IP shown), "ip+" (enabled),
+// "uid", "xml", "copy".
+QString describe(const SDeviceMenuState& m)
+{
+    const bool set[] = {m.connectIsDisconnect, m.connectEnabled, m.openConfigEnabled, m.saveConfigEnabled,
+                        m.playEnabled,         m.playIsStop,     m.forceIpVisible,    m.forceIpEnabled,
+                        m.setUserIdEnabled,    m.saveXmlEnabled, m.copyInfoEnabled};
+    const char* names[] = {"disc", "conn", "open", "save", "play", "stop", "ip", "ip+", "uid", "xml", "copy"};
+    QStringList out;
+    for (int i = 0; i < 11; ++i)
+        if (set[i])
+            out << names[i];
+    return out.join(' ');
+}
 } // namespace
 
 class TestDeviceListRules : public QObject
 {
     Q_OBJECT
 private slots:
-    void itemTypes();
-    void statusIcons();
-    void inlineButtons();
-    void deviceMenu();
-    void connectChecks();
+    void rulesOfADeviceState();
     void copiedInfoText();
     void discoveryWaitsForABusyWorker();
     void cameraTasks();
 };
 
-void TestDeviceListRules::itemTypes()
+void TestDeviceListRules::rulesOfADeviceState()
 {
-    QCOMPARE(treeItemType(0, true), 1001);
-    QCOMPARE(treeItemType(1, false), 1008);
-    QCOMPARE(treeItemType(5, false), 1012);
-    QCOMPARE(treeItemType(6, false), 1000);   // no such row
-    QVERIFY(isInterfaceItemType(1001) && isInterfaceItemType(1006) && !isInterfaceItemType(1007));
-    QVERIFY(isDeviceItemType(1007) && isDeviceItemType(1012) && !isDeviceItemType(1013) && !isDeviceItemType(1006));
-    QCOMPARE(deviceCameraType(1008), 1);
-    QCOMPARE(deviceCameraType(1001), -1);
-    QCOMPARE(interfaceType(Vorlen::GenICam::typeUsb3Vision), 2);
-    QCOMPARE(interfaceType(Vorlen::GenICam::typeUndefined), 0);
-    QCOMPARE(deviceType(6), 6);
-    QCOMPARE(deviceType(0), 0);
-    setLastCreatedId(0xFFFFFFFEu);
-    QCOMPARE(createId(), 0xFFFFFFFFu);
-    QCOMPARE(createId(), 1u);   // wraps to 1, never 0
-    QCOMPARE(toUid(QVariant(7)), 7u);
-}
+    const struct
+    {
+        const char* state;
+        int icon;
+        const char* buttons;
+        const char* menu;
+        EConnectVerdict precheck;
+    } rows[] = {
+        {"gige", iconNormal, "C+ D- F+", "conn open ip ip+ copy", connectGo},
+        // Another host controls it: error, no Force IP, no configuration file.
+        {"gige controlled", iconError, "C+ D- F+", "conn ip copy", connectGo},
+        {"gige controlled connected acq", iconConnected, "C- D+ F-", "disc conn open save play ip uid xml copy",
+         connectGo},
+        // Streaming: no configuration files.
+        {"gige controlled connected acq grabbing", iconAcquisition, "C- D+ F-",
+         "disc conn play stop ip uid xml copy", connectGo},
+        // An invalid address wins over everything; acquisition follows the device's mode.
+        {"gige connected grabbing badip", iconWarn, "C- D+ F-", "disc conn stop ip uid xml copy", connectIpInvalid},
+        {"gige badip", iconWarn, "C+ D- F+", "conn open ip ip+ copy", connectIpInvalid},
+        {"gige badip gone", iconWarn, "C+ D- F+", "conn open ip ip+ copy", connectIpInvalid},
+        // A row whose device went is never shown connected.
+        {"gige gone connected", iconNormal, "C- D+ F-", "disc conn open save ip uid xml copy", connectGo},
+        // Everything waits while a connection opens or closes.
+        {"gige connecting", iconNormal, "C~ D- F~", "conn open ip ip+ copy", connectGo},
+        {"gige connected disconnecting", iconConnected, "C- D~ F-", "disc conn open save ip uid xml copy", connectGo},
+        {"usb:SuperSpeed", iconNormal, "C+ D- F-", "conn open copy", connectGo},
+        {"usb:SuperSpeedPlus", iconNormal, "C+ D- F-", "conn open copy", connectGo},
+        {"usb:HighSpeed", iconWarn, "C+ D- F-", "conn open copy", connectAskSlowUsb},
+        {"usb:FullSpeed", iconError, "C+ D- F-", "conn copy", connectUsbIncompatible},
+        {"usb:", iconError, "C+ D- F-", "conn copy", connectUsbIncompatible},
+        // The port rule stays while connected.
+        {"usb:HighSpeed connected", iconWarn, "C- D+ F-", "disc conn open save uid xml copy", connectAskSlowUsb},
+        // Type 5 acquires whatever its mode.
+        {"type5 connected grabbing", iconAcquisition, "C- D+ F-", "disc conn play stop uid xml copy", connectGo},
+        {"type2", iconNormal, "C+ D- F-", "conn open copy", connectGo},
+    };
+    for (const auto& r : rows) {
+        const SDeviceState s = state(r.state);
+        QVERIFY2(statusIcon(s) == r.icon, r.state);
+        QCOMPARE(describe(inlineButtonsState(s)), QString(r.buttons));
+        QCOMPARE(describe(deviceMenuState(s)), QString(r.menu));
+        QVERIFY2(connectPrecheck(s) == r.precheck, r.state);
+    }
 
-void TestDeviceListRules::statusIcons()
-{
-    SDeviceState s = gige();
-    QCOMPARE(statusIcon(s), int(iconNormal));
-    s.accessPermission = Vorlen::GenICam::accessPermissionControl;   // another host controls it
-    QCOMPARE(statusIcon(s), int(iconError));
-    s.connected = true;   // ours now
-    QCOMPARE(statusIcon(s), int(iconConnected));
-    s.grabbing = true;
-    QCOMPARE(statusIcon(s), int(iconAcquisition));
-    s.ipValid = false;   // an invalid address wins over everything
-    QCOMPARE(statusIcon(s), int(iconWarn));
-    s = gige();
-    s.found = false;   // a row whose device went: never "connected"
-    s.connected = true;
-    QCOMPARE(statusIcon(s), int(iconNormal));
-
-    QCOMPARE(statusIcon(usb("SuperSpeed")), int(iconNormal));
-    QCOMPARE(statusIcon(usb("SuperSpeedPlus")), int(iconNormal));
-    QCOMPARE(statusIcon(usb("HighSpeed")), int(iconWarn));
-    QCOMPARE(statusIcon(usb("FullSpeed")), int(iconError));
-    QCOMPARE(statusIcon(usb(QString())), int(iconError));
-    SDeviceState slow = usb("HighSpeed");
-    slow.connected = true;
-    QCOMPARE(statusIcon(slow), int(iconWarn));   // the port rule stays while connected
-    SDeviceState other;
-    other.cameraType = 5;
-    other.found = other.connected = other.grabbing = true;
-    QCOMPARE(statusIcon(other), int(iconAcquisition));
+    // Once the user has agreed: the sixteenth connection is the last.
+    QCOMPARE(connectFinalCheck(state("gige"), 15), connectGo);
+    QCOMPARE(connectFinalCheck(state("gige"), 16), connectLimitReached);
+    QCOMPARE(connectFinalCheck(state("gige connected"), 16), connectAlreadyOpen);
+    QCOMPARE(connectFinalCheck(state("gige connecting"), 0), connectAlreadyOpen);
+    QCOMPARE(connectFinalCheck(state("gige connecting gone"), 0), connectNotFound);
 
     // Stream messages: the icon follows them only while connected.
-    QCOMPARE(acquisitionIcon(gige(true), true), int(iconAcquisition));
-    QCOMPARE(acquisitionIcon(gige(true), false), int(iconConnected));
-    QCOMPARE(acquisitionIcon(gige(false), true), int(iconNormal));
+    QCOMPARE(acquisitionIcon(state("gige connected"), true), int(iconAcquisition));
+    QCOMPARE(acquisitionIcon(state("gige connected grabbing"), false), int(iconConnected));
+    QCOMPARE(acquisitionIcon(state("gige"), true), int(iconNormal));
 
     QVERIFY(isValidIpConfig("Persistent IP, LLA"));
-    QVERIFY(!isValidIpConfig("Invalid On This Interface"));
-    QVERIFY(!isValidIpConfig(QString()));
-}
-
-void TestDeviceListRules::inlineButtons()
-{
-    QCOMPARE(describe(inlineButtonsState(gige())), QString("C+ D- F+"));
-    QCOMPARE(describe(inlineButtonsState(gige(true))), QString("C- D+ F-"));
-    SDeviceState s = gige();
-    s.ipValid = false;
-    QCOMPARE(describe(inlineButtonsState(s)), QString("C+ D- F+"));
-    s = gige();
-    s.connecting = true;   // everything waits for the connection
-    QCOMPARE(describe(inlineButtonsState(s)), QString("C~ D- F~"));
-    s = gige(true);
-    s.disconnecting = true;
-    QCOMPARE(describe(inlineButtonsState(s)), QString("C- D~ F-"));
-    QCOMPARE(describe(inlineButtonsState(usb("SuperSpeed"))), QString("C+ D- F-"));
-    SDeviceState other;
-    other.cameraType = 2;
-    other.found = true;
-    QCOMPARE(describe(inlineButtonsState(other)), QString("C+ D- F-"));
-}
-
-void TestDeviceListRules::deviceMenu()
-{
-    // Connected, not streaming.
-    SDeviceState s = gige(true);
-    s.acqModeEnable = true;
-    SDeviceMenuState m = deviceMenuState(s);
-    QVERIFY(m.connectIsDisconnect && m.connectEnabled);
-    QVERIFY(m.playEnabled && !m.playIsStop);
-    QVERIFY(m.openConfigEnabled && m.saveConfigEnabled);
-    QVERIFY(m.forceIpVisible && !m.forceIpEnabled);
-    QVERIFY(m.setUserIdEnabled && m.saveXmlEnabled && m.copyInfoEnabled);
-    // Streaming: no configuration files.
-    s.grabbing = true;
-    m = deviceMenuState(s);
-    QVERIFY(m.playIsStop && m.playEnabled);
-    QVERIFY(!m.openConfigEnabled && !m.saveConfigEnabled);
-    // Acquisition follows the device's mode, except for type 5.
-    s = gige(true);
-    QVERIFY(!deviceMenuState(s).playEnabled);
-    s.cameraType = 5;
-    QVERIFY(deviceMenuState(s).playEnabled);
-    QVERIFY(!deviceMenuState(s).forceIpVisible);
-
-    // Disconnected.
-    m = deviceMenuState(gige());
-    QVERIFY(!m.connectIsDisconnect && m.connectEnabled);
-    QVERIFY(m.forceIpVisible && m.forceIpEnabled && m.openConfigEnabled);
-    QVERIFY(!m.playEnabled && !m.playIsStop && !m.saveConfigEnabled && !m.setUserIdEnabled && !m.saveXmlEnabled);
-    QVERIFY(m.copyInfoEnabled);
-    s = gige();
-    s.accessPermission = Vorlen::GenICam::accessPermissionControl;
-    m = deviceMenuState(s);
-    QVERIFY(!m.forceIpEnabled && !m.openConfigEnabled);
-    QVERIFY(!deviceMenuState(usb("FullSpeed")).openConfigEnabled);
-    QVERIFY(deviceMenuState(usb("HighSpeed")).openConfigEnabled);
-    QVERIFY(!deviceMenuState(usb("SuperSpeed")).forceIpVisible);
-}
-
-void TestDeviceListRules::connectChecks()
-{
-    QCOMPARE(connectPrecheck(gige()), connectGo);
-    SDeviceState s = gige();
-    s.ipValid = false;
-    QCOMPARE(connectPrecheck(s), connectIpInvalid);
-    s.found = false;   // a vanished GigE device reads as an invalid address first
-    QCOMPARE(connectPrecheck(s), connectIpInvalid);
-    QCOMPARE(connectPrecheck(usb("FullSpeed")), connectUsbIncompatible);
-    QCOMPARE(connectPrecheck(usb("HighSpeed")), connectAskSlowUsb);
-    QCOMPARE(connectPrecheck(usb("SuperSpeed")), connectGo);
-
-    QCOMPARE(connectFinalCheck(gige(), 0), connectGo);
-    QCOMPARE(connectFinalCheck(gige(), kMaxConnections - 1), connectGo);   // the sixteenth
-    QCOMPARE(connectFinalCheck(gige(), kMaxConnections), connectLimitReached);
-    QCOMPARE(connectFinalCheck(gige(true), kMaxConnections), connectAlreadyOpen);
-    s = gige();
-    s.connecting = true;
-    QCOMPARE(connectFinalCheck(s, 0), connectAlreadyOpen);
-    s.found = false;
-    QCOMPARE(connectFinalCheck(s, 0), connectNotFound);
-    QCOMPARE(kMaxConnections, 16);
+    QVERIFY(!isValidIpConfig("Invalid On This Interface") && !isValidIpConfig(QString()));
+    // Row ids wrap to 1, never 0.
+    setLastCreatedId(0xFFFFFFFEu);
+    QCOMPARE(createId(), 0xFFFFFFFFu);
+    QCOMPARE(createId(), 1u);
 }
 
 void TestDeviceListRules::copiedInfoText()

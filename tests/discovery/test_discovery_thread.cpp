@@ -127,13 +127,10 @@ class TestDiscoveryThread : public QObject
     Q_OBJECT
 private slots:
     void firstPassAndCameraList();
-    void quickRequestsGiveOnePass();
-    void requestDuringPassIsAbsorbed();
+    void requestsBeforeOrDuringAPassGiveOnePass();
     void unicastListKeptAndReprobed();
-    void broadcastOnlyDoesNotProbe();
-    void silentUnicastFails();
+    void resultOfAPass();
     void modeFlags();
-    void runOnceAlwaysReportsSuccess();
 };
 
 void TestDiscoveryThread::firstPassAndCameraList()
@@ -141,16 +138,13 @@ void TestDiscoveryThread::firstPassAndCameraList()
     Fixture f;
     f.system->registry.push_back(Vorlen::Memory::makeShared<StubCamera>("A"));
     f.system->registry.push_back(Vorlen::Memory::makeShared<StubCamera>("B"));
-
     QVERIFY(f.thread->getVecCamera().empty());
     QVERIFY(!f.thread->isFirstDiscoveryFinished());
-    QVERIFY(!f.thread->isDisconvrying());
 
     QVERIFY(f.pass(QString(), 11));
     QVERIFY(f.thread->isFirstDiscoveryFinished());
     QVERIFY(!f.thread->isDisconvrying());
     QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
-
     CameraPtrVector cameras = f.thread->getVecCamera();
     QCOMPARE(int(cameras.size()), 2);
     QCOMPARE(QString(cameras[0]->getKey().c_str()), QString("A"));
@@ -162,42 +156,36 @@ void TestDiscoveryThread::firstPassAndCameraList()
     QVERIFY(f.thread->isFirstDiscoveryFinished());
 }
 
-void TestDiscoveryThread::quickRequestsGiveOnePass()
+void TestDiscoveryThread::requestsBeforeOrDuringAPassGiveOnePass()
 {
-    Fixture f;
-    f.system->setAnswering({"10.1.1.1"});
-    // Both come before the worker looks: the second replaces the first.
-    f.thread->StartDiscovery("10.1.1.1", 0);
-    f.thread->StartDiscovery("255.255.255.255", 0);
-    QVERIFY(f.thread->isDisconvrying());
-    f.thread->start();
-    QVERIFY(f.spy.wait(10000));
-    // Nothing is left to run: the flag is down when the pass is reported...
-    QVERIFY(!f.thread->isDisconvrying());
-    // ...and the next pass asked for follows this one directly.
-    QVERIFY(f.pass(QString(), 2));
-    QCOMPARE(f.spy.count(), 2);
-    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all", "bc1", "all"}));
-    QVERIFY(f.thread->unicastAddresses().isEmpty());
-}
-
-void TestDiscoveryThread::requestDuringPassIsAbsorbed()
-{
-    Fixture f;
-    f.system->blockBroadcast = true;
-    f.thread->StartDiscovery(QString(), 0);
-    f.thread->start();
-    QVERIFY(f.system->entered.tryAcquire(1, 10000));   // the pass is running
-    f.thread->StartDiscovery("10.1.1.9", 0);            // arrives during the pass
-    f.system->blockBroadcast = false;
-    f.system->proceed.release(1);
-
-    QVERIFY(QTest::qWaitFor([&]() { return f.spy.count() > 0; }, 10000));
-    QVERIFY(!f.thread->isDisconvrying());
-    // The next pass asked for follows directly: the request was not kept.
-    QVERIFY(f.pass(QString(), 2));
-    QCOMPARE(f.spy.count(), 2);
-    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all", "bc1", "all"}));
+    for (const bool duringThePass : {false, true}) {
+        Fixture f;
+        f.system->setAnswering({"10.1.1.1"});
+        if (duringThePass) {
+            // A request that comes while a pass runs is absorbed by it.
+            f.system->blockBroadcast = true;
+            f.thread->StartDiscovery(QString(), 0);
+            f.thread->start();
+            QVERIFY(f.system->entered.tryAcquire(1, 10000));
+            f.thread->StartDiscovery("10.1.1.1", 0);
+            f.system->blockBroadcast = false;
+            f.system->proceed.release(1);
+        } else {
+            // Both come before the worker looks: the second replaces the first.
+            f.thread->StartDiscovery("10.1.1.1", 0);
+            f.thread->StartDiscovery("255.255.255.255", 0);
+            QVERIFY(f.thread->isDisconvrying());
+            f.thread->start();
+        }
+        QVERIFY(f.spy.wait(10000));
+        // Nothing is left to run: the flag is down when the pass is reported,
+        // and the next pass asked for follows this one directly.
+        QVERIFY(!f.thread->isDisconvrying());
+        QVERIFY(f.pass(QString(), 2));
+        QCOMPARE(f.spy.count(), 2);
+        QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all", "bc1", "all"}));
+        QVERIFY(f.thread->unicastAddresses().isEmpty());
+    }
 }
 
 void TestDiscoveryThread::unicastListKeptAndReprobed()
@@ -208,17 +196,18 @@ void TestDiscoveryThread::unicastListKeptAndReprobed()
     // A unicast add probes only that address (no broadcast).
     QVERIFY(f.pass("10.0.0.7", 0));
     QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.0.0.7:1", "bc1", "all"}));
-    QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.7"}));
-
     // The same address twice keeps one entry; another one is appended.
     QVERIFY(f.pass("10.0.0.7", 0));
     QVERIFY(f.pass("10.0.0.8", 0));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.7", "10.0.0.8"}));
     f.system->takeCalls();
 
-    // An ordinary refresh broadcasts and re-probes the list in order.
+    // An ordinary refresh broadcasts and re-probes the list in order; a
+    // broadcast-only pass does not probe.
     QVERIFY(f.pass(QString(), 0));
     QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "uc:10.0.0.7:1", "uc:10.0.0.8:1", "bc1", "all"}));
+    QVERIFY(f.pass("255.255.255.255", 0));
+    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
 
     // 10.0.0.7 stops answering: dropped at the next refresh, never probed again.
     f.system->setAnswering({"10.0.0.8"});
@@ -237,21 +226,17 @@ void TestDiscoveryThread::unicastListKeptAndReprobed()
     QVERIFY(f.thread->unicastAddresses().isEmpty());
 }
 
-void TestDiscoveryThread::broadcastOnlyDoesNotProbe()
+void TestDiscoveryThread::resultOfAPass()
 {
     Fixture f;
-    f.system->setAnswering({"10.0.0.7"});
-    QVERIFY(f.pass("10.0.0.7", 0));
-    f.system->takeCalls();
+    // A pass run in the caller's thread reports success, even for a silent address.
+    f.thread->StartDiscovery("10.9.9.9", 0);
+    f.thread->runOnce();
+    QCOMPARE(f.spy.count(), 1);
+    QCOMPARE(f.spy.at(0).at(0).toBool(), true);
+    QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.9.9.9:1", "bc1", "all"}));
+    QVERIFY(f.thread->isFirstDiscoveryFinished());
 
-    QVERIFY(f.pass("255.255.255.255", 0));
-    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
-    QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.7"}));
-}
-
-void TestDiscoveryThread::silentUnicastFails()
-{
-    Fixture f;
     f.system->setAnswering({"10.0.0.1", "10.0.0.2"});
     QVERIFY(f.pass("10.0.0.1", 0));
     QVERIFY(f.pass("10.0.0.2", 0));
@@ -261,7 +246,6 @@ void TestDiscoveryThread::silentUnicastFails()
     QVERIFY(!f.pass("10.0.0.3", 0));
     QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.0.0.3:1", "bc1", "all"}));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.1", "10.0.0.2"}));
-
     // A kept address that went silent, asked again: removed, false.
     f.system->setAnswering({"10.0.0.2"});
     QVERIFY(!f.pass("10.0.0.1", 0));
@@ -272,36 +256,29 @@ void TestDiscoveryThread::silentUnicastFails()
     QVERIFY(f.pass(QString(), 0));
     QVERIFY(f.pass("255.255.255.255", 0));
     QVERIFY(f.pass(QString(), 2));
+
 }
 
 void TestDiscoveryThread::modeFlags()
 {
     Fixture f;
     f.system->setAnswering({"10.0.0.5"});
-
-    QVERIFY(f.pass(QString(), 1));   // network only
-    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "all"}));
-    QVERIFY(f.pass(QString(), 2));   // second interface only
-    QCOMPARE(f.system->takeCalls(), QStringList({"bc1", "all"}));
-    QVERIFY(f.pass(QString(), 8));   // start-up bit alone: neither
-    QCOMPARE(f.system->takeCalls(), QStringList({"all"}));
-    QVERIFY(f.pass(QString(), 3));
-    QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
-    // A unicast address with the network bit clear is not probed.
-    QVERIFY(f.pass("10.0.0.5", 2));
-    QCOMPARE(f.system->takeCalls(), QStringList({"bc1", "all"}));
+    // Network bit: broadcast (or unicast); second-interface bit; the start-up bit alone does neither.
+    const struct
+    {
+        const char* ip;
+        int flags;
+        QStringList calls;
+    } cases[] = {{"", 1, {"bc0", "all"}},
+                 {"", 2, {"bc1", "all"}},
+                 {"", 8, {"all"}},
+                 {"", 3, {"bc0", "bc1", "all"}},
+                 {"10.0.0.5", 2, {"bc1", "all"}}};   // a unicast address without the network bit is not probed
+    for (const auto& c : cases) {
+        QVERIFY(f.pass(QString::fromLatin1(c.ip), c.flags));
+        QCOMPARE(f.system->takeCalls(), c.calls);
+    }
     QVERIFY(f.thread->unicastAddresses().isEmpty());
-}
-
-void TestDiscoveryThread::runOnceAlwaysReportsSuccess()
-{
-    Fixture f;
-    f.thread->StartDiscovery("10.9.9.9", 0);   // silent
-    f.thread->runOnce();                       // in this thread, without start()
-    QCOMPARE(f.spy.count(), 1);
-    QCOMPARE(f.spy.at(0).at(0).toBool(), true);
-    QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.9.9.9:1", "bc1", "all"}));
-    QVERIFY(f.thread->isFirstDiscoveryFinished());
 }
 
 QTEST_GUILESS_MAIN(TestDiscoveryThread)

@@ -167,9 +167,7 @@ void TestHybridFrame::rawBuffersReused()
     QCOMPARE(b->getRawData(), released);
     FramePtr c = makeFrame(PF::Mono8, w, h, first);
     QVERIFY(c->getRawData() != b->getRawData());
-    QCOMPARE(int(b->getRawData()[0]), 0x22);
-    QCOMPARE(int(c->getRawData()[w * h - 1]), 0x11);
-    QCOMPARE(b->getRawDataSize(), uint64_t(w * h));
+    QVERIFY(b->getRawData()[0] == 0x22 && c->getRawData()[w * h - 1] == 0x11);
 }
 
 void TestHybridFrame::rawCopyAndMono8Padding()
@@ -179,11 +177,8 @@ void TestHybridFrame::rawCopyAndMono8Padding()
     FramePtr f = makeFrame(PF::Mono8, 4, 3, raw, 3);
     QVERIFY(f->isHybridFrameValid());
     raw[0] = 99;   // the camera buffer is reused; the frame keeps its own copy
-    QCOMPARE(f->getRawDataSize(), uint64_t(raw.size()));
-    QCOMPARE(int(f->getRawData()[0]), 0);
-    QCOMPARE(f->getBlockId(), uint64_t(42));
-    QCOMPARE(f->getConvertedWidth(), 4u);
-    QCOMPARE(f->getConvertedHeight(), 3u);
+    QVERIFY(f->getRawDataSize() == raw.size() && f->getRawData()[0] == 0);
+    QVERIFY(f->getConvertedWidth() == 4u && f->getConvertedHeight() == 3u);
     QCOMPARE(f->getConvertedDataSize(), uint64_t(4 * 3 * 3));
     QCOMPARE(f->getConvertedPixelType(), convertedBGR24);
     for (int i = 0; i < 12; ++i)
@@ -293,52 +288,34 @@ void TestHybridFrame::bayerAllPatternsAndPackings()
 }
 
 namespace {
-
-// A busy 16x12 mosaic on which the three demosaicing methods differ.
-Bytes busyMosaic(int w, int h)
-{
-    Bytes raw;
-    uint32_t seed = 12345;
-    for (int i = 0; i < w * h; ++i) {
-        seed = seed * 1103515245u + 12345u;
-        raw.push_back(uint8_t(seed >> 16));
-    }
-    return raw;
-}
-
 QByteArray converted(const CQtHybridFrame& f)
 {
     return QByteArray(reinterpret_cast<const char*>(f.getConvertedData()), int(f.getConvertedDataSize()));
 }
-
 } // namespace
 
 void TestHybridFrame::demosaicFixedAtConstruction()
 {
-    // Each frame keeps the method it was built with, and says which; what
-    // it describes of its raw data comes back unchanged.
-    const int w = 16, h = 12;
-    const Bytes raw = busyMosaic(w, h);
+    // On a busy mosaic the three methods differ: each frame keeps the one it
+    // was built with, and converts once.
+    Bytes raw;
+    for (uint32_t i = 0, seed = 12345; i < 16 * 12; ++i)
+        raw.push_back(uint8_t((seed = seed * 1103515245u + 12345u) >> 16));
     FramePtr frames[3];
+    QByteArray byMethod[3];
     for (int d = 0; d < 3; ++d) {
-        frames[d] = makeFrame(PF::BayerGB8, w, h, raw, 0, EBayerDemosaic(d));
+        frames[d] = makeFrame(PF::BayerGB8, 16, 12, raw, 0, EBayerDemosaic(d));
         QCOMPARE(frames[d]->getDemosaic(), EBayerDemosaic(d));
-        QCOMPARE(frames[d]->getPaddingX(), 0u);
-        QCOMPARE(frames[d]->getPayloadType(), 1);
-        QCOMPARE(frames[d]->getPixelFormat(), PF::BayerGB8);
         QVERIFY(!frames[d]->isConverted());
-    }
-    const QByteArray byMethod[3] = { converted(*frames[0]), converted(*frames[1]), converted(*frames[2]) };
-    QVERIFY(byMethod[0] != byMethod[1] && byMethod[0] != byMethod[2] && byMethod[1] != byMethod[2]);
-    for (int d = 0; d < 3; ++d) {
+        byMethod[d] = converted(*frames[d]);
         QVERIFY(frames[d]->isConverted());
-        QCOMPARE(converted(*frames[d]), byMethod[d]);   // asked again: the same image
     }
-    // Padding and payload type are reported as given.
+    QVERIFY(byMethod[0] != byMethod[1] && byMethod[0] != byMethod[2] && byMethod[1] != byMethod[2]);
+    for (int d = 0; d < 3; ++d)
+        QCOMPARE(converted(*frames[d]), byMethod[d]);   // asked again: the same image
+    // The validity of a raw format needs no conversion.
     FramePtr padded = makeFrame(PF::Mono8, 4, 2, Bytes(2 * 6, 9), 2);
-    QCOMPARE(padded->getPaddingX(), 2u);
-    QVERIFY(padded->isHybridFrameValid());
-    QVERIFY(!padded->isConverted());   // validity of a raw format needs no conversion
+    QVERIFY(padded->isHybridFrameValid() && !padded->isConverted());
 }
 
 void TestHybridFrame::lazyConversionOnceFromThreads()
@@ -427,9 +404,7 @@ void TestHybridFrame::yuv422BothOrders()
                 QVERIFY2(near(g, e, 2), qPrintable(QString("%1 pixel %2: %3, expected %4").arg(uyvy).arg(i).arg(str(g)).arg(str(e))));
             }
         }
-    // The GigE Vision legacy names are the same formats; 4:2:2 needs pixel pairs.
-    QCOMPARE(PF::YUV422Packed, PF::YUV422_8_UYVY);
-    QCOMPARE(PF::YUV422_YUYV_Packed, PF::YUV422_8);
+    // 4:2:2 needs pixel pairs.
     expectInvalid(*makeFrame(PF::YUV422_8, 3, 1, Bytes(8, 128)));
 }
 
@@ -443,9 +418,7 @@ void TestHybridFrame::jpegPayload()
 
     // The frame's own size and format do not matter for a JPEG payload.
     FramePtr f = makeFrame(0, 0, 0, Bytes(jpeg.begin(), jpeg.end()), 0, bayerBilinear, payloadTypeJpeg);
-    QVERIFY(f->isHybridFrameValid());
-    QCOMPARE(f->getConvertedWidth(), 32u);
-    QCOMPARE(f->getConvertedHeight(), 16u);
+    QVERIFY(f->isHybridFrameValid() && f->getConvertedWidth() == 32u && f->getConvertedHeight() == 16u);
     QCOMPARE(f->getConvertedDataSize(), uint64_t(32 * 16 * 3));
     QVERIFY2(near(pixelAt(*f, 4, 8), { 20, 140, 230 }, 6), qPrintable(str(pixelAt(*f, 4, 8))));
     QVERIFY2(near(pixelAt(*f, 27, 8), { 160, 150, 10 }, 6), qPrintable(str(pixelAt(*f, 27, 8))));
@@ -465,14 +438,13 @@ void TestHybridFrame::invalidInputAndChunk()
         QVERIFY(!CQtHybridFrame::isSupportedPixelFormat(pf));
         expectInvalid(*makeFrame(pf, 4, 4, some));
     }
-    expectInvalid(*makeFrame(PF::Mono8, 4, 4, Bytes(15, 1)));           // one byte short
-    expectInvalid(*makeFrame(PF::RGB8, 4, 4, Bytes(47, 1)));
-    expectInvalid(*makeFrame(PF::Mono16, 4, 4, Bytes(31, 1)));
-    expectInvalid(*makeFrame(PF::BayerRG8, 4, 4, Bytes(16, 1), 1));     // short once padded
-    expectInvalid(*makeFrame(PF::Mono8, 0, 4, some));
-    expectInvalid(*makeFrame(PF::Mono8, 100000, 100000, some));         // absurd size, tiny payload
-    expectInvalid(*makeFrame(PF::Mono8, 0xFFFFFFFFu, 0xFFFFFFFFu, some));
-    expectInvalid(*makeFrame(PF::BayerRG8, 4, 4, Bytes()));             // no data at all
+    // One byte short (once padded), no width, an absurd size for a tiny payload, no data at all.
+    const struct { uint32_t pf, w, h; size_t bytes; uint32_t pad; } shortOnes[] = {
+        { PF::Mono8, 4, 4, 15, 0 }, { PF::RGB8, 4, 4, 47, 0 }, { PF::Mono16, 4, 4, 31, 0 },
+        { PF::BayerRG8, 4, 4, 16, 1 }, { PF::Mono8, 0, 4, 64, 0 }, { PF::Mono8, 100000, 100000, 64, 0 },
+        { PF::Mono8, 0xFFFFFFFFu, 0xFFFFFFFFu, 64, 0 }, { PF::BayerRG8, 4, 4, 0, 0 } };
+    for (const auto& b : shortOnes)
+        expectInvalid(*makeFrame(b.pf, b.w, b.h, Bytes(b.bytes, 1), b.pad));
     // Bayer frames too small to demosaic must not bring the process down.
     for (EBayerDemosaic d : { bayerBilinear, bayerEdgeAware, bayerVariableNumberOfGradients })
         makeFrame(PF::BayerRG8, 1, 1, Bytes(1, 9), 0, d)->getConvertedData();

@@ -21,21 +21,19 @@ inline const bool g_ownHome = []() {
     return true;
 }();
 
-// The device of the discovered camera with the serial number, or null.
-inline CTavDevicePtr findDeviceBySerial(const QString& serial)
-{
-    const QMap<QString, CTavDevicePtr> devices = CDeviceManager::getInstance()->getAllDevices();
-    for (const CTavDevicePtr& d : devices)
-        if (d->getDevice() && QString::fromLocal8Bit(d->getDevice()->getSerialNumber().c_str()) == serial)
-            return d;
-    return CTavDevicePtr();
-}
-
-// Waits for discovery to find the camera; null when it did not within timeoutMs.
+// Waits for discovery to find the camera with the serial number; null when
+// it did not within timeoutMs.
 inline CTavDevicePtr waitForDevice(const QString& serial, int timeoutMs = 20000)
 {
     CTavDevicePtr device;
-    (void)QTest::qWaitFor([&]() { return (device = findDeviceBySerial(serial)) != nullptr; }, timeoutMs);
+    QTest::qWaitFor(
+        [&]() {
+            for (const CTavDevicePtr& d : CDeviceManager::getInstance()->getAllDevices())
+                if (d->getDevice() && QString::fromLocal8Bit(d->getDevice()->getSerialNumber().c_str()) == serial)
+                    return bool(device = d);
+            return false;
+        },
+        timeoutMs);
     return device;
 }
 
@@ -72,7 +70,6 @@ public:
                 return i;
         return -1;
     }
-    bool contains(const QString& text) const { return !lines().filter(text).isEmpty(); }
 
     void close() override {}
     bool requiresLayout() const override { return false; }

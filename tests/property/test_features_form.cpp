@@ -1,26 +1,32 @@
-// The features page against an in-process simulated camera: the rows the
+// The features page against in-process simulated cameras: the rows the
 // builders make and their tooltips, writes with their checks and read-back,
-// commands held by the camera, camera-side updates, re-labelling without
-// rebuilding, and the search and level.
+// commands held by the camera, camera-side updates, the search and level,
+// re-labelling without rebuilding; and a page from its load to its close:
+// what the load logs and from where, a camera without features, a camera
+// that goes away while the tree loads, a page closed while its workers wait
+// on the camera.
 // GLib headers come before Qt's: Qt defines "signals" as a keyword.
+#include <memory>
 #include <arv.h>
 #include "FakeCameraRig.h"
+#include "CSingletonOwner.h"
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTreeWidget>
 #include <QtTest>
-#include <memory>
 
+#include "CAravisCamera.h"
 #include "CCommandParamDoneStatusThread.h"
-#include "CSingletonOwner.h"
 #include "CConfiguration.h"
-#include "CUpdateParamThread.h"
-#include "CFeatureTreeBuilder.h"
 #include "CPropertyFeaturesForm.h"
+#include "CUpdateParamThread.h"
+#include "CWriteParamThread.h"
 #include "FeatureTestSupport.h"
 #include "ParamTransTables.h"
 #include "DecoratedDoublePropertyManager.h"
@@ -40,100 +46,6 @@ static QString normal(const QString& text)
     return "<font color = '#BCBCBC'>" + text + "</font>";
 }
 
-struct Message
-{
-    QString text;
-    int icon;
-};
-
-class TestFeaturesForm : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void init();
-    void rowsPerNodeKind();
-    void rangeWarningAndUnavailableRows();
-    void writesAreCheckedAndReadBack();
-    void commandExecutingUntilCameraReleasesIt();
-    void cameraSideChangesRefreshRows();
-    void searchAndSharedLevel();
-    void relabelWithoutRebuilding();
-
-private:
-    std::unique_ptr<CSingletonOwner> m_owner;
-    CPropertyFeaturesForm* newForm();
-    QtProperty* row(const QString& name) const { return m_form->findProperty(name); }
-    bool rowShown(const QString& name) const;
-    bool waitWrite(const QString& name);
-    // Reads the feature again and waits until its row shows it.
-    bool refreshRow(const QString& name);
-    QString deviceValue(const char* name);
-
-    FakeCameraRig m_rig;
-    int m_cam = -1;
-    CTavDevicePtr m_device;
-    CPropertyFeaturesForm* m_form = nullptr;
-    QList<Message> m_messages;
-};
-
-CPropertyFeaturesForm* TestFeaturesForm::newForm()
-{
-    auto* form = new CPropertyFeaturesForm(m_device);
-    form->setMessageHandler([this](const QString& text, QMessageBox::StandardButtons, QMessageBox::Icon icon) {
-        m_messages.append({text, int(icon)});
-        return int(QMessageBox::Ok);
-    });
-    return form;
-}
-
-void TestFeaturesForm::initTestCase()
-{
-    m_owner.reset(new CSingletonOwner);
-    m_cam = m_rig.start("127.0.0.1", "LUMPROP1", std::string(), 320, 240, "Mono8");
-    if (m_cam < 0)
-        QFAIL("the simulated camera cannot start on 127.0.0.1 (run inside a network namespace with lo up)");
-    m_device = waitForDevice("LUMPROP1");
-    if (!m_device)
-        QFAIL("the simulated camera was not discovered");
-    QVERIFY(m_device->openDevice(true));
-    QVERIFY(m_device->isConnected());
-
-    m_form = newForm();
-    QSignalSpy finished(m_form, &CPropertyFeaturesForm::showGenParamFinish);
-    QVERIFY(m_form->isLoadingGenParams());
-    QVERIFY(finished.wait(20000));
-    QVERIFY(!m_form->isLoadingGenParams());
-    QVERIFY(m_form->isLoaded());
-    m_form->resize(600, 800);
-    m_form->show();
-}
-
-void TestFeaturesForm::cleanupTestCase()
-{
-    delete m_form;
-    m_form = nullptr;
-    if (m_device)
-        m_device->closeDevice(true);
-    m_device.reset();
-    m_owner.reset();
-}
-
-void TestFeaturesForm::init()
-{
-    m_messages.clear();
-}
-
-bool TestFeaturesForm::rowShown(const QString& name) const
-{
-    QtProperty* p = row(name);
-    if (!p)
-        return false;
-    const QList<QtBrowserItem*> items = m_form->browser()->items(p);
-    return !items.isEmpty() && m_form->browser()->isItemVisible(items.first());
-}
-
 // Whether the spy saw the signal for the feature (its first argument).
 static bool seen(const QSignalSpy& spy, const QString& name)
 {
@@ -143,126 +55,203 @@ static bool seen(const QSignalSpy& spy, const QString& name)
     return false;
 }
 
-bool TestFeaturesForm::waitWrite(const QString& name)
+class TestFeaturesForm : public QObject
 {
-    QSignalSpy spy(m_form, &CPropertyFeaturesForm::writeFinished);
-    return QTest::qWaitFor([&]() { return seen(spy, name); }, 10000);
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init() { m_messages.clear(); }
+    void rowsPerNodeKind();
+    void rangeWarningAndUnavailableRows();
+    void writesAreCheckedAndReadBack();
+    void commandExecutingUntilCameraReleasesIt();
+    void cameraSideChangesRefreshRows();
+    void searchAndSharedLevel();
+    void relabelWithoutRebuilding();
+    void loadIsLoggedByThePage();
+    void cameraGoneWhileLoading();
+    void closingNeverWaitsForTheCamera();
+
+private:
+    std::unique_ptr<CSingletonOwner> m_owner;
+    // A page of the device whose messages are collected; loaded: once its
+    // tree is shown (null when it was not).
+    CPropertyFeaturesForm* newForm(const CTavDevicePtr& device, bool loaded);
+    QtProperty* row(const QString& name) const { return m_form->findProperty(name); }
+    bool rowShown(const QString& name) const
+    {
+        QtProperty* p = row(name);
+        const QList<QtBrowserItem*> items = p ? m_form->browser()->items(p) : QList<QtBrowserItem*>();
+        return !items.isEmpty() && m_form->browser()->isItemVisible(items.first());
+    }
+    bool waitWrite(const QString& name)
+    {
+        QSignalSpy spy(m_form, &CPropertyFeaturesForm::writeFinished);
+        return QTest::qWaitFor([&]() { return seen(spy, name); }, 10000);
+    }
+    // Reads the feature again and waits until its row shows it.
+    bool refreshRow(const QString& name)
+    {
+        QSignalSpy spy(m_form, &CPropertyFeaturesForm::rowRefreshed);
+        m_form->UpdateParameter(name);
+        return QTest::qWaitFor([&]() { return seen(spy, name); }, 10000);
+    }
+    QString deviceValue(const char* name)
+    {
+        CInternalParameterNode node(m_device->getDevice(), name);
+        Vorlen::Infra::CString s;
+        node.getValueAsString(s);
+        return QString::fromLocal8Bit(s.c_str());
+    }
+
+    FakeCameraRig m_rig;
+    QTemporaryDir m_dir;
+    int m_cam = -1;
+    CTavDevicePtr m_device, m_empty;
+    CPropertyFeaturesForm* m_form = nullptr;
+    struct SMessage
+    {
+        QString text;
+        int icon;
+    };
+    QList<SMessage> m_messages;
+};
+
+CPropertyFeaturesForm* TestFeaturesForm::newForm(const CTavDevicePtr& device, bool loaded)
+{
+    auto* form = new CPropertyFeaturesForm(device);
+    form->setMessageHandler([this](const QString& text, QMessageBox::StandardButtons, QMessageBox::Icon icon) {
+        m_messages.append({text, int(icon)});
+        return int(QMessageBox::Ok);
+    });
+    QSignalSpy shown(form, &CPropertyFeaturesForm::showGenParamFinish);
+    if (loaded && !shown.wait(20000)) {
+        delete form;
+        return nullptr;
+    }
+    return form;
 }
 
-bool TestFeaturesForm::refreshRow(const QString& name)
+void TestFeaturesForm::initTestCase()
 {
-    QSignalSpy spy(m_form, &CPropertyFeaturesForm::rowRefreshed);
-    m_form->UpdateParameter(name);
-    return QTest::qWaitFor([&]() { return seen(spy, name); }, 10000);
+    m_owner.reset(new CSingletonOwner);
+    // The second camera is the first with nothing under "Root".
+    QFile full(QString::fromStdString(FakeCameraRig::defaultXmlPath()));
+    QVERIFY2(full.open(QIODevice::ReadOnly), "the simulated camera's description cannot be read");
+    QString xml = QString::fromUtf8(full.readAll());
+    const int root = xml.indexOf("<Category Name=\"Root\"");
+    const int rootEnd = xml.indexOf("</Category>", root);
+    QVERIFY(root >= 0 && rootEnd > root);
+    xml.replace(root, rootEnd - root,
+                xml.mid(root, rootEnd - root).remove(QRegularExpression("<pFeature>[^<]*</pFeature>")));
+    QFile empty(m_dir.filePath("EmptyRoot.xml"));
+    QVERIFY(m_dir.isValid() && empty.open(QIODevice::WriteOnly) && empty.write(xml.toUtf8()) > 0);
+    empty.close();
+    m_cam = m_rig.start("127.0.0.1", "LUMPROP1", std::string(), 320, 240, "Mono8");
+    if (m_cam < 0 || m_rig.start("127.0.0.2", "LUMEMPTY1", empty.fileName().toStdString()) < 0)
+        QFAIL(qPrintable(QString("simulated camera did not start (run inside a network namespace with lo up): %1")
+                             .arg(m_rig.lastError().c_str())));
+    m_device = waitForDevice("LUMPROP1");
+    m_empty = waitForDevice("LUMEMPTY1");
+    QVERIFY2(m_device && m_empty, "the simulated cameras were not discovered");
+    QVERIFY(m_device->openDevice(true) && m_device->isConnected() && m_empty->openDevice(true));
+
+    m_form = newForm(m_device, false);
+    QSignalSpy finished(m_form, &CPropertyFeaturesForm::showGenParamFinish);
+    QVERIFY(m_form->isLoadingGenParams());
+    QVERIFY(finished.wait(20000));
+    QVERIFY(!m_form->isLoadingGenParams() && m_form->isLoaded());
+    m_form->resize(600, 800);
+    m_form->show();
 }
 
-QString TestFeaturesForm::deviceValue(const char* name)
+void TestFeaturesForm::cleanupTestCase()
 {
-    CInternalParameterNode node(m_device->getDevice(), name);
-    Vorlen::Infra::CString s;
-    node.getValueAsString(s);
-    return QString::fromLocal8Bit(s.c_str());
+    delete m_form;
+    for (CTavDevicePtr* d : {&m_device, &m_empty}) {
+        if (*d)
+            (*d)->closeDevice(true);
+        d->reset();
+    }
+    m_owner.reset();
 }
 
 void TestFeaturesForm::rowsPerNodeKind()
 {
     const auto& m = m_form->managers();
-    // Integer: double manager of its own, 0 decimals, increment as step.
+    // Each kind of node on its manager; a float with a unit is decorated,
+    // an IPv4 integer is edited as text.
+    const QPair<const char*, QtAbstractPropertyManager*> kinds[] = {
+        {"Width", m.integer},       {"Gain", m.decFloating},          {"Gamma", m.floating},
+        {"ReverseX", m.boolean},    {"PixelFormat", m.enumeration}, {"GevCurrentIPAddress", m.string},
+        {"TestHoldCommand", m.command}};
+    for (const auto& kind : kinds) {
+        QVERIFY2(row(kind.first), kind.first);
+        QVERIFY2(row(kind.first)->propertyManager() == kind.second, kind.first);
+    }
+
+    // Integer: no decimals, the increment as step; the tooltip holds the
+    // name and description, then the facts in this order.
     QtProperty* width = row("Width");
-    QVERIFY(width);
-    QCOMPARE(width->propertyManager(), static_cast<QtAbstractPropertyManager*>(m.integer));
-    QCOMPARE(width->propertyName(), QString("Width"));
-    QCOMPARE(m.integer->decimals(width), 0);
-    QCOMPARE(m.integer->singleStep(width), 2.0);
-    QCOMPARE(m.integer->minimum(width), 16.0);
-    QCOMPARE(m.integer->value(width), 320.0);
+    QVERIFY(m.integer->decimals(width) == 0 && m.integer->singleStep(width) == 2.0);
+    QVERIFY(m.integer->minimum(width) == 16.0 && m.integer->value(width) == 320.0);
     QCOMPARE(width->valueText(), QString("320"));
     const QString tip = width->toolTip();
     QVERIFY2(tip.startsWith(bold("Width") + "<br>" + normal("Width of the image provided by the device in pixels.")),
              qPrintable(tip));
-    const QStringList order = {"<br><br>" + normal("Feature Name: ") + bold("Width"),
-                               "<br>" + normal("Type: ") + bold("Integer"),
-                               "<br>" + normal("Min: ") + bold("16"),
-                               "<br>" + normal("Max: "),
-                               "<br>" + normal("Increment: ") + bold("2"),
-                               "<br>" + normal("Name Space: ") + bold("Standard"),
-                               "<br>" + normal("Visibility: ") + bold("Beginner"),
-                               "<br>" + normal("Streamable: ")};
     int at = 0;
-    for (const QString& piece : order)
-    {
-        const int found = tip.indexOf(piece, at);
-        QVERIFY2(found >= at, qPrintable(piece + " in " + tip));
-        at = found;
+    for (const QString& piece : {"<br><br>" + normal("Feature Name: ") + bold("Width"),
+                                 "<br>" + normal("Type: ") + bold("Integer"), "<br>" + normal("Min: ") + bold("16"),
+                                 "<br>" + normal("Max: "), "<br>" + normal("Increment: ") + bold("2"),
+                                 "<br>" + normal("Name Space: ") + bold("Standard"),
+                                 "<br>" + normal("Visibility: ") + bold("Beginner"), "<br>" + normal("Streamable: ")}) {
+        at = tip.indexOf(piece, at);
+        QVERIFY2(at >= 0, qPrintable(piece + " in " + tip));
     }
     QCOMPARE(width->txtTag(), tip);
-    QCOMPARE(width->GetType(), 0);
 
-    // Float with a unit: decorated, the unit itself as suffix, 5 decimals,
-    // no increment line.
+    // Float with a unit: the unit itself as suffix, in the editor too; 5
+    // decimals; no increment line.
     QtProperty* gain = row("Gain");
-    QCOMPARE(gain->propertyManager(), static_cast<QtAbstractPropertyManager*>(m.decFloating));
-    QCOMPARE(m.decFloating->suffix(gain), QString("dB"));
-    QCOMPARE(m.decFloating->decimals(gain), 5);
+    QVERIFY(m.decFloating->suffix(gain) == "dB" && m.decFloating->decimals(gain) == 5);
     QVERIFY2(gain->valueText().endsWith("0dB"), qPrintable(gain->valueText()));
     QtTreePropertyBrowser* browser = m_form->browser();
     browser->setCurrentItem(browser->items(gain).first());
     auto* editor = browser->treeWidget()->viewport()->findChild<QDoubleSpinBox*>();
-    QVERIFY(editor);
-    QCOMPARE(editor->suffix(), QString("dB"));
+    QVERIFY(editor && editor->suffix() == "dB");
     browser->setCurrentItem(nullptr);
-    QVERIFY(!gain->toolTip().contains("Increment: "));
-    QVERIFY(gain->toolTip().contains("Max: "));
-    // Float without a unit: the plain float manager.
-    QCOMPARE(row("Gamma")->propertyManager(), static_cast<QtAbstractPropertyManager*>(m.floating));
+    QVERIFY(!gain->toolTip().contains("Increment: ") && gain->toolTip().contains("Max: "));
 
-    // IPv4 integer edited as text; MAC as hexadecimal text.
-    QtProperty* ip = row("GevCurrentIPAddress");
-    QCOMPARE(ip->propertyManager(), static_cast<QtAbstractPropertyManager*>(m.string));
-    QCOMPARE(ip->valueText(), QString("127.0.0.1"));
-    QVERIFY(!ip->isEnabled());
-    QtProperty* mac = row("GevMACAddress");
-    QCOMPARE(mac->valueText().size(), 12);
+    QCOMPARE(row("GevCurrentIPAddress")->valueText(), QString("127.0.0.1"));
+    QVERIFY(!row("GevCurrentIPAddress")->isEnabled());
+    QCOMPARE(row("GevMACAddress")->valueText().size(), 12);   // hexadecimal text
+    QCOMPARE(m.boolean->enumNames(row("ReverseX")), QStringList({"False", "True"}));
 
-    // Boolean: exactly False, True.
-    QtProperty* reverse = row("ReverseX");
-    QCOMPARE(reverse->propertyManager(), static_cast<QtAbstractPropertyManager*>(m.boolean));
-    QCOMPARE(m.boolean->enumNames(reverse), QStringList({"False", "True"}));
-    QCOMPARE(m.boolean->value(reverse), 0);
-
-    // Enumeration: entries in order, current one selected, entries in the tooltip.
+    // Enumeration: entries in order, the current one selected, entries in
+    // the tooltip; invisible entries are not offered.
     QtProperty* pixel = row("PixelFormat");
     QCOMPARE(m.enumeration->enumNames(pixel).first(), QString("Mono8"));
     QCOMPARE(pixel->valueText(), QString("Mono8"));
     QVERIFY(pixel->toolTip().contains(normal("Enum Entry Name: ") + bold("BayerRG8") + "<br>" +
                                       normal("Enum Entry Value: ") + bold("17301513")));
-    // Invisible entries are not offered.
     QVERIFY(!m.enumeration->enumNames(row("DeviceScanType")).contains("Linescan"));
 
     // String with its length limit; read-only string greyed.
-    QtProperty* userId = row("DeviceUserID");
-    QCOMPARE(userId->getMaxLength(), 16);
-    QVERIFY(userId->toolTip().contains(normal("Max Length: ") + bold("16 bytes")));
+    QCOMPARE(row("DeviceUserID")->getMaxLength(), 16);
+    QVERIFY(row("DeviceUserID")->toolTip().contains(normal("Max Length: ") + bold("16 bytes")));
     QVERIFY(!row("DeviceVendorName")->isEnabled());
 
     // Command, register, category.
-    QtProperty* hold = row("TestHoldCommand");
-    QCOMPARE(hold->propertyManager(), static_cast<QtAbstractPropertyManager*>(m.command));
-    QVERIFY(hold->isCommandType());
-    QCOMPARE(hold->valueText(), QString("{Command}"));
-    QCOMPARE(hold->GetType(), 2);
-    QtProperty* reg = row("TestRegister");
-    QCOMPARE(reg->valueText(), QString("{Register}"));
-    QVERIFY(reg->toolTip().contains(normal("Length:") + bold("16 Bytes")));
+    QVERIFY(row("TestHoldCommand")->isCommandType() && row("TestHoldCommand")->valueText() == "{Command}");
+    QCOMPARE(row("TestRegister")->valueText(), QString("{Register}"));
+    QVERIFY(row("TestRegister")->toolTip().contains(normal("Length:") + bold("16 Bytes")));
     QtProperty* category = row("ImageFormatControl");
-    QVERIFY(!category->hasValue());
+    QVERIFY(!category->hasValue() && category->subProperties().contains(width));
     QVERIFY(category->toolTip().contains(normal("Category Name: ") + bold("ImageFormatControl")));
-    QVERIFY(category->subProperties().contains(width));
 
-    // Invisible nodes never become rows.
-    QVERIFY(!row("TestInvisibleValue"));
-    QVERIFY(!row("GainRaw"));
-    // Whole tree: every row is findable by feature name.
+    // Invisible nodes never become rows; every other row is findable by name.
+    QVERIFY(!row("TestInvisibleValue") && !row("GainRaw"));
     QVERIFY(m_form->featureNames().size() > 300);
 }
 
@@ -460,6 +449,8 @@ void TestFeaturesForm::relabelWithoutRebuilding()
     QCOMPARE(m_form->featureNames().size(), rows);
     QCOMPARE(width->propertyName(), QString::fromUtf8("宽度"));
     QVERIFY(width->toolTip().contains(QString::fromUtf8("图像宽度。")));
+    QTreeWidgetItem* widthItem = m_form->browser()->treeItem(m_form->browser()->items(width).first());
+    QVERIFY(widthItem->text(0) == width->propertyName() && widthItem->toolTip(0) == width->toolTip());
     QCOMPARE(pixel->valueText(), QString::fromUtf8("黑白8"));
     QCOMPARE(row("TestHoldCommand")->valueText(), QString::fromUtf8("{命令}"));
     QCOMPARE(row("TestGatedValue")->notAvailableText(), QString::fromUtf8("{不可用}"));
@@ -476,6 +467,107 @@ void TestFeaturesForm::relabelWithoutRebuilding()
     m_form->retranslateUi();
     QCOMPARE(width->propertyName(), QString("Width"));
     QCOMPARE(pixel->valueText(), QString("Mono8"));
+}
+
+void TestFeaturesForm::loadIsLoggedByThePage()
+{
+    // Each line of the load comes from the page's own source, in order; a
+    // camera without features says so and still shows its (empty) tree.
+    const struct
+    {
+        CTavDevicePtr device;
+        QStringList lines;
+    } loads[] = {{m_device, {"] begin getProperty", "] Start to load properties.", "] end getProperty",
+                             "] begin showGenParam", "] end showGenParam"}},
+                 {m_empty, {"] begin getProperty", "] SubParams is empty!", "] end getProperty"}}};
+    for (const auto& load : loads) {
+        LogCapture log;
+        std::unique_ptr<CPropertyFeaturesForm> form(newForm(load.device, true));
+        QVERIFY(form && form->isLoaded());
+        QCOMPARE(form->featureNames().isEmpty(), load.device == m_empty);
+        int at = 0;
+        for (const QString& text : load.lines) {
+            at = log.find("CPropertyFeaturesForm", text, at);
+            QVERIFY2(at >= 0, qPrintable(text + " not logged by CPropertyFeaturesForm in:\n" + log.lines().join('\n')));
+        }
+        QVERIFY(log.lines().filter("Get children params failed!").isEmpty());
+        QCOMPARE(log.find("CPropertyFeaturesForm", "SubParams is empty!") >= 0, load.device == m_empty);
+    }
+}
+
+void TestFeaturesForm::cameraGoneWhileLoading()
+{
+    // A load cut after 30 nodes, as by a lost camera: no tree, nothing
+    // announced as shown, workers end cleanly.
+    std::unique_ptr<CPropertyFeaturesForm> form(newForm(m_device, false));
+    QSignalSpy aborted(form.get(), &CPropertyFeaturesForm::propertyLoadAborted);
+    QSignalSpy shown(form.get(), &CPropertyFeaturesForm::showGenParamFinish);
+    form->setLoadProbe([](int nodes) { return nodes < 30; });
+    QVERIFY(QTest::qWaitFor([&]() { return !aborted.isEmpty() || !shown.isEmpty(); }, 20000));
+    QVERIFY2(shown.isEmpty(), "the load was not cut by the probe");
+    QVERIFY(!form->isLoaded() && !form->isLoadingGenParams() && form->featureNames().isEmpty());
+}
+
+void TestFeaturesForm::closingNeverWaitsForTheCamera()
+{
+    CAravisCamera* camera = toAravisCamera(m_device->getDevice());
+    QVERIFY(camera);
+
+    // A loaded page with every worker busy: a command the camera holds, a
+    // refused write stuck behind this thread's hold on the camera, a
+    // refresh waiting. Closing returns while this thread holds the camera
+    // (any wait for a worker would never end).
+    {
+        CPropertyFeaturesForm* form = newForm(m_device, true);
+        QVERIFY(form);
+        QtProperty* hold = form->findProperty("TestHoldCommand");
+        QVERIFY(hold);
+        form->managers().command->click(hold, false);
+        QTRY_VERIFY_WITH_TIMEOUT(!hold->isDone(), 5000);
+        QPointer<QThread> workers[] = {form->loadThread(), form->updateThread(), form->commandThread(),
+                                       form->writeThread()};
+        {
+            std::unique_lock<std::recursive_mutex> cameraLock(camera->gcMutex());
+            // Width 321 breaks its increment: a delivered result would show a message.
+            form->managers().integer->setValue(form->findProperty("Width"), 321);
+            QTRY_COMPARE(form->writeThread()->pendingCount(), 0);   // taken, inside the camera call
+            QVERIFY(form->writeThread()->isBusy());
+            form->updateThread()->appendPropertyList({"Height", "Gain"});
+            delete form;
+            for (const QPointer<QThread>& worker : workers)
+                if (worker)
+                    QVERIFY(!worker->parent());
+        }
+        for (const QPointer<QThread>& worker : workers)
+            QTRY_VERIFY_WITH_TIMEOUT(worker.isNull(), 10000);
+        // The workers are gone: whatever they had posted is delivered now, or never.
+        QCoreApplication::sendPostedEvents();
+        QVERIFY2(m_messages.isEmpty(), qPrintable(m_messages.value(0).text));
+        // Release the command for the pages after this one.
+        const guint32 zero = 0;
+        arv_fake_camera_write_memory(m_rig.fake(m_cam), 0x4000, 4, &zero);
+    }
+
+    // A page closed while its tree loads: the loader stops at the next node
+    // once the camera answers again, and no tree is delivered.
+    {
+        auto nodes = std::make_shared<std::atomic<int>>(0);
+        auto* form = new CPropertyFeaturesForm(m_device);
+        form->setLoadProbe([nodes](int read) {
+            *nodes = read;
+            return true;
+        });
+        QPointer<QThread> loader(form->loadThread());
+        QTRY_VERIFY_WITH_TIMEOUT(*nodes > 0, 20000);
+        int atClose = 0;
+        {
+            std::unique_lock<std::recursive_mutex> cameraLock(camera->gcMutex());
+            atClose = *nodes;
+            delete form;
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(loader.isNull(), 10000);
+        QVERIFY2(*nodes <= atClose + 1, qPrintable(QString("%1 nodes read after closing").arg(*nodes - atClose)));
+    }
 }
 
 QTEST_MAIN(TestFeaturesForm)

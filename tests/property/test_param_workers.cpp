@@ -1,13 +1,12 @@
 // The features page's workers without a camera: the update queue, the
-// command watch, the write queue and the one-shot loader, each given a
-// reader the test controls. A reader can be held inside its "camera call"
-// to see what the worker does meanwhile.
+// command watch and the write queue, each given a reader the test controls,
+// which can be held inside its "camera call" to see what the worker does
+// meanwhile. (The one-shot loader is seen through the features page.)
 #include <QPointer>
 #include <QSemaphore>
 #include <QtTest>
 
 #include "CCommandParamDoneStatusThread.h"
-#include "CLoadPropertiesThread.h"
 #include "CUpdateParamThread.h"
 #include "CWriteParamThread.h"
 #include "QueuedSignalSpy.h"
@@ -48,7 +47,6 @@ private slots:
     void updateQueueReplacesAndAppends();
     void commandWatchNeverWaitsOnTheCamera();
     void writesRunInOrderAndStopWithTheirOwner();
-    void loaderRunsOnceAndEnds();
 };
 
 void TestParamWorkers::updateQueueReplacesAndAppends()
@@ -174,26 +172,6 @@ void TestParamWorkers::writesRunInOrderAndStopWithTheirOwner()
     QCoreApplication::sendPostedEvents();
     QCOMPARE(ran, QStringList({"a", "b", "c"}));
     QCOMPARE(continued, QStringList({"a", "c"}));
-}
-
-void TestParamWorkers::loaderRunsOnceAndEnds()
-{
-    for (const bool ok : {true, false})
-    {
-        CLoadPropertiesThread loader;
-        QueuedSignalSpy loaded(&loader, &CLoadPropertiesThread::loaded);
-        loader.load([ok](CFeatureNodeInfo& tree) {
-            tree.name = "Root";
-            tree.children.push_back(record("Width"));
-            return ok;
-        });
-        QVERIFY(loaded.wait(10000));
-        const CFeatureTreePtr tree = loaded.first().at(0).value<CFeatureTreePtr>();
-        QCOMPARE(tree->children.size(), size_t(1));
-        QCOMPARE(loaded.first().at(1).toBool(), ok);
-        // One load per thread: it ends by itself.
-        QVERIFY(loader.wait(10000));
-    }
 }
 
 QTEST_MAIN(TestParamWorkers)
