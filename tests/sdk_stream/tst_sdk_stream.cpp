@@ -183,8 +183,13 @@ private slots:
         for (int i = 0; i < 30; ++i) {
             QVERIFY(grab(src, frame));
             QVERIFY(frame.valid());
+            // A frame may follow a gap (a block dropped on a loaded machine or
+            // overwritten in the queue): that is reported, not a failure here;
+            // the loss counting has tests of its own on fixed packet sequences.
             const int err = getLastError();
-            QVERIFY(err == Vorlen::Infra::ERR_OK || err == Vorlen::Infra::WARN_BUFFER_OVERRIDE);
+            QVERIFY2(err == Vorlen::Infra::ERR_OK || err == Vorlen::Infra::WARN_BUFFER_OVERRIDE ||
+                         err == Vorlen::Infra::ERROR_STREAM_CHANNEL_ERROR,
+                     Vorlen::Infra::getErrMsg(err));
             QCOMPARE(frame.getImageWidth(), uint32_t(kWidth));
             QCOMPARE(frame.getImageHeight(), uint32_t(kHeight));
             QCOMPARE(frame.getImagePixelFormat(), uint32_t(ARV_PIXEL_FORMAT_MONO_8));
