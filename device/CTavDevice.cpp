@@ -91,7 +91,7 @@ CTavDevice::~CTavDevice()
         m_connection->endWorker(nullptr);
         return;
     }
-    LOG_WARN("device released while open; its worker closes it. [%s]", m_strKey.toLocal8Bit().constData());
+    LOG_WARN("device released while open; its worker closes it. [%s]", getDeviceKey().toLocal8Bit().constData());
     m_stream->handOver(m_connection->worker());
     const std::shared_ptr<CDeviceStream> stream = m_stream;
     const std::shared_ptr<CDeviceEventBridge> events = m_events;
