@@ -1,18 +1,18 @@
 #include "CDiscoveryButtonsForm.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QToolButton>
 #include <utility>
 
+#include "CLanguageWatcher.h"
 #include "DeviceListRules.h"
+#include "Named.h"
 
 namespace {
 QToolButton* makeButton(QWidget* parent, const char* name, const char* icon)
 {
-    auto* button = new QToolButton(parent);
-    button->setObjectName(QLatin1String(name));
+    auto* button = named(new QToolButton(parent), name);
     button->setIcon(QIcon(QLatin1String(icon)));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
@@ -37,6 +37,7 @@ CDiscoveryButtonsForm::CDiscoveryButtonsForm(QWidget* parent) : QFrame(parent)
     layout->addWidget(m_btnForceIP);
     layout->addWidget(m_btnConnect);
     layout->addWidget(m_btnDisconnect);
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
     retranslateUi();
 }
 
@@ -62,11 +63,4 @@ void CDiscoveryButtonsForm::retranslateUi()
     m_btnConnect->setToolTip(tr("Connect"));
     m_btnDisconnect->setToolTip(tr("Disconnect"));
     m_btnForceIP->setToolTip(tr("Force IP"));
-}
-
-void CDiscoveryButtonsForm::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QFrame::changeEvent(event);
 }

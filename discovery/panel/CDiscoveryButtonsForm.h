@@ -20,9 +20,6 @@ public:
     // All three disabled while a connection or disconnection is under way.
     void disableAll();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     void retranslateUi();
 

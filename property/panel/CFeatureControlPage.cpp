@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,10 +15,10 @@
 #include "CDeviceManager.h"
 #include "CDoubleSpinBox.h"
 #include "CFeatureTreeBuilder.h"
+#include "CLanguageWatcher.h"
 #include "CSlider.h"
 #include "CSpinBox.h"
 #include "CTavDevice.h"
-#include "MessageBox.h"
 #include "Utils.h"
 
 namespace {
@@ -74,6 +73,7 @@ CFeatureControlPage::CFeatureControlPage(CTavDevicePtr device, const char* conte
     connect(this, &CFeatureControlPage::update_receive, this, &CFeatureControlPage::OnUpdateReceive,
             Qt::QueuedConnection);
     CDeviceManager::getInstance()->attach(this);
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
     refresh();
 }
 
@@ -342,14 +342,6 @@ void CFeatureControlPage::writeValue(const QString& name, const QVariant& value)
     m_worker->requestWrite(name, v);
 }
 
-void CFeatureControlPage::showMessage(const QString& text)
-{
-    if (m_messageHandler)
-        m_messageHandler(text);
-    else
-        messageBox(text, this, QMessageBox::Ok, QMessageBox::Critical);
-}
-
 void CFeatureControlPage::onStateRead(SFeatureState s)
 {
     if (SRow* row = findRow(s.name))
@@ -423,13 +415,6 @@ void CFeatureControlPage::retranslateUi()
         row->row->setToolTip(row->state.available || !row->state.valid ? QString() : tr("Not available now"));
     }
     retranslateExtra();
-}
-
-void CFeatureControlPage::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QWidget::changeEvent(event);
 }
 
 void CFeatureControlPage::showEvent(QShowEvent* event)

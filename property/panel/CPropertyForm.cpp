@@ -10,6 +10,7 @@
 
 #include "CBusyIndicator.h"
 #include "CDeviceManager.h"
+#include "CLanguageWatcher.h"
 #include "CParamFileController.h"
 #include "CPropertyFeaturesForm.h"
 #include "CPropertyGPIOForm.h"
@@ -98,6 +99,13 @@ CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
     connect(this, &CPropertyForm::update_receive, this, &CPropertyForm::OnUpdateReceive, Qt::QueuedConnection);
     CDeviceManager::getInstance()->attach(this);
     initParamTransMap();
+    // The pages below hear of a language change after this panel, so the
+    // tables are refilled before they re-label their rows.
+    CLanguageWatcher::install(this, [this]() {
+        clearParamTransMap();
+        initParamTransMap();
+        retranslateUi();
+    });
     retranslateUi();
     setTab(tabFeatures);
 }
@@ -136,19 +144,6 @@ void CPropertyForm::retranslateUi()
             m_buttons[i]->setToolTip(tr(kButtons[i].text));
     }
     m_emptyLabel->setText(tr("Connect a camera to see its features."));
-}
-
-void CPropertyForm::changeEvent(QEvent* event)
-{
-    // The pages below receive the event after this panel, so the tables are
-    // refilled before they re-label their rows.
-    if (event->type() == QEvent::LanguageChange)
-    {
-        clearParamTransMap();
-        initParamTransMap();
-        retranslateUi();
-    }
-    QWidget::changeEvent(event);
 }
 
 void CPropertyForm::onLanChanged(int language)
