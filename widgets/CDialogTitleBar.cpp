@@ -1,6 +1,6 @@
 #include "CDialogTitleBar.h"
 
-#include <QHBoxLayout>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QToolButton>
 
@@ -11,8 +11,8 @@ CDialogTitleBar::CDialogTitleBar(QWidget* parent)
 {
     setObjectName(QStringLiteral("CDialogTitleBar"));
     setFixedHeight(32);
-    barLayout()->setContentsMargins(12, 0, 4, 0);
-    barLayout()->setSpacing(6);
+    layout()->setContentsMargins(12, 0, 4, 0);
+    layout()->setSpacing(6);
 
     QToolButton* close = closeButton();
     close->setText(QStringLiteral("\u2715"));

@@ -13,9 +13,9 @@ CTitleBar::CTitleBar(const QString& labelName, const QString& buttonName, QWidge
     m_button = new QToolButton(this);
     m_button->setObjectName(buttonName);
     m_button->setAutoRaise(true);
-    m_layout = new QHBoxLayout(this);
-    m_layout->addWidget(m_titleLabel, 1);
-    m_layout->addWidget(m_button);
+    auto* row = new QHBoxLayout(this);
+    row->addWidget(m_titleLabel, 1);
+    row->addWidget(m_button);
 }
 
 void CTitleBar::setTitle(const QString& title)

@@ -5,7 +5,6 @@
 // moves its window).
 #include <QWidget>
 
-class QHBoxLayout;
 class QLabel;
 class QToolButton;
 
@@ -20,11 +19,10 @@ protected:
     // labelName and buttonName: the object names the style sheet knows them by.
     CTitleBar(const QString& labelName, const QString& buttonName, QWidget* parent);
 
+    // The button; layout() holds the label and the button in a row.
     QToolButton* barButton() const { return m_button; }
-    QHBoxLayout* barLayout() const { return m_layout; }
 
 private:
     QLabel* m_titleLabel;
     QToolButton* m_button;
-    QHBoxLayout* m_layout;
 };
