@@ -16,6 +16,7 @@
 #include "CDoubleSpinBox.h"
 #include "CFeatureTreeBuilder.h"
 #include "CLanguageWatcher.h"
+#include "Named.h"
 #include "CSlider.h"
 #include "CSpinBox.h"
 #include "CTavDevice.h"
@@ -93,8 +94,7 @@ void CFeatureControlPage::Update(CTavMessagePtr msg)
 
 void CFeatureControlPage::addSection(const char* title)
 {
-    auto* label = new QLabel(this);
-    label->setObjectName(QStringLiteral("sectionTitle"));
+    auto* label = named(new QLabel(this), "sectionTitle");
     QFont f = label->font();
     f.setBold(true);
     label->setFont(f);

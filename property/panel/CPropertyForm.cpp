@@ -16,6 +16,7 @@
 #include "CPropertyGPIOForm.h"
 #include "CPropertyImageFormatForm.h"
 #include "CPropertySettingsForm.h"
+#include "Named.h"
 #include "CSaveFeaturesDlg.h"
 #include "CTavDevice.h"
 #include "ParamTransTables.h"
@@ -57,8 +58,7 @@ CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
     for (int i = 0; i < kButtonCount; ++i)
     {
         const bool tab = i < kTabCount;
-        auto* b = new QToolButton(this);
-        b->setObjectName(QLatin1String(kButtons[i].name));
+        auto* b = named(new QToolButton(this), kButtons[i].name);
         b->setIcon(QIcon(QLatin1String(kButtons[i].icon)));
         b->setIconSize(QSize(20, 20));
         b->setCheckable(tab);
@@ -72,10 +72,8 @@ CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
         m_buttons[i] = b;
     }
 
-    m_stack = new QStackedWidget(this);
-    m_stack->setObjectName(QStringLiteral("stackedWidget"));
-    m_emptyPage = new QWidget(m_stack);
-    m_emptyPage->setObjectName(QStringLiteral("emptyPage"));
+    m_stack = named(new QStackedWidget(this), "stackedWidget");
+    m_emptyPage = named(new QWidget(m_stack), "emptyPage");
     m_emptyLabel = new QLabel(m_emptyPage);
     m_emptyLabel->setAlignment(Qt::AlignCenter);
     m_emptyLabel->setWordWrap(true);
@@ -90,8 +88,7 @@ CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
     layout->addWidget(m_stack, 1);
 
     // Laid over the stack, outside the layout.
-    m_waiting = new CBusyIndicator(this);
-    m_waiting->setObjectName(QStringLiteral("waitingGif"));
+    m_waiting = named(new CBusyIndicator(this), "waitingGif");
     m_waiting->hide();
 
     m_paramFiles = new CParamFileController(this, this);

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "CTavDevice.h"
+#include "Named.h"
 
 namespace {
 qint64 snapDown(qint64 value, qint64 minimum, qint64 increment)
@@ -31,11 +32,9 @@ CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget
           parent)
 {
     auto* buttons = new QHBoxLayout();
-    m_btnDraw = new QPushButton(this);
-    m_btnDraw->setObjectName(QStringLiteral("btnDrawROI"));
+    m_btnDraw = named(new QPushButton(this), "btnDrawROI");
     m_btnDraw->setCheckable(true);
-    m_btnFull = new QPushButton(this);
-    m_btnFull->setObjectName(QStringLiteral("btnFullFrame"));
+    m_btnFull = named(new QPushButton(this), "btnFullFrame");
     buttons->addWidget(m_btnDraw);
     buttons->addWidget(m_btnFull);
     buttons->addStretch(1);
