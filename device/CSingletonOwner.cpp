@@ -48,8 +48,9 @@ CSingletonOwner::~CSingletonOwner()
     }
     m_late.clear();
 
-    // ---- The camera library's own singletons end here, last: nothing
-    // above uses the library any more.
+    // The camera library's own singletons and the frame buffer pool end after
+    // this, for good, in main(): tests make one owner after another over the
+    // same library.
 
     g_ownerAlive = false;
 }

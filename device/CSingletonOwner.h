@@ -15,8 +15,9 @@
 //   3 CDeviceManager           on first use                      2
 //   4 CDisconnectAllThread     on first use; asks for the        1
 //                              device manager first
-//   then the camera library's own singletons, ended last (see the marked
-//   place in ~CSingletonOwner)
+//   then, in main() after the owner has ended, the camera library's own
+//   singletons (CSystem::shutdownInstance) and the frame buffer pool
+//   (CRawBufferPool::shutdownInstance): ended for good, never made again
 //
 // Ending has two steps. shutdown() closes the slots in reverse order, so that
 // nothing is made again, and stops each object without waiting on a camera:

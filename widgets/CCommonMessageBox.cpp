@@ -11,6 +11,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "Named.h"
+
 CCommonMessageBox::CCommonMessageBox(QWidget* parent)
     : QDialog(parent)
 {
@@ -19,24 +21,19 @@ CCommonMessageBox::CCommonMessageBox(QWidget* parent)
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     setModal(true);
 
-    m_iconLabel = new QLabel(this);
-    m_iconLabel->setObjectName(QStringLiteral("messageIcon"));
+    m_iconLabel = named(new QLabel(this), "messageIcon");
     m_iconLabel->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
     m_iconLabel->hide();
 
-    m_messageLabel = new QLabel(this);
-    m_messageLabel->setObjectName(QStringLiteral("messageText"));
+    m_messageLabel = named(new QLabel(this), "messageText");
     m_messageLabel->setWordWrap(true);
     m_messageLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_messageLabel->setMinimumWidth(280);
 
-    m_fileRow = new QWidget(this);
-    m_fileRow->setObjectName(QStringLiteral("messageFileRow"));
-    m_fileLabel = new QLabel(m_fileRow);
-    m_fileLabel->setObjectName(QStringLiteral("messageFile"));
+    m_fileRow = named(new QWidget(this), "messageFileRow");
+    m_fileLabel = named(new QLabel(m_fileRow), "messageFile");
     m_fileLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_openFileButton = new QPushButton(m_fileRow);
-    m_openFileButton->setObjectName(QStringLiteral("btnOpenFile"));
+    m_openFileButton = named(new QPushButton(m_fileRow), "btnOpenFile");
     m_openFileButton->setAutoDefault(false);
     auto* fileLayout = new QHBoxLayout(m_fileRow);
     fileLayout->setContentsMargins(0, 0, 0, 0);

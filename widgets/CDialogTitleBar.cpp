@@ -1,56 +1,42 @@
 #include "CDialogTitleBar.h"
 
-#include <QEvent>
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QToolButton>
 
+#include "CLanguageWatcher.h"
+
 CDialogTitleBar::CDialogTitleBar(QWidget* parent)
-    : QWidget(parent)
+    : CTitleBar(QStringLiteral("dialogTitle"), QStringLiteral("btnDialogClose"), parent)
 {
     setObjectName(QStringLiteral("CDialogTitleBar"));
-    setAttribute(Qt::WA_StyledBackground, true);
     setFixedHeight(32);
+    layout()->setContentsMargins(12, 0, 4, 0);
+    layout()->setSpacing(6);
 
-    m_titleLabel = new QLabel(this);
-    m_titleLabel->setObjectName(QStringLiteral("dialogTitle"));
-
-    m_closeButton = new QToolButton(this);
-    m_closeButton->setObjectName(QStringLiteral("btnDialogClose"));
-    m_closeButton->setText(QStringLiteral("\u2715"));
-    m_closeButton->setAutoRaise(true);
-    m_closeButton->setFocusPolicy(Qt::NoFocus);
-    m_closeButton->setFixedSize(28, 24);
-    connect(m_closeButton, &QToolButton::clicked, this, [this]() {
+    QToolButton* close = closeButton();
+    close->setText(QStringLiteral("\u2715"));
+    close->setFocusPolicy(Qt::NoFocus);
+    close->setFixedSize(28, 24);
+    connect(close, &QToolButton::clicked, this, [this]() {
         emit closeRequested();
         if (QWidget* w = window(); w && w != this)
             w->close();
     });
-
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(12, 0, 4, 0);
-    layout->setSpacing(6);
-    layout->addWidget(m_titleLabel, 1);
-    layout->addWidget(m_closeButton);
+    CLanguageWatcher::install(this, [this]() { retranslate(); });
     retranslate();
 }
 
 void CDialogTitleBar::setTitle(const QString& title)
 {
-    m_titleLabel->setText(title);
+    CTitleBar::setTitle(title);
     if (QWidget* w = window(); w && w != this)
         w->setWindowTitle(title);
 }
 
-QString CDialogTitleBar::title() const
-{
-    return m_titleLabel->text();
-}
-
 void CDialogTitleBar::setCloseButtonVisible(bool visible)
 {
-    m_closeButton->setVisible(visible);
+    closeButton()->setVisible(visible);
 }
 
 void CDialogTitleBar::mousePressEvent(QMouseEvent* event)
@@ -80,14 +66,7 @@ void CDialogTitleBar::mouseReleaseEvent(QMouseEvent* event)
     QWidget::mouseReleaseEvent(event);
 }
 
-void CDialogTitleBar::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslate();
-    QWidget::changeEvent(event);
-}
-
 void CDialogTitleBar::retranslate()
 {
-    m_closeButton->setToolTip(tr("Close"));
+    closeButton()->setToolTip(tr("Close"));
 }

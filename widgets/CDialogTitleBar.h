@@ -4,23 +4,20 @@
 // Put it at the top of the dialog's layout; the close button calls the
 // window's close() (which for a QDialog ends in reject()).
 #include <QPoint>
-#include <QWidget>
 
-class QLabel;
-class QToolButton;
+#include "CTitleBar.h"
 
-class CDialogTitleBar : public QWidget
+class CDialogTitleBar : public CTitleBar
 {
     Q_OBJECT
 public:
     explicit CDialogTitleBar(QWidget* parent = nullptr);
 
-    void setTitle(const QString& title);
-    QString title() const;
-
+    // The window takes the title too.
+    void setTitle(const QString& title) override;
     // Hide the close button for dialogs the user must not dismiss.
     void setCloseButtonVisible(bool visible);
-    QToolButton* closeButton() const { return m_closeButton; }
+    QToolButton* closeButton() const { return barButton(); }
 
 signals:
     // Emitted before the window is closed by the close button.
@@ -30,13 +27,10 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void retranslate();
 
-    QLabel* m_titleLabel;
-    QToolButton* m_closeButton;
     QPoint m_dragOffset;
     bool m_dragging = false;
 };

@@ -3,25 +3,22 @@
 #include "CBusyIndicator.h"
 #include "CDialogTitleBar.h"
 #include "FramelessDialogLayout.h"
+#include "Named.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 
 CWaitDlg::CWaitDlg(QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+    : CFramelessDialog(parent)
 {
     setObjectName(QStringLiteral("CWaitDlg"));
     setModal(true);
-    setAttribute(Qt::WA_StyledBackground, true);
     setMinimumWidth(320);
-
-    m_titleBar = new CDialogTitleBar(this);
-    m_titleBar->setCloseButtonVisible(false);
+    titleBar()->setCloseButtonVisible(false);
 
     m_busy = new CBusyIndicator(this);
-    m_textLabel = new QLabel(this);
-    m_textLabel->setObjectName(QStringLiteral("waitText"));
+    m_textLabel = named(new QLabel(this), "waitText");
     m_textLabel->setWordWrap(true);
     m_textLabel->setMinimumWidth(220);
 
@@ -31,23 +28,12 @@ CWaitDlg::CWaitDlg(QWidget* parent)
     body->addWidget(m_busy, 0, Qt::AlignVCenter);
     body->addWidget(m_textLabel, 1);
 
-    frameFramelessDialog(this, m_titleBar, body);
-}
-
-void CWaitDlg::setTitle(const QString& title)
-{
-    m_titleBar->setTitle(title);
-    setWindowTitle(title);
+    frameFramelessDialog(this, body);
 }
 
 void CWaitDlg::setText(const QString& text)
 {
     m_textLabel->setText(text);
-}
-
-QString CWaitDlg::title() const
-{
-    return m_titleBar->title();
 }
 
 QString CWaitDlg::text() const
@@ -58,7 +44,7 @@ QString CWaitDlg::text() const
 void CWaitDlg::setCancellable(bool cancellable)
 {
     m_cancellable = cancellable;
-    m_titleBar->setCloseButtonVisible(cancellable);
+    titleBar()->setCloseButtonVisible(cancellable);
 }
 
 void CWaitDlg::reject()

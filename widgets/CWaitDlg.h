@@ -5,21 +5,19 @@
 // The user cannot dismiss it with Escape or the window manager; a caller that
 // offers cancelling shows the close button with setCancellable(true) and
 // listens to rejected().
-#include <QDialog>
+#include "CFramelessDialog.h"
 
 class QLabel;
-class CDialogTitleBar;
 class CBusyIndicator;
 
-class CWaitDlg : public QDialog
+class CWaitDlg : public CFramelessDialog
 {
     Q_OBJECT
 public:
     explicit CWaitDlg(QWidget* parent = nullptr);
 
-    void setTitle(const QString& title);
+    // The title is set with setTitle() (CFramelessDialog).
     void setText(const QString& text);
-    QString title() const;
     QString text() const;
 
     void setCancellable(bool cancellable);
@@ -34,7 +32,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    CDialogTitleBar* m_titleBar;
     CBusyIndicator* m_busy;
     QLabel* m_textLabel;
     bool m_cancellable = false;

@@ -1,14 +1,13 @@
 #include "FramelessDialogLayout.h"
 
-#include <QDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "CDialogTitleBar.h"
+#include "CFramelessDialog.h"
 
-void layOutFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* content,
-                           const QList<QPushButton*>& buttons)
+void layOutFramelessDialog(CFramelessDialog* dialog, QLayout* content, const QList<QPushButton*>& buttons)
 {
     auto* buttonRow = new QHBoxLayout;
     buttonRow->addStretch(1);
@@ -19,14 +18,14 @@ void layOutFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* 
     body->setSpacing(12);
     body->addLayout(content);
     body->addLayout(buttonRow);
-    frameFramelessDialog(dialog, titleBar, body);
+    frameFramelessDialog(dialog, body);
 }
 
-void frameFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* body)
+void frameFramelessDialog(CFramelessDialog* dialog, QLayout* body)
 {
     auto* layout = new QVBoxLayout(dialog);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);
-    layout->addWidget(titleBar);
+    layout->addWidget(dialog->titleBar());
     layout->addLayout(body, 1);
 }

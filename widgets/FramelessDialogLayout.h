@@ -4,14 +4,12 @@
 // margins. Every small dialog of the application is laid out by it.
 #include <QList>
 
-class QDialog;
 class QLayout;
 class QPushButton;
-class CDialogTitleBar;
+class CFramelessDialog;
 
-void layOutFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* content,
-                           const QList<QPushButton*>& buttons);
+void layOutFramelessDialog(CFramelessDialog* dialog, QLayout* content, const QList<QPushButton*>& buttons);
 
 // Only the frame: the title bar on top of body, one pixel of the dialog's
 // border showing around both (for dialogs with a body of their own).
-void frameFramelessDialog(QDialog* dialog, CDialogTitleBar* titleBar, QLayout* body);
+void frameFramelessDialog(CFramelessDialog* dialog, QLayout* body);

@@ -12,3 +12,11 @@ int messageBox(const QString& text, QWidget* parent, QMessageBox::StandardButton
     box.setFilePath(path);
     return box.exec();
 }
+
+void showFailure(const FailureHandler& handler, const QString& text, QWidget* parent)
+{
+    if (handler)
+        handler(text);
+    else
+        messageBox(text, parent, QMessageBox::Ok, QMessageBox::Critical);
+}

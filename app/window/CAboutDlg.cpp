@@ -1,13 +1,13 @@
 #include "CAboutDlg.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "CDialogTitleBar.h"
+#include "CLanguageWatcher.h"
 #include "FramelessDialogLayout.h"
+#include "Named.h"
 #include "Vorlen/GenICam/CSystem.h"
 
 #ifndef LUMIDOR_VERSION
@@ -15,17 +15,13 @@
 #endif
 
 CAboutDlg::CAboutDlg(QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+    : CFramelessDialog(parent)
 {
     setObjectName(QStringLiteral("CAboutDlg"));
-    setAttribute(Qt::WA_StyledBackground, true);
-
-    m_titleBar = new CDialogTitleBar(this);
     m_iconLabel = new QLabel(this);
     m_iconLabel->setPixmap(QIcon(QStringLiteral(":/Pic/Lumidor.png")).pixmap(72, 72));
     m_iconLabel->setAlignment(Qt::AlignTop);
-    m_textLabel = new QLabel(this);
-    m_textLabel->setObjectName(QStringLiteral("aboutText"));
+    m_textLabel = named(new QLabel(this), "aboutText");
     m_textLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_textLabel->setMinimumWidth(300);
     m_okButton = new QPushButton(this);
@@ -36,7 +32,8 @@ CAboutDlg::CAboutDlg(QWidget* parent)
     top->setSpacing(16);
     top->addWidget(m_iconLabel);
     top->addWidget(m_textLabel, 1);
-    layOutFramelessDialog(this, m_titleBar, top, {m_okButton});
+    layOutFramelessDialog(this, top, {m_okButton});
+    CLanguageWatcher::install(this, [this]() { retranslate(); });
     retranslate();
 }
 
@@ -57,17 +54,10 @@ QString CAboutDlg::text() const
 
 void CAboutDlg::retranslate()
 {
-    m_titleBar->setTitle(tr("About Lumidor"));
+    setTitle(tr("About Lumidor"));
     m_okButton->setText(tr("OK"));
     m_textLabel->setText(QStringLiteral("<p><b>Lumidor</b> %1</p><p>%2</p><p>%3</p>")
                              .arg(programVersion().toHtmlEscaped(),
                                   tr("Viewer for GigE Vision and USB3 Vision cameras.").toHtmlEscaped(),
                                   tr("Camera layer version: %1").arg(cameraLayerVersion()).toHtmlEscaped()));
-}
-
-void CAboutDlg::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslate();
-    QDialog::changeEvent(event);
 }

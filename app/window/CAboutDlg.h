@@ -1,12 +1,11 @@
 #pragma once
 // About box: program name and version, and the version of the camera layer.
-#include <QDialog>
+#include "CFramelessDialog.h"
 
-class CDialogTitleBar;
 class QLabel;
 class QPushButton;
 
-class CAboutDlg : public QDialog
+class CAboutDlg : public CFramelessDialog
 {
     Q_OBJECT
 public:
@@ -16,13 +15,9 @@ public:
     static QString cameraLayerVersion();
     QString text() const;
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     void retranslate();
 
-    CDialogTitleBar* m_titleBar;
     QLabel* m_iconLabel;
     QLabel* m_textLabel;
     QPushButton* m_okButton;

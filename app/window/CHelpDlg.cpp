@@ -1,6 +1,5 @@
 #include "CHelpDlg.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
@@ -8,8 +7,9 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-#include "CDialogTitleBar.h"
+#include "CLanguageWatcher.h"
 #include "FramelessDialogLayout.h"
+#include "Named.h"
 
 namespace {
 QTableWidget* makeTable(QWidget* parent, const QString& name)
@@ -31,15 +31,12 @@ QTableWidget* makeTable(QWidget* parent, const QString& name)
 } // namespace
 
 CHelpDlg::CHelpDlg(QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+    : CFramelessDialog(parent)
 {
     setObjectName(QStringLiteral("CHelpDlg"));
-    setAttribute(Qt::WA_StyledBackground, true);
     resize(720, 340);
 
-    m_titleBar = new CDialogTitleBar(this);
-    m_tabs = new QTabWidget(this);
-    m_tabs->setObjectName(QStringLiteral("helpTabs"));
+    m_tabs = named(new QTabWidget(this), "helpTabs");
     m_videoTable = makeTable(m_tabs, QStringLiteral("helpVideo"));
     m_deviceTable = makeTable(m_tabs, QStringLiteral("helpDevices"));
     m_featureTable = makeTable(m_tabs, QStringLiteral("helpFeatures"));
@@ -47,8 +44,7 @@ CHelpDlg::CHelpDlg(QWidget* parent)
     m_tabs->addTab(m_deviceTable, QString());
     m_tabs->addTab(m_featureTable, QString());
 
-    m_closeButton = new QPushButton(this);
-    m_closeButton->setObjectName(QStringLiteral("btnHelpClose"));
+    m_closeButton = named(new QPushButton(this), "btnHelpClose");
     m_closeButton->setDefault(true);
     connect(m_closeButton, &QPushButton::clicked, this, &QDialog::accept);
 
@@ -59,7 +55,8 @@ CHelpDlg::CHelpDlg(QWidget* parent)
     body->setContentsMargins(12, 10, 12, 12);
     body->addWidget(m_tabs, 1);
     body->addLayout(buttons);
-    frameFramelessDialog(this, m_titleBar, body);
+    frameFramelessDialog(this, body);
+    CLanguageWatcher::install(this, [this]() { retranslate(); });
     retranslate();
 }
 
@@ -75,7 +72,7 @@ void CHelpDlg::fillTable(QTableWidget* table, const QList<SAction>& rows)
 
 void CHelpDlg::retranslate()
 {
-    m_titleBar->setTitle(tr("Help"));
+    setTitle(tr("Help"));
     m_closeButton->setText(tr("Close"));
     m_tabs->setTabText(0, tr("Video views"));
     m_tabs->setTabText(1, tr("Device list"));
@@ -101,11 +98,4 @@ void CHelpDlg::retranslate()
                {QT_TR_NOOP("Mouse wheel on an editor"), QT_TR_NOOP("Change the value, only while the editor has the focus")},
                {QT_TR_NOOP("Search field"), QT_TR_NOOP("Show only the features whose name contains the text")},
                {QT_TR_NOOP("Hover a feature"), QT_TR_NOOP("Show its description, range and access")}});
-}
-
-void CHelpDlg::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslate();
-    QDialog::changeEvent(event);
 }

@@ -1,23 +1,19 @@
 #pragma once
 // Help: the mouse and keyboard actions of the video views, the device list
 // and the feature panel, one table per area.
-#include <QDialog>
+#include "CFramelessDialog.h"
 
-class CDialogTitleBar;
 class QTabWidget;
 class QTableWidget;
 class QPushButton;
 
-class CHelpDlg : public QDialog
+class CHelpDlg : public CFramelessDialog
 {
     Q_OBJECT
 public:
     explicit CHelpDlg(QWidget* parent = nullptr);
 
     QTabWidget* tabs() const { return m_tabs; }
-
-protected:
-    void changeEvent(QEvent* event) override;
 
 private:
     struct SAction
@@ -28,7 +24,6 @@ private:
     void retranslate();
     void fillTable(QTableWidget* table, const QList<SAction>& rows);
 
-    CDialogTitleBar* m_titleBar;
     QTabWidget* m_tabs;
     QTableWidget* m_videoTable;
     QTableWidget* m_deviceTable;

@@ -1,8 +1,11 @@
 // Lumidor: viewer for GenICam cameras.
 #include <QApplication>
+#include <memory>
 
 #include "CMainWindowPanels.h"
 #include "CSingletonOwner.h"
+#include "Gliv/CRawBufferPool.h"
+#include "Vorlen/GenICam/CSystem.h"
 #include "CTavMessage.h"
 #include "MainWindow.h"
 #include "StartupUtils.h"
@@ -36,12 +39,17 @@ int main(int argc, char* argv[])
     // The process-wide objects, the configuration first; they end in the
     // reverse order after the window and before the application object
     // (see CSingletonOwner.h).
-    CSingletonOwner singletons;
+    auto singletons = std::make_unique<CSingletonOwner>();
 
     MainWindow* window = new MainWindow(commandLine, nullptr);
     new CMainWindowPanels(window);
     window->showMaximized();
     const int result = app.exec();
     delete window;
+    singletons.reset();
+    // Last, still before the application object: the camera library and the
+    // frame buffer pool end for good (they are never made again).
+    Vorlen::GenICam::CSystem::shutdownInstance();
+    Gliv::CRawBufferPool::shutdownInstance();
     return result;
 }

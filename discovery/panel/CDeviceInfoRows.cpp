@@ -20,6 +20,16 @@ QList<InfoRow> identityRows(const CInternalCameraInfo& info)
                             << InfoRow(CDeviceInfoRows::tr("Manufacture"), text(info.getManufactureInfo()))
                             << InfoRow(CDeviceInfoRows::tr("Serial Number"), text(info.getSerialNum()));
 }
+
+// The interface rows of a Camera Link port or a GenTL interface: its
+// description, its vendor and its identifier.
+template <class InfoPtr>
+QList<InfoRow> producerInterfaceRows(const InfoPtr& info, const QString& idLabel, const Vorlen::Infra::CString& id)
+{
+    return QList<InfoRow>() << InfoRow(CDeviceInfoRows::tr("Description"), text(info->getDescription()))
+                            << InfoRow(CDeviceInfoRows::tr("Vendor Name"), text(info->getVendorName()))
+                            << InfoRow(idLabel, text(id));
+}
 } // namespace
 
 QString CDeviceInfoRows::accessPermissionText(int permission)
@@ -108,11 +118,8 @@ bool CDeviceInfoRows::build(const CTavDevicePtr& device, SDeviceInfoRows& rows)
         break;
     }
     case typeCameraLink: {
-        if (TSharedPtrCLInterfaceInfo info = system.getCLInterfaceInfoByCamera(camera)) {
-            iface << InfoRow(tr("Description"), text(info->getDescription()))
-                  << InfoRow(tr("Vendor Name"), text(info->getVendorName()))
-                  << InfoRow(tr("Port ID"), text(info->getPortId()));
-        }
+        if (TSharedPtrCLInterfaceInfo info = system.getCLInterfaceInfoByCamera(camera))
+            iface << producerInterfaceRows(info, tr("Port ID"), info->getPortId());
         dev << identityRows(CInternalCLCameraInfo(camera));
         break;
     }
@@ -121,11 +128,8 @@ bool CDeviceInfoRows::build(const CTavDevicePtr& device, SDeviceInfoRows& rows)
         break;
     }
     case typeGenTL: {
-        if (TSharedPtrGenTLInterfaceInfo info = system.getGenTLInterfaceInfoByCamera(camera)) {
-            iface << InfoRow(tr("Description"), text(info->getDescription()))
-                  << InfoRow(tr("Vendor Name"), text(info->getVendorName()))
-                  << InfoRow(tr("Interface ID"), text(info->getInterfaceID()));
-        }
+        if (TSharedPtrGenTLInterfaceInfo info = system.getGenTLInterfaceInfoByCamera(camera))
+            iface << producerInterfaceRows(info, tr("Interface ID"), info->getInterfaceID());
         CInternalGenTLCameraInfo info(camera);
         int status = -1;
         const bool haveStatus = info.getAccessStatus(status);

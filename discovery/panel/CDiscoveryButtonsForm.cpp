@@ -1,24 +1,27 @@
 #include "CDiscoveryButtonsForm.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QToolButton>
 #include <utility>
 
+#include "CLanguageWatcher.h"
 #include "DeviceListRules.h"
+#include "Named.h"
 
 namespace {
-QToolButton* makeButton(QWidget* parent, const char* name, const char* icon)
+// The buttons, left to right (CDiscoveryButtonsForm::EButton order).
+struct SButton
 {
-    auto* button = new QToolButton(parent);
-    button->setObjectName(QLatin1String(name));
-    button->setIcon(QIcon(QLatin1String(icon)));
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::NoFocus);
-    button->setCursor(Qt::PointingHandCursor);
-    return button;
-}
+    const char* name;
+    const char* icon;
+    const char* toolTip;
+};
+const SButton kButtons[] = {
+    {"btnForceIP", ":/Pic/Icon_DevList_Settings.png", QT_TRANSLATE_NOOP("CDiscoveryButtonsForm", "Force IP")},
+    {"btnConnect", ":/Pic/Icon_DevList_Connect.png", QT_TRANSLATE_NOOP("CDiscoveryButtonsForm", "Connect")},
+    {"btnDisconnect", ":/Pic/Icon_DevList_Disconnect.png", QT_TRANSLATE_NOOP("CDiscoveryButtonsForm", "Disconnect")},
+};
 } // namespace
 
 CDiscoveryButtonsForm::CDiscoveryButtonsForm(QWidget* parent) : QFrame(parent)
@@ -27,46 +30,41 @@ CDiscoveryButtonsForm::CDiscoveryButtonsForm(QWidget* parent) : QFrame(parent)
     // The form covers its whole row (device rows span their first column):
     // mouse moves over it reach the tree, which tracks the row under the mouse.
     setMouseTracking(true);
-    m_btnForceIP = makeButton(this, "btnForceIP", ":/Pic/Icon_DevList_Settings.png");
-    m_btnConnect = makeButton(this, "btnConnect", ":/Pic/Icon_DevList_Connect.png");
-    m_btnDisconnect = makeButton(this, "btnDisconnect", ":/Pic/Icon_DevList_Disconnect.png");
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 2, 0);
     layout->setSpacing(2);
     layout->addStretch(1);
-    layout->addWidget(m_btnForceIP);
-    layout->addWidget(m_btnConnect);
-    layout->addWidget(m_btnDisconnect);
+    for (int i = 0; i < kButtonCount; ++i) {
+        auto* button = named(new QToolButton(this), kButtons[i].name);
+        button->setIcon(QIcon(QLatin1String(kButtons[i].icon)));
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setCursor(Qt::PointingHandCursor);
+        layout->addWidget(button);
+        m_buttons[i] = button;
+    }
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
     retranslateUi();
 }
 
 void CDiscoveryButtonsForm::applyState(const SInlineButtonsState& state)
 {
-    const std::pair<QToolButton*, const SButtonState*> buttons[] = {
-        {m_btnConnect, &state.connect}, {m_btnDisconnect, &state.disconnect}, {m_btnForceIP, &state.forceIp}};
+    const std::pair<EButton, const SButtonState*> buttons[] = {
+        {buttonConnect, &state.connect}, {buttonDisconnect, &state.disconnect}, {buttonForceIp, &state.forceIp}};
     for (const auto& button : buttons) {
-        button.first->setVisible(button.second->visible);
-        button.first->setEnabled(button.second->enabled);
+        m_buttons[button.first]->setVisible(button.second->visible);
+        m_buttons[button.first]->setEnabled(button.second->enabled);
     }
 }
 
 void CDiscoveryButtonsForm::disableAll()
 {
-    m_btnForceIP->setEnabled(false);
-    m_btnConnect->setEnabled(false);
-    m_btnDisconnect->setEnabled(false);
+    for (QToolButton* button : m_buttons)
+        button->setEnabled(false);
 }
 
 void CDiscoveryButtonsForm::retranslateUi()
 {
-    m_btnConnect->setToolTip(tr("Connect"));
-    m_btnDisconnect->setToolTip(tr("Disconnect"));
-    m_btnForceIP->setToolTip(tr("Force IP"));
-}
-
-void CDiscoveryButtonsForm::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QFrame::changeEvent(event);
+    for (int i = 0; i < kButtonCount; ++i)
+        m_buttons[i]->setToolTip(tr(kButtons[i].toolTip));
 }

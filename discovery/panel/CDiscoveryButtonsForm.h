@@ -13,20 +13,24 @@ class CDiscoveryButtonsForm : public QFrame
 public:
     explicit CDiscoveryButtonsForm(QWidget* parent = nullptr);
 
-    QToolButton* getConnectBtn() const { return m_btnConnect; }
-    QToolButton* getDisconnectBtn() const { return m_btnDisconnect; }
-    QToolButton* getForceIPBtn() const { return m_btnForceIP; }
+    QToolButton* getConnectBtn() const { return m_buttons[buttonConnect]; }
+    QToolButton* getDisconnectBtn() const { return m_buttons[buttonDisconnect]; }
+    QToolButton* getForceIPBtn() const { return m_buttons[buttonForceIp]; }
     void applyState(const SInlineButtonsState& state);
     // All three disabled while a connection or disconnection is under way.
     void disableAll();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
+    // The buttons, left to right.
+    enum EButton
+    {
+        buttonForceIp,
+        buttonConnect,
+        buttonDisconnect,
+        kButtonCount
+    };
+
     void retranslateUi();
 
-    QToolButton* m_btnForceIP;
-    QToolButton* m_btnConnect;
-    QToolButton* m_btnDisconnect;
+    QToolButton* m_buttons[kButtonCount] = {};
 };

@@ -17,6 +17,7 @@
 #include "CDeviceInfoSections.h"
 #include "CDeviceManager.h"
 #include "CDiscoveryRootForm.h"
+#include "CLanguageWatcher.h"
 #include "CTavDevice.h"
 #include "DeviceStateReader.h"
 #include "MenuPosition.h"
@@ -37,6 +38,7 @@ CDiscoveryDevicesForm::CDiscoveryDevicesForm(QWidget* parent) : QWidget(parent)
 
     createRootItem(cameraTypeGigE);
     createRootItem(cameraTypeUsb);
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
     retranslateUi();
 
     connect(this, &CDiscoveryDevicesForm::update_receive, this, &CDiscoveryDevicesForm::OnUpdateReceive,
@@ -126,13 +128,6 @@ void CDiscoveryDevicesForm::retranslateUi()
 void CDiscoveryDevicesForm::retranslateMenu()
 {
     m_menus->retranslate();
-}
-
-void CDiscoveryDevicesForm::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QWidget::changeEvent(event);
 }
 
 // ------------------------------------------------------------------ bus

@@ -161,7 +161,6 @@ public slots:
     void retranslateMenu();
 
 protected:
-    void changeEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void enterEvent(QEvent* event) override;
 

@@ -11,13 +11,14 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "Named.h"
+
 namespace {
 const int kButtonsColumnWidth = 76;
 
 QTreeWidget* makeTree(QWidget* parent, const char* name, int indentation)
 {
-    auto* tree = new QTreeWidget(parent);
-    tree->setObjectName(QLatin1String(name));
+    auto* tree = named(new QTreeWidget(parent), name);
     tree->setColumnCount(2);
     tree->setRootIsDecorated(false);
     tree->setIndentation(indentation);
@@ -41,15 +42,11 @@ void CDiscoveryDevicesFormUi::setupUi(QWidget* form)
     form->setMinimumWidth(250);
     contents = new QWidget(form);
 
-    frameDevList = new QFrame(contents);
-    frameDevList->setObjectName(QStringLiteral("frame_DevList"));
-    lblDevList = new QLabel(frameDevList);
-    lblDevList->setObjectName(QStringLiteral("label_DevList"));
-    btnRefresh = new QPushButton(frameDevList);
-    btnRefresh->setObjectName(QStringLiteral("reflesh"));
+    frameDevList = named(new QFrame(contents), "frame_DevList");
+    lblDevList = named(new QLabel(frameDevList), "label_DevList");
+    btnRefresh = named(new QPushButton(frameDevList), "reflesh");
     btnRefresh->setIcon(QIcon(QStringLiteral(":/Pic/Icon_DevList_Refresh.png")));
-    btnCollpaseDevice = new QToolButton(frameDevList);
-    btnCollpaseDevice->setObjectName(QStringLiteral("btnCollpaseDevice"));
+    btnCollpaseDevice = named(new QToolButton(frameDevList), "btnCollpaseDevice");
     btnCollpaseDevice->setIcon(QIcon(QStringLiteral(":/Pic/Icon_Panel_Collapse_Left.png")));
     btnCollpaseDevice->setAutoRaise(true);
     deviceList = makeTree(frameDevList, "deviceList", 23);
@@ -68,10 +65,8 @@ void CDiscoveryDevicesFormUi::setupUi(QWidget* form)
     listLayout->addLayout(listHeader);
     listLayout->addWidget(deviceList, 1);
 
-    frameDevInfo = new QFrame(contents);
-    frameDevInfo->setObjectName(QStringLiteral("frame_DevInfo"));
-    lblDevInfo = new QLabel(frameDevInfo);
-    lblDevInfo->setObjectName(QStringLiteral("label_DevInfo"));
+    frameDevInfo = named(new QFrame(contents), "frame_DevInfo");
+    lblDevInfo = named(new QLabel(frameDevInfo), "label_DevInfo");
     deviceInfo = makeTree(frameDevInfo, "deviceInfo", 25);
     QVBoxLayout* infoLayout = frameLayout(frameDevInfo);
     infoLayout->addWidget(lblDevInfo);
@@ -82,8 +77,7 @@ void CDiscoveryDevicesFormUi::setupUi(QWidget* form)
     contentsLayout->addWidget(frameDevList, 3);
     contentsLayout->addWidget(frameDevInfo, 2);
 
-    btnExpandDevice = new QToolButton(form);
-    btnExpandDevice->setObjectName(QStringLiteral("btnExpandDevice"));
+    btnExpandDevice = named(new QToolButton(form), "btnExpandDevice");
     btnExpandDevice->setIcon(QIcon(QStringLiteral(":/Pic/Icon_Panel_Expand_Left.png")));
     btnExpandDevice->setFixedWidth(kCollapsedWidth);
     btnExpandDevice->setAutoRaise(true);

@@ -6,17 +6,17 @@
 #include <QStyle>
 #include <QVariant>
 
+#include "Named.h"
+
 CDiscoveryRootForm::CDiscoveryRootForm(QWidget* parent) : QFrame(parent)
 {
     setObjectName(QStringLiteral("CDiscoveryRootForm"));
-    m_checkBox = new QCheckBox(this);
-    m_checkBox->setObjectName(QStringLiteral("checkBox_RootItem"));
+    m_checkBox = named(new QCheckBox(this), "checkBox_RootItem");
     // Roots line up whether their check box shows or not.
     QSizePolicy policy = m_checkBox->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_checkBox->setSizePolicy(policy);
-    m_label = new QLabel(this);
-    m_label->setObjectName(QStringLiteral("label_RootItem"));
+    m_label = named(new QLabel(this), "label_RootItem");
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(4, 0, 4, 0);
     layout->setSpacing(4);

@@ -16,13 +16,14 @@
 
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
-#include "CDialogTitleBar.h"
+#include "CLanguageWatcher.h"
 #include "FramelessDialogLayout.h"
 #include "CSetIpThread.h"
 #include "CTavDevice.h"
 #include "CWaitDlg.h"
 #include "Tavlog4cpp/TavLogMacros.h"
 #include "MessageBox.h"
+#include "Named.h"
 #include "Utils.h"
 #include "Vorlen/GenICam.h"
 
@@ -40,8 +41,7 @@ QString fromSdk(const Vorlen::Infra::CString& s)
 
 QLineEdit* makeEdit(QWidget* parent, const char* name, bool readOnly)
 {
-    auto* edit = new QLineEdit(parent);
-    edit->setObjectName(QLatin1String(name));
+    auto* edit = named(new QLineEdit(parent), name);
     edit->setReadOnly(readOnly);
     if (readOnly)
         edit->setFocusPolicy(Qt::ClickFocus);   // the first field the keyboard reaches is the device IP
@@ -50,11 +50,11 @@ QLineEdit* makeEdit(QWidget* parent, const char* name, bool readOnly)
 }
 } // namespace
 
-CSetIPDlg::CSetIPDlg(bool modal, QWidget* parent) : QDialog(parent)
+CSetIPDlg::CSetIPDlg(bool modal, QWidget* parent) : CFramelessDialog(parent)
 {
     setModal(modal);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     buildUi();
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
     retranslateUi();
     restoreConfig();
 
@@ -72,13 +72,10 @@ CSetIPDlg::~CSetIPDlg()
 
 void CSetIPDlg::buildUi()
 {
-    m_titleBar = new CDialogTitleBar(this);
     m_lblInterfaceSection = new QLabel(this);
     m_lblDeviceSection = new QLabel(this);
-    m_lblDeviceStatus = new QLabel(this);
-    m_lblDeviceStatus->setObjectName(QStringLiteral("labelDevStatus"));
-    m_lblHint = new QLabel(this);
-    m_lblHint->setObjectName(QStringLiteral("labelHint"));
+    m_lblDeviceStatus = named(new QLabel(this), "labelDevStatus");
+    m_lblHint = named(new QLabel(this), "labelHint");
     m_lblHint->setWordWrap(true);
     m_lblHint->hide();
     m_lblInterfaceMac = new QLabel(this);
@@ -97,14 +94,11 @@ void CSetIPDlg::buildUi()
     m_txtDevIP = makeEdit(this, "txtDevIP", false);
     m_txtDevSubnetMask = makeEdit(this, "txtDevSubnetMask", false);
     m_txtDevGateway = makeEdit(this, "txtDevGateway", false);
-    m_cbSetPersistentIP = new QCheckBox(this);
-    m_cbSetPersistentIP->setObjectName(QStringLiteral("cbSetPersistentIP"));
-    m_btnOk = new QPushButton(this);
-    m_btnOk->setObjectName(QStringLiteral("btnOk"));
+    m_cbSetPersistentIP = named(new QCheckBox(this), "cbSetPersistentIP");
+    m_btnOk = named(new QPushButton(this), "btnOk");
     m_btnOk->setProperty("highlight", 1);
     m_btnOk->setDefault(true);
-    m_btnCancel = new QPushButton(this);
-    m_btnCancel->setObjectName(QStringLiteral("btnCancel"));
+    m_btnCancel = named(new QPushButton(this), "btnCancel");
     m_lblDeviceStatus->setPixmap(QPixmap(QLatin1String(kNormalIcon)));
     for (QLabel* section : {m_lblInterfaceSection, m_lblDeviceSection}) {
         QFont font = section->font();
@@ -138,25 +132,32 @@ void CSetIPDlg::buildUi()
     grid->addWidget(m_lblHint, row++, 0, 1, 2);
     grid->addWidget(m_cbSetPersistentIP, row++, 0, 1, 2);
 
-    layOutFramelessDialog(this, m_titleBar, grid, {m_btnOk, m_btnCancel});
+    layOutFramelessDialog(this, grid, {m_btnOk, m_btnCancel});
     setMinimumWidth(380);
 
     connect(m_btnOk, &QPushButton::clicked, this, &CSetIPDlg::on_btnOk_clicked);
     connect(m_btnCancel, &QPushButton::clicked, this, &CSetIPDlg::on_btnCancel_clicked);
-    connect(m_txtDevIP, &QLineEdit::textEdited, this, &CSetIPDlg::on_txtDevIP_textEdited);
-    connect(m_txtDevSubnetMask, &QLineEdit::textEdited, this, &CSetIPDlg::on_txtDevSubnetMask_textEdited);
-    connect(m_txtDevGateway, &QLineEdit::textEdited, this, &CSetIPDlg::on_txtDevGateway_textEdited);
-    connect(m_txtDevIP, &QLineEdit::cursorPositionChanged, this, &CSetIPDlg::on_txtDevIP_cursorPositionChanged);
-    connect(m_txtDevSubnetMask, &QLineEdit::cursorPositionChanged, this,
-            &CSetIPDlg::on_txtDevSubnetMask_cursorPositionChanged);
-    connect(m_txtDevGateway, &QLineEdit::cursorPositionChanged, this,
-            &CSetIPDlg::on_txtDevGateway_cursorPositionChanged);
+    // The editable fields and their edit and cursor handlers.
+    const struct
+    {
+        QLineEdit* edit;
+        void (CSetIPDlg::*edited)(const QString&);
+        void (CSetIPDlg::*cursorMoved)(int, int);
+    } fields[] = {
+        {m_txtDevIP, &CSetIPDlg::on_txtDevIP_textEdited, &CSetIPDlg::on_txtDevIP_cursorPositionChanged},
+        {m_txtDevSubnetMask, &CSetIPDlg::on_txtDevSubnetMask_textEdited,
+         &CSetIPDlg::on_txtDevSubnetMask_cursorPositionChanged},
+        {m_txtDevGateway, &CSetIPDlg::on_txtDevGateway_textEdited, &CSetIPDlg::on_txtDevGateway_cursorPositionChanged},
+    };
+    for (const auto& field : fields) {
+        connect(field.edit, &QLineEdit::textEdited, this, field.edited);
+        connect(field.edit, &QLineEdit::cursorPositionChanged, this, field.cursorMoved);
+    }
 }
 
 void CSetIPDlg::retranslateUi()
 {
-    m_titleBar->setTitle(tr("Set IP Address"));
-    setWindowTitle(tr("Set IP Address"));
+    setTitle(tr("Set IP Address"));
     m_lblInterfaceSection->setText(tr("Interface Info"));
     m_lblDeviceSection->setText(tr("Device Info"));
     m_lblInterfaceMac->setText(tr("MAC Address"));
@@ -172,13 +173,6 @@ void CSetIPDlg::retranslateUi()
     m_btnCancel->setText(tr("Cancel"));
     if (!m_lblHint->isHidden())
         m_lblHint->setText(tr("Not a valid number. Please enter a number between 0 and 255!"));
-}
-
-void CSetIPDlg::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QDialog::changeEvent(event);
 }
 
 bool CSetIPDlg::setInfo(const TSharedPtrGigEInterfaceInfo& info, const Vorlen::Infra::CString& key)

@@ -4,9 +4,9 @@
 // gateway, forces them as the camera's temporary address and, when asked,
 // writes them as its persistent address on CSetIpThread. Every camera round
 // trip runs off the GUI thread; a wait dialog shows while it does.
-#include <QDialog>
 #include <QEvent>
 
+#include "CFramelessDialog.h"
 #include "Vorlen/GenICam/CInterfaceInfo.h"
 #include "Vorlen/Infra/CString.h"
 
@@ -14,11 +14,10 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class CDialogTitleBar;
 class CSetIpThread;
 class CWaitDlg;
 
-class CSetIPDlg : public QDialog
+class CSetIPDlg : public CFramelessDialog
 {
     Q_OBJECT
 public:
@@ -87,7 +86,6 @@ public slots:
 
 protected:
     bool event(QEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void retranslateUi();
@@ -107,7 +105,6 @@ private:
     bool m_bSubnetWarning = false;
     int m_nPostedMessages = 0;
 
-    CDialogTitleBar* m_titleBar;
     QLabel* m_lblInterfaceSection;
     QLabel* m_lblDeviceSection;
     QLabel* m_lblDeviceStatus;

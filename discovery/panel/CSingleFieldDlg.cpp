@@ -1,48 +1,42 @@
 #include "CSingleFieldDlg.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
-#include "CDialogTitleBar.h"
+#include "CLanguageWatcher.h"
 #include "FramelessDialogLayout.h"
 #include "MessageBox.h"
+#include "Named.h"
 
-CSingleFieldDlg::CSingleFieldDlg(QWidget* parent) : QDialog(parent)
+CSingleFieldDlg::CSingleFieldDlg(QWidget* parent) : CFramelessDialog(parent)
 {
-    m_titleBar = new CDialogTitleBar(this);
     m_label = new QLabel(this);
-    m_lineEdit = new QLineEdit(this);
-    m_lineEdit->setObjectName(QStringLiteral("lineEdit"));
-    m_btnOk = new QPushButton(this);
-    m_btnOk->setObjectName(QStringLiteral("btnOk"));
-    m_btnCancel = new QPushButton(this);
-    m_btnCancel->setObjectName(QStringLiteral("btnCancel"));
+    m_lineEdit = named(new QLineEdit(this), "lineEdit");
+    m_btnOk = named(new QPushButton(this), "btnOk");
+    m_btnCancel = named(new QPushButton(this), "btnCancel");
 
     auto* field = new QHBoxLayout;
     field->addWidget(m_label);
     field->addWidget(m_lineEdit, 1);
-    layOutFramelessDialog(this, m_titleBar, field, {m_btnOk, m_btnCancel});
+    layOutFramelessDialog(this, field, {m_btnOk, m_btnCancel});
     setMinimumWidth(360);
 
     connect(m_btnOk, &QPushButton::clicked, this, &CSingleFieldDlg::on_btnOk_clicked);
     connect(m_btnCancel, &QPushButton::clicked, this, &CSingleFieldDlg::on_btnCancel_clicked);
     m_btnOk->setDefault(true);
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
 }
 
 void CSingleFieldDlg::initFrame()
 {
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     m_btnOk->setProperty("highlight", 1);
 }
 
 void CSingleFieldDlg::setTexts(const QString& title, const QString& label)
 {
-    m_titleBar->setTitle(title);
-    setWindowTitle(title);
+    setTitle(title);
     m_label->setText(label);
     m_btnOk->setText(tr("OK"));
     m_btnCancel->setText(tr("Cancel"));
@@ -51,11 +45,6 @@ void CSingleFieldDlg::setTexts(const QString& title, const QString& label)
 QString CSingleFieldDlg::getEditValue() const
 {
     return m_lineEdit->text();
-}
-
-QString CSingleFieldDlg::titleText() const
-{
-    return m_titleBar->title();
 }
 
 QString CSingleFieldDlg::labelText() const
@@ -80,11 +69,4 @@ void CSingleFieldDlg::on_btnOk_clicked()
 void CSingleFieldDlg::on_btnCancel_clicked()
 {
     reject();
-}
-
-void CSingleFieldDlg::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QDialog::changeEvent(event);
 }

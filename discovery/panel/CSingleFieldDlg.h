@@ -2,14 +2,13 @@
 // Frame shared by the small one-field dialogs: the application's title bar
 // (close button only), a label with one line edit, and OK / Cancel. OK runs
 // the subclass' check (validate) and accepts only when it passes.
-#include <QDialog>
+#include "CFramelessDialog.h"
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class CDialogTitleBar;
 
-class CSingleFieldDlg : public QDialog
+class CSingleFieldDlg : public CFramelessDialog
 {
     Q_OBJECT
 public:
@@ -19,7 +18,7 @@ public:
     QLineEdit* lineEdit() const { return m_lineEdit; }
     QPushButton* okButton() const { return m_btnOk; }
     QPushButton* cancelButton() const { return m_btnCancel; }
-    QString titleText() const;
+    QString titleText() const { return title(); }
     QString labelText() const;
 
 public slots:
@@ -27,19 +26,18 @@ public slots:
     void on_btnCancel_clicked();
 
 protected:
-    // Window flags, the highlighted OK button and the texts.
+    // The highlighted OK button.
     void initFrame();
     void setTexts(const QString& title, const QString& label);
     // Shows its own message and returns false to keep the dialog open.
     virtual bool validate() = 0;
+    // Called on every language change, too.
     virtual void retranslateUi() = 0;
     // When the text is longer in the local 8-bit encoding than the edit
     // allows, shows the message with %1 the edit's maximum length; true then.
     bool refuseTooLong(const QString& message);
-    void changeEvent(QEvent* event) override;
 
 private:
-    CDialogTitleBar* m_titleBar;
     QLabel* m_label;
     QLineEdit* m_lineEdit;
     QPushButton* m_btnOk;

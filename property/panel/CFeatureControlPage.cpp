@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,10 +15,11 @@
 #include "CDeviceManager.h"
 #include "CDoubleSpinBox.h"
 #include "CFeatureTreeBuilder.h"
+#include "CLanguageWatcher.h"
+#include "Named.h"
 #include "CSlider.h"
 #include "CSpinBox.h"
 #include "CTavDevice.h"
-#include "MessageBox.h"
 #include "Utils.h"
 
 namespace {
@@ -74,6 +74,7 @@ CFeatureControlPage::CFeatureControlPage(CTavDevicePtr device, const char* conte
     connect(this, &CFeatureControlPage::update_receive, this, &CFeatureControlPage::OnUpdateReceive,
             Qt::QueuedConnection);
     CDeviceManager::getInstance()->attach(this);
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
     refresh();
 }
 
@@ -93,8 +94,7 @@ void CFeatureControlPage::Update(CTavMessagePtr msg)
 
 void CFeatureControlPage::addSection(const char* title)
 {
-    auto* label = new QLabel(this);
-    label->setObjectName(QStringLiteral("sectionTitle"));
+    auto* label = named(new QLabel(this), "sectionTitle");
     QFont f = label->font();
     f.setBold(true);
     label->setFont(f);
@@ -342,14 +342,6 @@ void CFeatureControlPage::writeValue(const QString& name, const QVariant& value)
     m_worker->requestWrite(name, v);
 }
 
-void CFeatureControlPage::showMessage(const QString& text)
-{
-    if (m_messageHandler)
-        m_messageHandler(text);
-    else
-        messageBox(text, this, QMessageBox::Ok, QMessageBox::Critical);
-}
-
 void CFeatureControlPage::onStateRead(SFeatureState s)
 {
     if (SRow* row = findRow(s.name))
@@ -423,13 +415,6 @@ void CFeatureControlPage::retranslateUi()
         row->row->setToolTip(row->state.available || !row->state.valid ? QString() : tr("Not available now"));
     }
     retranslateExtra();
-}
-
-void CFeatureControlPage::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QWidget::changeEvent(event);
 }
 
 void CFeatureControlPage::showEvent(QShowEvent* event)

@@ -11,11 +11,11 @@
 #include <QHash>
 #include <QList>
 #include <QWidget>
-#include <functional>
 
 #include "CFeatureControlWorker.h"
 #include "CObserver.h"
 #include "CTavMessage.h"
+#include "MessageBox.h"
 
 class QCheckBox;
 class QComboBox;
@@ -31,9 +31,6 @@ class CFeatureControlPage : public QWidget, public CObserver
 {
     Q_OBJECT
 public:
-    // Shows a failure to the user; the default is the application's message box.
-    using MessageHandler = std::function<void(const QString& text)>;
-
     ~CFeatureControlPage() override;
 
     CTavDevicePtr device() const { return m_device; }
@@ -43,7 +40,8 @@ public:
     void refresh();
     void retranslateUi();
 
-    void setMessageHandler(const MessageHandler& handler) { m_messageHandler = handler; }
+    // Shows a failure to the user; the default is the application's message box.
+    void setMessageHandler(const FailureHandler& handler) { m_messageHandler = handler; }
     CFeatureControlWorker* worker() const { return m_worker; }
     QStringList featureNames() const;
 
@@ -98,8 +96,7 @@ protected:
     virtual bool mayWrite(const QString& name, QString& refusal);
     virtual void onDeviceMessage(const CTavMessagePtr& msg);
     virtual void retranslateExtra() {}
-    void showMessage(const QString& text);
-    void changeEvent(QEvent* event) override;
+    void showMessage(const QString& text) { showFailure(m_messageHandler, text, this); }
     void showEvent(QShowEvent* event) override;
 
     CTavDevicePtr m_device;
@@ -153,5 +150,5 @@ private:
     QList<SSection> m_sections;
     QGridLayout* m_grid = nullptr;
     QVBoxLayout* m_bottom = nullptr;
-    MessageHandler m_messageHandler;
+    FailureHandler m_messageHandler;
 };

@@ -27,8 +27,7 @@ public:
     // Deletes rows, managers and factories: the browser that shows them
     // must be gone first.
     ~CFeatureTreeModel();
-    CFeatureTreeModel(const CFeatureTreeModel&) = delete;
-    CFeatureTreeModel& operator=(const CFeatureTreeModel&) = delete;
+    Q_DISABLE_COPY(CFeatureTreeModel)
 
     const CFeatureTreeBuilder::SManagers& managers() const { return m_managers; }
     QtPushButtonFactory* commandFactory() const { return m_commandFactory; }

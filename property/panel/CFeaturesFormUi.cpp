@@ -9,6 +9,7 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 
+#include "Named.h"
 #include "qttreepropertybrowser.h"
 
 void CFeaturesFormUi::setupUi(QWidget* form)
@@ -21,22 +22,19 @@ void CFeaturesFormUi::setupUi(QWidget* form)
     // Level and search on one row, the page's buttons on the next, so the
     // panel stays narrow enough to leave the video area its room.
     auto* bar = new QHBoxLayout();
-    cbVisibility = new QComboBox(form);
-    cbVisibility->setObjectName("cbVisibility");
+    cbVisibility = named(new QComboBox(form), "cbVisibility");
     cbVisibility->addItems({QString(), QString(), QString()});
-    lineEditKey = new QLineEdit(form);
-    lineEditKey->setObjectName("lineEditKey");
+    lineEditKey = named(new QLineEdit(form), "lineEditKey");
     lineEditKey->setClearButtonEnabled(true);
     bar->addWidget(cbVisibility);
     bar->addWidget(lineEditKey, 1);
     layout->addLayout(bar);
     auto* buttons = new QHBoxLayout();
-    const QList<QPair<QPushButton**, const char*>> named = {
+    const QList<QPair<QPushButton**, const char*>> pageButtons = {
         {&btnExpand, "btnExpand"}, {&btnReset, "btnReset"}, {&btnSave, "btnSave"}, {&btnTranslate, "btnTranslate"}};
-    for (const auto& button : named)
+    for (const auto& button : pageButtons)
     {
-        *button.first = new QPushButton(form);
-        (*button.first)->setObjectName(button.second);
+        *button.first = named(new QPushButton(form), button.second);
         buttons->addWidget(*button.first);
     }
     btnTranslate->setCheckable(true);
@@ -44,11 +42,9 @@ void CFeaturesFormUi::setupUi(QWidget* form)
     layout->addLayout(buttons);
 
     auto* splitter = new QSplitter(Qt::Vertical, form);
-    browser = new QtTreePropertyBrowser(splitter);
-    browser->setObjectName("propertyBrowser");
+    browser = named(new QtTreePropertyBrowser(splitter), "propertyBrowser");
     browser->setHeaderVisible(false);
-    textDesc = new QTextEdit(splitter);
-    textDesc->setObjectName("textEditDesc");
+    textDesc = named(new QTextEdit(splitter), "textEditDesc");
     textDesc->setReadOnly(true);
     splitter->addWidget(browser);
     splitter->addWidget(textDesc);

@@ -1,7 +1,6 @@
 #include "CPropertyFeaturesForm.h"
 
 #include <QComboBox>
-#include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextEdit>
@@ -10,6 +9,7 @@
 #include "CConfiguration.h"
 #include "CDeviceResetThread.h"
 #include "CFeatureTreeModel.h"
+#include "CLanguageWatcher.h"
 #include "CTavDevice.h"
 #include "CUpdateParamThread.h"
 #include "CWaitDlg.h"
@@ -33,6 +33,7 @@ CPropertyFeaturesForm::CPropertyFeaturesForm(CTavDevicePtr device, QWidget* pare
         return messageBox(text, this, buttons, icon);
     };
     init();
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
 }
 
 CPropertyFeaturesForm::~CPropertyFeaturesForm()
@@ -517,11 +518,4 @@ void CPropertyFeaturesForm::retranslateUi()
 void CPropertyFeaturesForm::retranslateWidgets()
 {
     m_ui.retranslateUi(m_navigator->isExpanded());
-}
-
-void CPropertyFeaturesForm::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QWidget::changeEvent(event);
 }

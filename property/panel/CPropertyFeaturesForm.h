@@ -165,9 +165,6 @@ public slots:
     void on_btnSave_clicked() { emit signalSaveFeatures(m_device); }
     void on_btnTranslate_clicked();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     void init();
     void retranslateWidgets();

@@ -10,12 +10,14 @@
 
 #include "CBusyIndicator.h"
 #include "CDeviceManager.h"
+#include "CLanguageWatcher.h"
 #include "CParamFileController.h"
 #include "CPropertyFeaturesForm.h"
 #include "CPropertyGPIOForm.h"
 #include "CPropertyImageFormatForm.h"
 #include "CViewSignalHub.h"
 #include "CPropertySettingsForm.h"
+#include "Named.h"
 #include "CSaveFeaturesDlg.h"
 #include "CTavDevice.h"
 #include "ParamTransTables.h"
@@ -57,8 +59,7 @@ CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
     for (int i = 0; i < kButtonCount; ++i)
     {
         const bool tab = i < kTabCount;
-        auto* b = new QToolButton(this);
-        b->setObjectName(QLatin1String(kButtons[i].name));
+        auto* b = named(new QToolButton(this), kButtons[i].name);
         b->setIcon(QIcon(QLatin1String(kButtons[i].icon)));
         b->setIconSize(QSize(20, 20));
         b->setCheckable(tab);
@@ -72,10 +73,8 @@ CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
         m_buttons[i] = b;
     }
 
-    m_stack = new QStackedWidget(this);
-    m_stack->setObjectName(QStringLiteral("stackedWidget"));
-    m_emptyPage = new QWidget(m_stack);
-    m_emptyPage->setObjectName(QStringLiteral("emptyPage"));
+    m_stack = named(new QStackedWidget(this), "stackedWidget");
+    m_emptyPage = named(new QWidget(m_stack), "emptyPage");
     m_emptyLabel = new QLabel(m_emptyPage);
     m_emptyLabel->setAlignment(Qt::AlignCenter);
     m_emptyLabel->setWordWrap(true);
@@ -90,8 +89,7 @@ CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
     layout->addWidget(m_stack, 1);
 
     // Laid over the stack, outside the layout.
-    m_waiting = new CBusyIndicator(this);
-    m_waiting->setObjectName(QStringLiteral("waitingGif"));
+    m_waiting = named(new CBusyIndicator(this), "waitingGif");
     m_waiting->hide();
 
     m_paramFiles = new CParamFileController(this, this);
@@ -99,6 +97,13 @@ CPropertyForm::CPropertyForm(QWidget* parent) : QWidget(parent)
     connect(this, &CPropertyForm::update_receive, this, &CPropertyForm::OnUpdateReceive, Qt::QueuedConnection);
     CDeviceManager::getInstance()->attach(this);
     initParamTransMap();
+    // The pages below hear of a language change after this panel, so the
+    // tables are refilled before they re-label their rows.
+    CLanguageWatcher::install(this, [this]() {
+        clearParamTransMap();
+        initParamTransMap();
+        retranslateUi();
+    });
     retranslateUi();
     setTab(tabFeatures);
 }
@@ -137,19 +142,6 @@ void CPropertyForm::retranslateUi()
             m_buttons[i]->setToolTip(tr(kButtons[i].text));
     }
     m_emptyLabel->setText(tr("Connect a camera to see its features."));
-}
-
-void CPropertyForm::changeEvent(QEvent* event)
-{
-    // The pages below receive the event after this panel, so the tables are
-    // refilled before they re-label their rows.
-    if (event->type() == QEvent::LanguageChange)
-    {
-        clearParamTransMap();
-        initParamTransMap();
-        retranslateUi();
-    }
-    QWidget::changeEvent(event);
 }
 
 void CPropertyForm::onLanChanged(int language)

@@ -94,7 +94,6 @@ public slots:
 protected:
     void enterEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void setTab(int tab);

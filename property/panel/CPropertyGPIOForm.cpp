@@ -1,9 +1,11 @@
 #include "CPropertyGPIOForm.h"
 
-#include <QEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
+
+#include "CLanguageWatcher.h"
+#include "Named.h"
 
 CPropertyGPIOForm::CPropertyGPIOForm(QWidget* parent) : QWidget(parent)
 {
@@ -18,23 +20,16 @@ CPropertyGPIOForm::CPropertyGPIOForm(QWidget* parent) : QWidget(parent)
     scroll->setWidgetResizable(true);
     auto* content = new QWidget(scroll);
     auto* contentLayout = new QVBoxLayout(content);
-    m_btnCommon = new QPushButton(content);
-    m_btnCommon->setObjectName("btnCommonAttributes");
+    m_btnCommon = named(new QPushButton(content), "btnCommonAttributes");
     contentLayout->addWidget(m_btnCommon);
     contentLayout->addStretch(1);
     scroll->setWidget(content);
     layout->addWidget(scroll);
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
     retranslateUi();
 }
 
 void CPropertyGPIOForm::retranslateUi()
 {
     m_btnCommon->setText(tr("Common Attributes"));
-}
-
-void CPropertyGPIOForm::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QWidget::changeEvent(event);
 }

@@ -11,9 +11,6 @@ public:
     explicit CPropertyGPIOForm(QWidget* parent = nullptr);
     void retranslateUi();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     QPushButton* m_btnCommon;
 };

@@ -7,6 +7,7 @@
 
 #include "CTavDevice.h"
 #include "CViewSignalHub.h"
+#include "Named.h"
 
 namespace {
 qint64 snapDown(qint64 value, qint64 minimum, qint64 increment)
@@ -33,11 +34,9 @@ CPropertyImageFormatForm::CPropertyImageFormatForm(CTavDevicePtr device, QWidget
       m_viewSignals(viewSignals)
 {
     auto* buttons = new QHBoxLayout();
-    m_btnDraw = new QPushButton(this);
-    m_btnDraw->setObjectName(QStringLiteral("btnDrawROI"));
+    m_btnDraw = named(new QPushButton(this), "btnDrawROI");
     m_btnDraw->setCheckable(true);
-    m_btnFull = new QPushButton(this);
-    m_btnFull->setObjectName(QStringLiteral("btnFullFrame"));
+    m_btnFull = named(new QPushButton(this), "btnFullFrame");
     buttons->addWidget(m_btnDraw);
     buttons->addWidget(m_btnFull);
     buttons->addStretch(1);

@@ -1,7 +1,6 @@
 #include "CSaveFeaturesDlg.h"
 
 #include <QComboBox>
-#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -10,11 +9,11 @@
 
 #include "CConfiguration.h"
 #include "CDeviceManager.h"
-#include "CDialogTitleBar.h"
+#include "CLanguageWatcher.h"
 #include "FramelessDialogLayout.h"
 #include "CTavDevice.h"
+#include "Named.h"
 #include "Tavlog4cpp/TavLogMacros.h"
-#include "MessageBox.h"
 #include "Utils.h"
 
 namespace {
@@ -32,20 +31,12 @@ const struct
              {kLoad, QT_TRANSLATE_NOOP("CSaveFeaturesDlg", "User Set Load")},
              {kSave, QT_TRANSLATE_NOOP("CSaveFeaturesDlg", "User Set Save")},
              {kDefault, QT_TRANSLATE_NOOP("CSaveFeaturesDlg", "User Set Default")}};
-
-template <class Widget>
-Widget* named(Widget* widget, const char* name)
-{
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
 }
 
 CSaveFeaturesDlg::CSaveFeaturesDlg(CTavDevicePtr device, QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_device(device)
+    : CFramelessDialog(parent), m_device(device)
 {
     setObjectName(QStringLiteral("CSaveFeaturesDlg"));
-    setAttribute(Qt::WA_StyledBackground, true);
     m_worker = new CFeatureControlWorker(device, this);
     m_worker->deliverTo(this, &CSaveFeaturesDlg::onStateRead, &CSaveFeaturesDlg::onWriteDone,
                         &CSaveFeaturesDlg::onExecuteDone);
@@ -65,7 +56,6 @@ CSaveFeaturesDlg::~CSaveFeaturesDlg()
 
 void CSaveFeaturesDlg::initUI()
 {
-    m_titleBar = new CDialogTitleBar(this);
     m_cbUserSetSelector = named(new QComboBox(this), "cbUserSetSelector");
     m_btnUserSetLoad = named(new QPushButton(this), "btnUserSetLoad");
     m_btnUserSetSave = named(new QPushButton(this), "btnUserSetSave");
@@ -88,7 +78,7 @@ void CSaveFeaturesDlg::initUI()
         // Nothing to do until the camera has answered.
         controls[row]->setEnabled(false);
     }
-    layOutFramelessDialog(this, m_titleBar, grid, {m_btnClose});
+    layOutFramelessDialog(this, grid, {m_btnClose});
 
     // User choices only (activated); the controls are filled with signals blocked.
     connect(m_cbUserSetSelector, QOverload<int>::of(&QComboBox::activated), this,
@@ -98,13 +88,13 @@ void CSaveFeaturesDlg::initUI()
     connect(m_btnUserSetLoad, &QPushButton::clicked, this, &CSaveFeaturesDlg::on_btnUserSetLoad_clicked);
     connect(m_btnUserSetSave, &QPushButton::clicked, this, &CSaveFeaturesDlg::on_btnUserSetSave_clicked);
     connect(m_btnClose, &QPushButton::clicked, this, &QDialog::accept);
+    CLanguageWatcher::install(this, [this]() { retranslateUi(); });
     retranslateUi();
 }
 
 void CSaveFeaturesDlg::retranslateUi()
 {
-    setWindowTitle(tr("Save Features"));
-    m_titleBar->setTitle(tr("Save Features"));
+    setTitle(tr("Save Features"));
     for (const auto& row : kRows)
         m_labels.value(row.feature)->setText(tr(row.label));
     m_btnUserSetLoad->setText(tr("Execute"));
@@ -114,13 +104,6 @@ void CSaveFeaturesDlg::retranslateUi()
         showCombo(m_cbUserSetSelector, m_selectorState);
     if (m_defaultState.valid)
         showCombo(m_cbUserSetDefault, m_defaultState);
-}
-
-void CSaveFeaturesDlg::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QDialog::changeEvent(event);
 }
 
 QString CSaveFeaturesDlg::transParam(const QString& entry)
@@ -244,10 +227,10 @@ void CSaveFeaturesDlg::onWriteDone(QString name, bool ok, QString, SFeatureState
     {
         // The value asked for, not the camera's value the combo shows again.
         const QString value = name == kSelector ? m_requestedSelector : m_requestedDefault;
-        if (name == kSelector)
-            showMessage(tr("set UserSetSelector property value %1 fail, please check value.").arg(value));
-        else
-            showMessage(tr("set UserSetDefault property value %1 fail, please check value.").arg(value));
+        const QString text = name == kSelector
+                                 ? tr("set UserSetSelector property value %1 fail, please check value.")
+                                 : tr("set UserSetDefault property value %1 fail, please check value.");
+        showFailure(m_messageHandler, text.arg(value), this);
     }
     // The selector decides whether the commands are available.
     readAll();
@@ -257,7 +240,8 @@ void CSaveFeaturesDlg::onWriteDone(QString name, bool ok, QString, SFeatureState
 void CSaveFeaturesDlg::onExecuteDone(QString name, bool ok, QString)
 {
     if (!ok)
-        showMessage(name == kLoad ? tr("execute UserSetLoad fail.") : tr("execute UserSetSave fail."));
+        showFailure(m_messageHandler, name == kLoad ? tr("execute UserSetLoad fail.") : tr("execute UserSetSave fail."),
+                    this);
     readAll();
     emit actionFinished(name, ok);
 }
@@ -286,12 +270,4 @@ void CSaveFeaturesDlg::OnUpdateReceive(CTavMessagePtr msg)
         // Nothing to manage without the camera.
         reject();
     }
-}
-
-void CSaveFeaturesDlg::showMessage(const QString& text)
-{
-    if (m_messageHandler)
-        m_messageHandler(text);
-    else
-        messageBox(text, this, QMessageBox::Ok, QMessageBox::Critical);
 }

@@ -4,25 +4,22 @@
 // current settings into it (UserSetSave) and picks the set loaded at power-up
 // (UserSetDefault). The camera is read and written on the dialog's worker;
 // the controls follow parameter updates of the device from the bus.
-#include <QDialog>
 #include <QMap>
-#include <functional>
 
 #include "CFeatureControlWorker.h"
+#include "CFramelessDialog.h"
 #include "CObserver.h"
 #include "CTavMessage.h"
+#include "MessageBox.h"
 
 class QComboBox;
 class QLabel;
 class QPushButton;
-class CDialogTitleBar;
 
-class CSaveFeaturesDlg : public QDialog, public CObserver
+class CSaveFeaturesDlg : public CFramelessDialog, public CObserver
 {
     Q_OBJECT
 public:
-    using MessageHandler = std::function<void(const QString& text)>;
-
     CSaveFeaturesDlg(CTavDevicePtr device, QWidget* parent = nullptr);
     ~CSaveFeaturesDlg() override;
 
@@ -35,7 +32,7 @@ public:
     static QString transParam(const QString& entry);
     static QString retransParam(const QString& text);
 
-    void setMessageHandler(const MessageHandler& handler) { m_messageHandler = handler; }
+    void setMessageHandler(const FailureHandler& handler) { m_messageHandler = handler; }
     CFeatureControlWorker* worker() const { return m_worker; }
     QComboBox* selectorCombo() const { return m_cbUserSetSelector; }
     QComboBox* defaultCombo() const { return m_cbUserSetDefault; }
@@ -55,9 +52,6 @@ public slots:
     void on_btnUserSetLoad_clicked();
     void on_btnUserSetSave_clicked();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private slots:
     void OnUpdateReceive(CTavMessagePtr msg);
     void onStateRead(SFeatureState state);
@@ -69,12 +63,10 @@ private:
     void showCombo(QComboBox* combo, const SFeatureState& state);
     void showButton(QPushButton* button, const SFeatureState& state);
     bool shownAtLevel(const SFeatureState& state) const;
-    void showMessage(const QString& text);
     void readAll();
 
     CTavDevicePtr m_device;
     CFeatureControlWorker* m_worker = nullptr;
-    CDialogTitleBar* m_titleBar = nullptr;
     QMap<QString, QLabel*> m_labels;   // by feature name
     QComboBox* m_cbUserSetSelector = nullptr;
     QComboBox* m_cbUserSetDefault = nullptr;
@@ -83,5 +75,5 @@ private:
     QPushButton* m_btnClose = nullptr;
     SFeatureState m_selectorState, m_defaultState;
     QString m_requestedSelector, m_requestedDefault;
-    MessageHandler m_messageHandler;
+    FailureHandler m_messageHandler;
 };

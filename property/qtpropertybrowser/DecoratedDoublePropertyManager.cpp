@@ -2,62 +2,26 @@
 
 DecoratedDoublePropertyManager::DecoratedDoublePropertyManager(QObject* parent) : QtDoublePropertyManager(parent) {}
 
-DecoratedDoublePropertyManager::~DecoratedDoublePropertyManager()
-{
-    clear();
-}
-
-QString DecoratedDoublePropertyManager::prefix(const QtProperty* property) const
-{
-    return m_values.value(property).prefix;
-}
-
-QString DecoratedDoublePropertyManager::suffix(const QtProperty* property) const
-{
-    return m_values.value(property).suffix;
-}
-
 void DecoratedDoublePropertyManager::setPrefix(QtProperty* property, const QString& prefix)
 {
-    if (changeText(property, &Data::prefix, prefix))
-        emit prefixChanged(property, prefix);
+    if (!changeField(property, &QtDoubleRecord::prefix, prefix))
+        return;
+    emit propertyChanged(property);
+    emit prefixChanged(property, prefix);
 }
 
 void DecoratedDoublePropertyManager::setSuffix(QtProperty* property, const QString& suffix)
 {
-    if (changeText(property, &Data::suffix, suffix))
-        emit suffixChanged(property, suffix);
-}
-
-bool DecoratedDoublePropertyManager::changeText(QtProperty* property, QString Data::*text, const QString& value)
-{
-    auto it = m_values.find(property);
-    if (it == m_values.end() || (*it).*text == value)
-        return false;
-    (*it).*text = value;
+    if (!changeField(property, &QtDoubleRecord::suffix, suffix))
+        return;
     emit propertyChanged(property);
-    return true;
+    emit suffixChanged(property, suffix);
 }
 
 QString DecoratedDoublePropertyManager::valueText(const QtProperty* property) const
 {
-    auto it = m_values.constFind(property);
-    const QString text = QtDoublePropertyManager::valueText(property);
-    if (it == m_values.constEnd())
-        return text;
-    return it->prefix + text + it->suffix;
-}
-
-void DecoratedDoublePropertyManager::initializeProperty(QtProperty* property)
-{
-    m_values.insert(property, Data());
-    QtDoublePropertyManager::initializeProperty(property);
-}
-
-void DecoratedDoublePropertyManager::uninitializeProperty(QtProperty* property)
-{
-    m_values.remove(property);
-    QtDoublePropertyManager::uninitializeProperty(property);
+    const QtDoubleRecord* r = recordOf(property);
+    return r ? r->prefix + QtDoublePropertyManager::valueText(property) + r->suffix : QString();
 }
 
 // ------------------------------------------------ DecoratedDoubleSpinBoxFactory

@@ -8,10 +8,9 @@ class DecoratedDoublePropertyManager : public QtDoublePropertyManager
     Q_OBJECT
 public:
     explicit DecoratedDoublePropertyManager(QObject* parent = nullptr);
-    ~DecoratedDoublePropertyManager() override;
 
-    QString prefix(const QtProperty* property) const;
-    QString suffix(const QtProperty* property) const;
+    QString prefix(const QtProperty* property) const { return record(property).prefix; }
+    QString suffix(const QtProperty* property) const { return record(property).suffix; }
 
 public slots:
     void setPrefix(QtProperty* property, const QString& prefix);
@@ -23,18 +22,6 @@ signals:
 
 protected:
     QString valueText(const QtProperty* property) const override;
-    void initializeProperty(QtProperty* property) override;
-    void uninitializeProperty(QtProperty* property) override;
-
-private:
-    struct Data
-    {
-        QString prefix;
-        QString suffix;
-    };
-    // Sets one of the texts; true when it changed (the row is told).
-    bool changeText(QtProperty* property, QString Data::*text, const QString& value);
-    QHash<const QtProperty*, Data> m_values;
 };
 
 class DecoratedDoubleSpinBoxFactory : public QtEditorFactory<DecoratedDoublePropertyManager, QDoubleSpinBox>

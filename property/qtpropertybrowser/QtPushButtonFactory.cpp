@@ -1,7 +1,6 @@
 #include "QtPushButtonFactory.h"
 
 #include <QHBoxLayout>
-#include <QSignalBlocker>
 
 QtPushButtonFactory::QtPushButtonFactory(QObject* parent) : QtEditorFactory(parent) {}
 
@@ -71,11 +70,7 @@ void QtPushButtonFactory::setDone(QtProperty* property, bool done)
 
 void QtPushButtonFactory::slotPropertyChanged(QtProperty* property, const QString& value)
 {
-    for (myPushButton* button : d.editors(property))
-    {
-        const QSignalBlocker block(button);
-        button->setText(value);
-    }
+    updateEditors(property, [&value](myPushButton* button) { button->setText(value); });
 }
 
 void QtPushButtonFactory::slotClick(bool checked)

@@ -1,11 +1,8 @@
 #include "qteditorfactory.h"
 
 #include <QRegExpValidator>
-#include <QSignalBlocker>
 
 // ---------------------------------------------------- QtDoubleSpinBoxFactory
-
-QtDoubleSpinBoxFactory::QtDoubleSpinBoxFactory(QObject* parent) : QtEditorFactory(parent) {}
 
 void QtDoubleSpinBoxFactory::connectPropertyManager(QtDoublePropertyManager* manager)
 {
@@ -35,13 +32,10 @@ QWidget* QtDoubleSpinBoxFactory::createEditor(QtDoublePropertyManager* manager, 
 
 void QtDoubleSpinBoxFactory::slotPropertyChanged(QtProperty* property, double value)
 {
-    for (QDoubleSpinBox* editor : d.editors(property))
-    {
-        if (editor->value() == value)
-            continue;
-        const QSignalBlocker block(editor);
-        editor->setValue(value);
-    }
+    updateEditors(property, [value](QDoubleSpinBox* editor) {
+        if (editor->value() != value)
+            editor->setValue(value);
+    });
 }
 
 void QtDoubleSpinBoxFactory::slotRangeChanged(QtProperty* property, double minVal, double maxVal)
@@ -49,21 +43,15 @@ void QtDoubleSpinBoxFactory::slotRangeChanged(QtProperty* property, double minVa
     QtDoublePropertyManager* manager = propertyManager(property);
     if (!manager)
         return;
-    for (QDoubleSpinBox* editor : d.editors(property))
-    {
-        const QSignalBlocker block(editor);
+    updateEditors(property, [&](QDoubleSpinBox* editor) {
         editor->setRange(minVal, maxVal);
         editor->setValue(manager->value(property));
-    }
+    });
 }
 
 void QtDoubleSpinBoxFactory::slotSingleStepChanged(QtProperty* property, double step)
 {
-    for (QDoubleSpinBox* editor : d.editors(property))
-    {
-        const QSignalBlocker block(editor);
-        editor->setSingleStep(step);
-    }
+    updateEditors(property, [step](QDoubleSpinBox* editor) { editor->setSingleStep(step); });
 }
 
 void QtDoubleSpinBoxFactory::slotDecimalsChanged(QtProperty* property, int prec)
@@ -71,17 +59,13 @@ void QtDoubleSpinBoxFactory::slotDecimalsChanged(QtProperty* property, int prec)
     QtDoublePropertyManager* manager = propertyManager(property);
     if (!manager)
         return;
-    for (QDoubleSpinBox* editor : d.editors(property))
-    {
-        const QSignalBlocker block(editor);
+    updateEditors(property, [&](QDoubleSpinBox* editor) {
         editor->setDecimals(prec);
         editor->setValue(manager->value(property));
-    }
+    });
 }
 
 // ------------------------------------------------------- QtEnumEditorFactory
-
-QtEnumEditorFactory::QtEnumEditorFactory(QObject* parent) : QtEditorFactory(parent) {}
 
 void QtEnumEditorFactory::connectPropertyManager(QtEnumPropertyManager* manager)
 {
@@ -104,11 +88,7 @@ QWidget* QtEnumEditorFactory::createEditor(QtEnumPropertyManager* manager, QtPro
 
 void QtEnumEditorFactory::slotPropertyChanged(QtProperty* property, int value)
 {
-    for (CComboBoxEx* editor : d.editors(property))
-    {
-        const QSignalBlocker block(editor);
-        editor->setCurrentIndex(value);
-    }
+    updateEditors(property, [value](CComboBoxEx* editor) { editor->setCurrentIndex(value); });
 }
 
 void QtEnumEditorFactory::slotEnumNamesChanged(QtProperty* property, const QStringList& names)
@@ -116,18 +96,14 @@ void QtEnumEditorFactory::slotEnumNamesChanged(QtProperty* property, const QStri
     QtEnumPropertyManager* manager = propertyManager(property);
     if (!manager)
         return;
-    for (CComboBoxEx* editor : d.editors(property))
-    {
-        const QSignalBlocker block(editor);
+    updateEditors(property, [&](CComboBoxEx* editor) {
         editor->clear();
         editor->addItems(names);
         editor->setCurrentIndex(manager->value(property));
-    }
+    });
 }
 
 // --------------------------------------------------------- QtLineEditFactory
-
-QtLineEditFactory::QtLineEditFactory(QObject* parent) : QtEditorFactory(parent) {}
 
 void QtLineEditFactory::connectPropertyManager(QtStringPropertyManager* manager)
 {
@@ -153,24 +129,19 @@ QWidget* QtLineEditFactory::createEditor(QtStringPropertyManager* manager, QtPro
 
 void QtLineEditFactory::slotPropertyChanged(QtProperty* property, const QString& value)
 {
-    for (QLineEdit* editor : d.editors(property))
-    {
-        if (editor->text() == value)
-            continue;
-        const QSignalBlocker block(editor);
-        editor->setText(value);
-    }
+    updateEditors(property, [&value](QLineEdit* editor) {
+        if (editor->text() != value)
+            editor->setText(value);
+    });
 }
 
 void QtLineEditFactory::slotRegExpChanged(QtProperty* property, const QRegExp& regExp)
 {
-    for (QLineEdit* editor : d.editors(property))
-    {
-        const QSignalBlocker block(editor);
+    updateEditors(property, [&regExp](QLineEdit* editor) {
         const QValidator* old = editor->validator();
         editor->setValidator(regExp.isValid() && !regExp.isEmpty() ? new QRegExpValidator(regExp, editor) : nullptr);
         delete old;
-    }
+    });
 }
 
 void QtLineEditFactory::slotEditingFinished()

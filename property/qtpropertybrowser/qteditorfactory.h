@@ -11,7 +11,7 @@ class QtDoubleSpinBoxFactory : public QtEditorFactory<QtDoublePropertyManager, Q
 {
     Q_OBJECT
 public:
-    explicit QtDoubleSpinBoxFactory(QObject* parent = nullptr);
+    using QtEditorFactory::QtEditorFactory;
 
 protected:
     void connectPropertyManager(QtDoublePropertyManager* manager) override;
@@ -28,7 +28,7 @@ class QtEnumEditorFactory : public QtEditorFactory<QtEnumPropertyManager, CCombo
 {
     Q_OBJECT
 public:
-    explicit QtEnumEditorFactory(QObject* parent = nullptr);
+    using QtEditorFactory::QtEditorFactory;
 
 protected:
     void connectPropertyManager(QtEnumPropertyManager* manager) override;
@@ -43,7 +43,7 @@ class QtLineEditFactory : public QtEditorFactory<QtStringPropertyManager, QLineE
 {
     Q_OBJECT
 public:
-    explicit QtLineEditFactory(QObject* parent = nullptr);
+    using QtEditorFactory::QtEditorFactory;
 
 protected:
     void connectPropertyManager(QtStringPropertyManager* manager) override;

@@ -9,6 +9,7 @@
 #include <QMap>
 #include <QObject>
 #include <QSet>
+#include <QSignalBlocker>
 #include <QString>
 #include <QWidget>
 
@@ -311,7 +312,7 @@ template <class PropertyManager, class Editor>
 class QtEditorFactory : public QtAbstractEditorFactory<PropertyManager>
 {
 public:
-    explicit QtEditorFactory(QObject* parent) : QtAbstractEditorFactory<PropertyManager>(parent) {}
+    explicit QtEditorFactory(QObject* parent = nullptr) : QtAbstractEditorFactory<PropertyManager>(parent) {}
     ~QtEditorFactory() override { qDeleteAll(d.m_editorToProperty.keys()); }
 
 protected:
@@ -332,6 +333,17 @@ protected:
         QtProperty* property = d.propertyOf(editor);
         if (PropertyManager* manager = property ? this->propertyManager(property) : nullptr)
             manager->setValue(property, value);
+    }
+    // A change of the property reaches each of its open editors, whose own
+    // signals are blocked meanwhile so it does not come back as an edit.
+    template <class Update>
+    void updateEditors(QtProperty* property, Update update)
+    {
+        for (Editor* editor : d.editors(property))
+        {
+            const QSignalBlocker block(editor);
+            update(editor);
+        }
     }
     void slotEditorDestroyed(QObject* object) { d.slotEditorDestroyed(object); }
 

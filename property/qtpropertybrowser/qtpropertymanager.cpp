@@ -37,10 +37,8 @@ QString QtDoublePropertyManager::valueText(const QtProperty* property) const
 
 void QtDoublePropertyManager::setValue(QtProperty* property, double val)
 {
-    QtDoubleRecord* r = recordOf(property);
-    if (!r || r->val == val)
+    if (!changeField(property, &QtDoubleRecord::val, val))
         return;
-    r->val = val;
     emit propertyChanged(property);
     emit valueChanged(property, val);
 }
@@ -71,20 +69,15 @@ void QtDoublePropertyManager::setRange(QtProperty* property, double minVal, doub
 
 void QtDoublePropertyManager::setSingleStep(QtProperty* property, double step)
 {
-    QtDoubleRecord* r = recordOf(property);
-    if (!r || step < 0 || r->singleStep == step)
-        return;
-    r->singleStep = step;
-    emit singleStepChanged(property, step);
+    if (step >= 0 && changeField(property, &QtDoubleRecord::singleStep, step))
+        emit singleStepChanged(property, step);
 }
 
 void QtDoublePropertyManager::setDecimals(QtProperty* property, int prec)
 {
-    QtDoubleRecord* r = recordOf(property);
     prec = qBound(0, prec, 13);
-    if (!r || r->decimals == prec)
+    if (!changeField(property, &QtDoubleRecord::decimals, prec))
         return;
-    r->decimals = prec;
     emit decimalsChanged(property, prec);
     emit propertyChanged(property);
 }
@@ -112,20 +105,19 @@ QIcon QtEnumPropertyManager::valueIcon(const QtProperty* property) const
 
 void QtEnumPropertyManager::setValue(QtProperty* property, int val)
 {
-    QtEnumRecord* r = recordOf(property);
-    if (!r || val >= r->enumNames.size() || (val < 0 && !r->enumNames.isEmpty()) || r->val == val)
+    // An index into the names; -1 only while there are none.
+    const int count = enumNames(property).size();
+    if (val >= count || (val < 0 && count > 0) || !changeField(property, &QtEnumRecord::val, val))
         return;
-    r->val = val;
     emit propertyChanged(property);
     emit valueChanged(property, val);
 }
 
 void QtEnumPropertyManager::setEnumNames(QtProperty* property, const QStringList& names)
 {
-    QtEnumRecord* r = recordOf(property);
-    if (!r || r->enumNames == names)
+    if (!changeField(property, &QtEnumRecord::enumNames, names))
         return;
-    r->enumNames = names;
+    QtEnumRecord* r = recordOf(property);
     r->val = names.isEmpty() ? -1 : (r->val >= 0 && r->val < names.size() ? r->val : 0);
     emit enumNamesChanged(property, names);
     emit propertyChanged(property);
@@ -157,21 +149,17 @@ QString QtStringPropertyManager::valueText(const QtProperty* property) const
 
 void QtStringPropertyManager::setValue(QtProperty* property, const QString& val)
 {
-    QtStringRecord* r = recordOf(property);
-    if (!r || r->val == val)
+    const QRegExp pattern = regExp(property);
+    if (pattern.isValid() && !pattern.isEmpty() && !pattern.exactMatch(val))
         return;
-    if (r->regExp.isValid() && !r->regExp.isEmpty() && !r->regExp.exactMatch(val))
+    if (!changeField(property, &QtStringRecord::val, val))
         return;
-    r->val = val;
     emit propertyChanged(property);
     emit valueChanged(property, val);
 }
 
 void QtStringPropertyManager::setRegExp(QtProperty* property, const QRegExp& regExp)
 {
-    QtStringRecord* r = recordOf(property);
-    if (!r || r->regExp == regExp)
-        return;
-    r->regExp = regExp;
-    emit regExpChanged(property, regExp);
+    if (changeField(property, &QtStringRecord::regExp, regExp))
+        emit regExpChanged(property, regExp);
 }

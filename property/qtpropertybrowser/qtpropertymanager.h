@@ -13,13 +13,16 @@
 QIcon displayModeIcon(const QtProperty* property);
 
 // A manager whose properties each hold one Data record, made when the
-// property is added and dropped when it goes.
+// property is added and dropped when it goes. The record's field val is the
+// property's value.
 template <class Data>
 class QtRecordPropertyManager : public QtAbstractPropertyManager
 {
 public:
     explicit QtRecordPropertyManager(QObject* parent) : QtAbstractPropertyManager(parent) {}
     ~QtRecordPropertyManager() override { clear(); }
+
+    decltype(Data::val) value(const QtProperty* property) const { return record(property).val; }
 
 protected:
     // A copy of the property's record (a default one for a stranger).
@@ -34,6 +37,17 @@ protected:
     {
         auto it = m_values.find(property);
         return it == m_values.end() ? nullptr : &it.value();
+    }
+    // Sets one field of the property's record; false when the property is a
+    // stranger or the field holds the value already.
+    template <class T>
+    bool changeField(const QtProperty* property, T Data::*field, const T& value)
+    {
+        Data* r = recordOf(property);
+        if (!r || r->*field == value)
+            return false;
+        r->*field = value;
+        return true;
     }
     QIcon valueIcon(const QtProperty* property) const override { return displayModeIcon(property); }
     void initializeProperty(QtProperty* property) override { m_values.insert(property, Data()); }
@@ -50,6 +64,9 @@ struct QtDoubleRecord
     double maxVal = 2147483647.0;
     double singleStep = 1;
     int decimals = 2;
+    // Texts around the value, shown by DecoratedDoublePropertyManager only.
+    QString prefix;
+    QString suffix;
 };
 
 struct QtEnumRecord
@@ -87,7 +104,6 @@ class QtDoublePropertyManager : public QtRecordPropertyManager<QtDoubleRecord>
 public:
     explicit QtDoublePropertyManager(QObject* parent = nullptr);
 
-    double value(const QtProperty* property) const { return record(property).val; }
     double minimum(const QtProperty* property) const { return record(property).minVal; }
     double maximum(const QtProperty* property) const { return record(property).maxVal; }
     double singleStep(const QtProperty* property) const { return record(property).singleStep; }
@@ -117,7 +133,6 @@ class QtEnumPropertyManager : public QtRecordPropertyManager<QtEnumRecord>
 public:
     explicit QtEnumPropertyManager(QObject* parent = nullptr);
 
-    int value(const QtProperty* property) const { return record(property).val; }
     QStringList enumNames(const QtProperty* property) const { return record(property).enumNames; }
     QMap<int, QIcon> enumIcons(const QtProperty* property) const { return record(property).enumIcons; }
 
@@ -142,7 +157,6 @@ class QtStringPropertyManager : public QtRecordPropertyManager<QtStringRecord>
 public:
     explicit QtStringPropertyManager(QObject* parent = nullptr);
 
-    QString value(const QtProperty* property) const { return record(property).val; }
     QRegExp regExp(const QtProperty* property) const { return record(property).regExp; }
 
     // A command row's button was pressed: announces it through onClick.
