@@ -28,6 +28,7 @@ public:
     CTavDevice::EConnectionState state() const { return CTavDevice::EConnectionState(m_eState.load()); }
     bool isConnected() const { return m_bConnected; }
     bool isStreamRequested() const { return m_bStreamRequested; }
+    bool isCloseAfterConnect() const { return m_bCloseAfterConnect; }
     // Worker: the camera's connection came up or went.
     void setConnected(bool connected) { m_bConnected = connected; }
 

@@ -200,6 +200,11 @@ bool CTavDevice::isConnected() const
     return m_connection->isConnected();
 }
 
+bool CTavDevice::isClosing() const
+{
+    return isDisconnecting() || m_connection->isCloseAfterConnect();
+}
+
 bool CTavDevice::isStreamRequested() const
 {
     return m_connection->isStreamRequested();

@@ -113,6 +113,9 @@ public:
     EConnectionState connectionState() const;
     bool isConnecting() const { return connectionState() == stateConnecting; }
     bool isDisconnecting() const { return connectionState() == stateDisconnecting; }
+    // A close was asked for while connecting, or is under way: the device is
+    // on its way back to rest (GUI thread).
+    bool isClosing() const;
     // The camera is connected (set by the worker as soon as it is).
     bool isConnected() const;
     // Connected, connecting or closing: not yet back at rest.

@@ -215,7 +215,10 @@ void CPropertyForm::OnUpdateReceive(CTavMessagePtr msg)
     switch (msg->type)
     {
     case MSG_DEVICE_CONNECTED:
-        addDevicePages(device);
+        // A camera closed as soon as it connects (the window closing, a
+        // disconnect-all) gets no pages: building them is long GUI work.
+        if (!device->isClosing())
+            addDevicePages(device);
         break;
     case MSG_DEVICE_CONNECT_FAILED:
     case MSG_DEVICE_DISCONNECTED:

@@ -115,7 +115,16 @@ void TestPropertyPanel::panelPagesFollowTheBus()
     QCOMPARE(panel.stack()->count(), 1);
     QCOMPARE(panel.stack()->currentWidget(), panel.emptyPage());
     QVERIFY(!panel.isWaitingShown());
+
+    // A camera closed while it connects (the window closing) gets no pages:
+    // none are added, so none are removed; the next connection gets them.
+    QSignalSpy removed(panel.stack(), &QStackedWidget::widgetRemoved);
+    QVERIFY(dev->openDevice(false));
+    QVERIFY(dev->closeDevice(false));
+    QTRY_VERIFY_WITH_TIMEOUT(!dev->isActive(), 20000);
     QVERIFY(dev->openDevice(true));
+    QTRY_COMPARE_WITH_TIMEOUT(panel.deviceCount(), 1, 5000);
+    QCOMPARE(removed.count(), 0);
 }
 
 void TestPropertyPanel::userSets()

@@ -1,8 +1,9 @@
-// A camera lost while its stream starts, alone and beside a streaming
-// camera: the loss is reported within two heartbeat intervals (counted on
-// the watchdogs' clock) while the start is still stuck in the camera; the
-// start fails, later calls fail at once with the loss; the other camera's
-// frames and stream events keep coming.
+// A camera lost while its stream starts or while it closes (stream stop and
+// disconnect), alone and beside a streaming camera: the loss is reported
+// within two heartbeat intervals (counted on the watchdogs' clock) while the
+// call is still stuck in the camera; a start fails, a close ends, later
+// calls fail at once with the loss; the other camera's frames and stream
+// events keep coming.
 #include <QtTest>
 
 #include <atomic>
@@ -23,21 +24,25 @@ class TestSdkStreamLoss : public CLossTest
     Q_OBJECT
 
 private slots:
-    void startCutByLoss_data();
-    void startCutByLoss();
+    void streamCallCutByLoss_data();
+    void streamCallCutByLoss();
 };
 
-void TestSdkStreamLoss::startCutByLoss_data()
+void TestSdkStreamLoss::streamCallCutByLoss_data()
 {
+    QTest::addColumn<bool>("closing");   // the close is cut, not the start
     QTest::addColumn<int>("cameras");
-    QTest::addColumn<bool>("held");   // a call holds the camera all along
-    QTest::newRow("alone") << 1 << false;
-    QTest::newRow("beside a streaming camera") << 2 << false;
-    QTest::newRow("held, beside a streaming camera") << 2 << true;
+    QTest::addColumn<bool>("held");      // a call holds the camera all along
+    QTest::newRow("start, alone") << false << 1 << false;
+    QTest::newRow("start, beside a streaming camera") << false << 2 << false;
+    QTest::newRow("start held, beside a streaming camera") << false << 2 << true;
+    QTest::newRow("close held, alone") << true << 1 << true;
+    QTest::newRow("close held, beside a streaming camera") << true << 2 << true;
 }
 
-void TestSdkStreamLoss::startCutByLoss()
+void TestSdkStreamLoss::streamCallCutByLoss()
 {
+    QFETCH(bool, closing);
     QFETCH(int, cameras);
     QFETCH(bool, held);
     QVERIFY2(connectWatched(*m_clock, m_cam1, 1), qPrintable(lastErrorText()));
@@ -55,33 +60,45 @@ void TestSdkStreamLoss::startCutByLoss()
         QTRY_VERIFY_WITH_TIMEOUT(readerB->frames() > 0, 10000);
     }
 
-    // The camera vanishes as its stream starts: the start waits on the
-    // camera (in its round trips, or behind a call that holds it).
+    // The camera vanishes as its stream starts or as it closes: the call
+    // waits on the camera (in its round trips, or behind a call that holds
+    // it).
+    if (closing)
+        QVERIFY(sourceA.startGrabbing());
     std::unique_lock<std::recursive_mutex> holder(toAravisCamera(m_cam1)->gcMutex(), std::defer_lock);
     if (held)
         holder.lock();
     m_rig.stop(m_fake1);
-    std::atomic<bool> done{false}, started{false};
-    std::atomic<int> startError{-1};
-    std::thread start([&] {
-        started = sourceA.startGrabbing();
-        startError = getLastError();
+    std::atomic<bool> done{false}, succeeded{false};
+    std::atomic<int> callError{-1};
+    std::thread call([&] {
+        if (closing) {
+            sourceA.stopGrabbing();
+            succeeded = internal(m_cam1)->disConnect();
+        } else {
+            succeeded = sourceA.startGrabbing();
+        }
+        callError = getLastError();
         done = true;
     });
     const int quarters = quartersUntil(*m_clock, [&] { return lostA.count(isOffline) > 0; }, cameras);
     QVERIFY2(quarters > 0 && quarters <= 2 * kQuartersPerHeartbeat, qPrintable(QString::number(quarters)));
     if (held) {
-        // Given up with the loss while the camera is still held.
+        // Given up (a start) or finished (a close) while the camera is
+        // still held.
         QTRY_VERIFY_WITH_TIMEOUT(done.load(), 10000);
-        QCOMPARE(startError.load(), int(ERR_DEVICE_LOST));
+        if (!closing)
+            QCOMPARE(callError.load(), int(ERR_DEVICE_LOST));
         holder.unlock();
     }
-    start.join();
-    QVERIFY(!started);
+    call.join();
+    QCOMPARE(succeeded.load(), closing);
     QVERIFY(!sourceA.isGrabbing());
-    // Known lost: a new start fails at once with the loss.
+    QVERIFY(!m_cam1->isConnected());
+    // A new start fails at once: with the loss, or, once closed, because
+    // the camera is no longer connected.
     QVERIFY(!sourceA.startGrabbing());
-    QCOMPARE(getLastError(), int(ERR_DEVICE_LOST));
+    QCOMPARE(getLastError(), int(closing ? ERR_NOT_CONNECTED : ERR_DEVICE_LOST));
 
     if (cameras == 2) {
         // The other camera's frames and stream events keep coming.
