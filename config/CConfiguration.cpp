@@ -92,6 +92,7 @@ void CConfiguration::createConfigDir(const QString& path)
 bool CConfiguration::saveConfig(const QString& path)
 {
     m_lastSaveError.clear();
+    m_lastSavePath = path;
     if (!path.isEmpty())
         createConfigDir(path);
 
@@ -154,6 +155,13 @@ bool CConfiguration::restoreConfig(const QString& path, bool withRoi)
     if (!file.open(QIODevice::ReadOnly))
         return false;
     return CConfigXml::read(*this, file, hasLumidorElement(path), withRoi);
+}
+
+QString CConfiguration::saveFailedMessage(const QString& text) const
+{
+    if (m_lastSaveError.isEmpty())
+        return text;
+    return QStringLiteral("%1\n%2: %3").arg(text, QDir::toNativeSeparators(m_lastSavePath), m_lastSaveError);
 }
 
 bool CConfiguration::saveConfigToUserXml()

@@ -39,6 +39,9 @@ public:
     // The system's reason the last saveConfig() failed ("No space left on
     // device"); empty after one that succeeded.
     QString lastSaveError() const { return m_lastSaveError; }
+    // The message shown after a failed save: text, then the file and the
+    // system's reason on a line of their own.
+    QString saveFailedMessage(const QString& text) const;
     bool hasLumidorElement(const QString& path);
     // True for an existing regular file; anything else at the path (a FIFO,
     // a device, a directory) is logged as ignored and false returned.
@@ -160,4 +163,5 @@ private:
     QString m_defaultCfgPath;
     QString m_languageIniPath;
     QString m_lastSaveError;
+    QString m_lastSavePath;   // the file of the last save
 };

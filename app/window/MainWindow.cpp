@@ -363,8 +363,10 @@ bool MainWindow::saveConfigurationReporting(const QString& path)
 {
     if (saveConfiguration(path))
         return true;
-    messageBox(tr("Save configuration failed: %1").arg(QDir::toNativeSeparators(path)), this, QMessageBox::Ok,
-               QMessageBox::Critical);
+    // The file named once, then the system's reason.
+    messageBox(tr("Save configuration failed: %1").arg(QDir::toNativeSeparators(path)) + QLatin1Char('\n') +
+                   CConfiguration::getInstance()->lastSaveError(),
+               this, QMessageBox::Ok, QMessageBox::Critical);
     return false;
 }
 

@@ -186,7 +186,8 @@ void CDeviceListController::saveGenICamXml(const CTavDevicePtr& device)
         [this](bool ok, const QString& error) {
             if (!ok) {
                 LOG_ERROR("downLoadGenICamXML failed. [%s]", error.toLocal8Bit().constData());
-                refuse(tr("Download xml file failed."));
+                refuse(error.isEmpty() ? tr("Download xml file failed.")
+                                       : tr("Download xml file failed.") + QLatin1Char('\n') + error);
             }
             emit cameraTaskFinished();
         });
@@ -202,7 +203,8 @@ void CDeviceListController::addRemoteCamera()
     config->RemoteIpAddr = dialog.getEditValue();
     // A wait on this thread: the small user configuration file is written
     // here, as every settings change writes it.
-    config->saveConfigToUserXml();
+    if (!config->saveConfigToUserXml())
+        refuse(config->saveFailedMessage(tr("Save Config failed.")));
     const QString ip = QString::fromStdString(IPIntToStr(IPStrToInt(dialog.getEditValue().toStdString())));
     emit remoteDiscoveryRequested();
     m_scheduler.request(ip);

@@ -326,7 +326,7 @@ void CSetIPDlg::saveConfig()
     config->setPersistentIP = m_cbSetPersistentIP->isChecked();
     // A wait on this thread: the small user configuration file is written here.
     if (!config->saveConfigToUserXml())
-        messageBox(tr("Save Config failed."), this, QMessageBox::Ok, QMessageBox::Critical);
+        messageBox(config->saveFailedMessage(tr("Save Config failed.")), this, QMessageBox::Ok, QMessageBox::Critical);
 }
 
 void CSetIPDlg::restoreConfig()

@@ -245,8 +245,9 @@ void CPropertyFeaturesForm::on_cbVisibility_currentIndexChanged(int index)
 void CPropertyFeaturesForm::saveConfig()
 {
     emit signalVisibilityChanged(m_ui.cbVisibility->currentIndex());
-    if (!CConfiguration::getInstance()->saveConfigToUserXml())
-        showMessage(tr("Save Config failed."), QMessageBox::Ok, QMessageBox::Critical);
+    CConfiguration* config = CConfiguration::getInstance();
+    if (!config->saveConfigToUserXml())
+        showMessage(config->saveFailedMessage(tr("Save Config failed.")), QMessageBox::Ok, QMessageBox::Critical);
 }
 
 void CPropertyFeaturesForm::restoreConfig()

@@ -52,6 +52,8 @@ private slots:
         c->iHeartbeatIval = 2222;
         QVERIFY(!c->saveConfigToUserXml());
         QCOMPARE(c->lastSaveError(), QString::fromLocal8Bit(strerror(ENOSPC)));
+        QCOMPARE(c->saveFailedMessage("Save Config failed."),
+                 QString("Save Config failed.\n%1: %2").arg(userPath, QString::fromLocal8Bit(strerror(ENOSPC))));
         QCOMPARE(readAll(userPath), saved);
 
         // Restart on the full disk: the default file is not rewritten to

@@ -436,7 +436,10 @@ void TestDeviceList::saveGenICamXml()
     m_form->setXmlFileChooser([](QWidget*, const QString&) { return QString("/proc/no/such/dir/camera.xml"); });
     m_form->onActionSaveGenICamXml();
     QVERIFY(done.wait(15000));
-    QCOMPARE(answerer.texts, QStringList({"Download xml file failed."}));
+    QCOMPARE(answerer.texts.size(), 1);
+    QVERIFY2(answerer.texts[0].startsWith("Download xml file failed.\n") &&
+                 answerer.texts[0].contains("/proc/no/such/dir/camera.xml"),
+             qPrintable(answerer.texts[0]));
     // A cancelled file dialog starts nothing: the next save, which runs after
     // anything started before it, is the only one to finish.
     m_form->setXmlFileChooser([](QWidget*, const QString&) { return QString(); });

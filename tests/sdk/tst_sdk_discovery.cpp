@@ -9,6 +9,8 @@
 #include <thread>
 
 #include "CSimCameraTest.h"
+#include "SmallTmpfs.h"
+#include "TestFiles.h"
 #include "SimCamSetup.h"
 
 using namespace Vorlen;
@@ -194,6 +196,22 @@ void TestSdkDiscovery::descriptionDownload()
     QVERIFY(!cam->downLoadGenICamXML("/nonexistent-dir/x.xml"));
     QCOMPARE(getLastError(), int(ERR_IO));
     QVERIFY(!cam->downLoadGenICamXML(""));
+
+    // A full disk: an earlier file stays as it was, a new file is not left
+    // behind cut short, and the error gives the system's reason.
+    SmallTmpfs disk;
+    const QString small = dir.filePath("small");
+    QVERIFY2(disk.mount(small, 64), qPrintable(disk.error()));
+    const QString earlier = small + "/earlier.xml";
+    QVERIFY(writeAll(earlier, "<earlier/>"));
+    QVERIFY2(disk.fill(), qPrintable(disk.error()));
+    for (const QString& target : {earlier, small + "/new.xml"}) {
+        QVERIFY(!cam->downLoadGenICamXML(target.toLocal8Bit().constData()));
+        QCOMPARE(getLastError(), int(ERR_IO));
+        QVERIFY2(lastErrorText().contains(QString::fromLocal8Bit(std::strerror(ENOSPC))), qPrintable(lastErrorText()));
+    }
+    QCOMPARE(readAll(earlier), QByteArray("<earlier/>"));
+    QCOMPARE(QDir(small).entryList(QDir::Files | QDir::Hidden, QDir::Name), QStringList({"earlier.xml", "filler"}));
 }
 
 void TestSdkDiscovery::linkSettings()

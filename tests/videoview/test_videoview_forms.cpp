@@ -6,6 +6,7 @@
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QtTest>
+#include <cstring>
 #include <QAction>
 #include <QButtonGroup>
 #include <QToolButton>
@@ -364,7 +365,8 @@ void TestVideoviewForms::saveFailureIsTold()
     QVERIFY(QDir().mkpath(path));
     m_manager->actionCrosshair()->trigger();
     QDir(path).removeRecursively();
-    QCOMPARE(m_messages, QStringList{ QString("Save Config failed.") });
+    // The file and the system's reason follow on a line of their own.
+    QCOMPARE(m_messages, QStringList{ QString("Save Config failed.\n%1: %2").arg(path, strerror(EISDIR)) });
     QVERIFY(cfg()->isShowCrosshair);   // the option still applies
 }
 

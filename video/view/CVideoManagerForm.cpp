@@ -97,7 +97,7 @@ CVideoManagerForm::CVideoManagerForm(QWidget* parent, bool attachToBus) : QWidge
     connect(m_multi, &CMultiVideoForm::signalWndMoved, this, &CVideoManagerForm::signalWndMoved);
     connect(m_multi, &CMultiVideoForm::roiSaved, this, [this](bool ok) {
         if (!ok)
-            m_message(tr("Save Config failed."));
+            m_message(CConfiguration::getInstance()->saveFailedMessage(tr("Save Config failed.")));
     });
     connect(m_fullScreen, &CVideoFullScreenWnd::exited, this, [this]() { emit full_screen(false); });
     connect(CConfiguration::getInstance(), &CConfiguration::signalRestoreCfg, this, &CVideoManagerForm::onRestoreCfg);
@@ -266,9 +266,10 @@ int CVideoManagerForm::displayRateValue(const QString& value)
 
 bool CVideoManagerForm::saveConfig()
 {
-    if (CConfiguration::getInstance()->saveConfigToUserXml())
+    CConfiguration* config = CConfiguration::getInstance();
+    if (config->saveConfigToUserXml())
         return true;
-    m_message(tr("Save Config failed."));
+    m_message(config->saveFailedMessage(tr("Save Config failed.")));
     return false;
 }
 

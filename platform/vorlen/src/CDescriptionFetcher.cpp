@@ -143,14 +143,16 @@ bool CDescriptionFetcher::unpack(const std::string& url, const std::vector<uint8
 
 bool CDescriptionFetcher::save(const std::string& text, const char* path)
 {
-    FILE* file = std::fopen(path, "wb");
-    if (!file) {
-        Infra::setLastError(Infra::ERR_IO, path);
-        return false;
-    }
-    const bool ok = std::fwrite(text.data(), 1, text.size(), file) == text.size();
-    if (std::fclose(file) != 0 || !ok) {
-        Infra::setLastError(Infra::ERR_IO, path);
+    // Written to a temporary file beside the target, synced and renamed over
+    // it: a failed write (a full disk) leaves an earlier file as it was and
+    // no partial file behind. The error names the file and the reason.
+    GError* error = nullptr;
+    const gboolean ok = g_file_set_contents_full(
+        path, text.data(), gssize(text.size()),
+        GFileSetContentsFlags(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE), 0644, &error);
+    if (!ok) {
+        Infra::setLastError(Infra::ERR_IO, error ? error->message : path);
+        g_clear_error(&error);
         return false;
     }
     return true;
