@@ -9,8 +9,9 @@
 #   (none)       every test, plain build in build/
 #   --sanitize   every test built with AddressSanitizer and
 #                UndefinedBehaviorSanitizer in build-asan/
-#   --tsan       the threaded suites (device, discovery, video, sdk_stream
-#                and the message bus) built with ThreadSanitizer in build-tsan/
+#   --tsan       the threaded suites (device, discovery, video, sdk_stream,
+#                the camera-loss test and the message bus) built with
+#                ThreadSanitizer in build-tsan/
 #
 # Further arguments go to ctest (for example -R test_core_bus, or -j1 to run
 # one test at a time). Installation
@@ -40,7 +41,7 @@ selection=()
 if [ "$mode" = thread ]; then
   # Configure first to learn the test names, then build only those.
   LUMIDOR_BUILD_DIR="$build" LUMIDOR_SANITIZE="$sanitize" bash "$here/scripts/build.sh" --configure-only
-  mapfile -t names < <(cd "$build" && { ctest -N -L '^(device|discovery|video|sdk_stream)$'; ctest -N -R '^test_core_bus$'; } \
+  mapfile -t names < <(cd "$build" && { ctest -N -L '^(device|discovery|video|sdk_stream)$'; ctest -N -R '^(test_core_bus|test_sdk_loss)$'; } \
                        | sed -n 's/^ *Test *#[0-9]*: *//p' | sort -u)
   [ ${#names[@]} -gt 0 ] || { echo "test.sh: no threaded test found in $build" >&2; exit 1; }
   LUMIDOR_BUILD_DIR="$build" LUMIDOR_SANITIZE="$sanitize" bash "$here/scripts/build.sh" "${names[@]}"
