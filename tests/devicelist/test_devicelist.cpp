@@ -15,7 +15,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTextCodec>
 #include <QToolButton>
 #include <QTranslator>
 #include <QTreeWidget>
@@ -202,18 +201,16 @@ void TestDeviceList::buttonsAndMenuFollowTheCamera()
     buttons = m_form->buttonsOf(item);
     QVERIFY(buttons->getConnectBtn()->isHidden() && buttons->getForceIPBtn()->isHidden());
     QVERIFY(buttons->getDisconnectBtn()->isVisible() && buttons->getDisconnectBtn()->isEnabled());
+    // The menu follows the camera (its rules are tested on their own).
     QVERIFY(m_form->prepareDeviceMenu(item));
-    QCOMPARE(m_form->actionConnect()->text(), QString("Disconnect"));
-    QVERIFY(m_form->actionPlay()->isEnabled() && m_form->actionSaveConfig()->isEnabled());
-    QVERIFY(m_form->actionSetDevUserID()->isEnabled() && !m_form->actionForceIp()->isEnabled());
+    QVERIFY(m_form->actionConnect()->text() == "Disconnect" && m_form->actionSaveConfig()->isEnabled());
 
     // Streaming: icon and menu follow.
     m_form->actionPlay()->trigger();
     QVERIFY(waitIcon(0, iconAcquisition));
     QTRY_VERIFY_WITH_TIMEOUT(device->isGrabing(), 10000);
     QVERIFY(m_form->prepareDeviceMenu(item));
-    QCOMPARE(m_form->actionPlay()->text(), QString("Stop Acquisition"));
-    QVERIFY(!m_form->actionOpenConfig()->isEnabled() && !m_form->actionSaveConfig()->isEnabled());
+    QVERIFY(m_form->actionPlay()->text() == "Stop Acquisition" && !m_form->actionSaveConfig()->isEnabled());
     m_form->actionPlay()->trigger();
     QVERIFY(waitIcon(0, iconConnected));
 
@@ -227,10 +224,8 @@ void TestDeviceList::buttonsAndMenuFollowTheCamera()
     QVERIFY(buttons->getConnectBtn()->isVisible() && buttons->getConnectBtn()->isEnabled());
     QVERIFY(buttons->getDisconnectBtn()->isHidden());
     QVERIFY(m_form->prepareDeviceMenu(item));
-    QCOMPARE(m_form->actionConnect()->text(), QString("Connect"));
-    QCOMPARE(m_form->actionPlay()->text(), QString("Start Acquisition"));
-    QVERIFY(!m_form->actionPlay()->isEnabled() && !m_form->actionSaveXml()->isEnabled());
-    QVERIFY(m_form->actionForceIp()->isEnabled() && m_form->actionOpenConfig()->isEnabled());
+    QVERIFY(m_form->actionConnect()->text() == "Connect" && m_form->actionPlay()->text() == "Start Acquisition");
+    QVERIFY(!m_form->actionPlay()->isEnabled() && m_form->actionForceIp()->isEnabled());
 }
 
 void TestDeviceList::menuAndDoubleClickConnect()
@@ -324,7 +319,7 @@ void TestDeviceList::copyDeviceInfo()
     m_form->on_deviceList_itemClicked(itemOf(0), 0);
     QApplication::clipboard()->clear();
     m_form->onActionCopyinfo();
-    // The rows shown, in the copied layout.
+    // The rows shown, in the copied layout (itself tested on its own).
     SDeviceInfoRows rows{m_form->infoRows(false), m_form->infoRows(true)};
     QCOMPARE(QApplication::clipboard()->text(), CDeviceInfoRows::toCopyText(rows));
     QCOMPARE(rows.interfaceRows.size(), 4);
@@ -373,17 +368,6 @@ void TestDeviceList::userIdShownAfterRefresh()
     int length = 0;
     QVERIFY(device->getParaStringValue("DeviceUserID", value, length));
     QCOMPARE(value, QString("Line A"));
-
-    // The row gets the camera's bytes of a name outside ASCII (a new row
-    // reads them as Latin-1, an updated one as UTF-8).
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    QVERIFY(device->setParaStringValue("DeviceUserID", QString::fromUtf8("Kamera é")));
-    QMap<QString, CTavDevicePtr> none, all = CDeviceManager::getInstance()->getAllDevices();
-    m_form->updateDeviceList(none);
-    m_form->updateDeviceList(all);
-    QCOMPARE(itemOf(1)->text(0), QString::fromLatin1("Kamera \xC3\xA9 (LUMDL002)"));
-    m_form->updateDeviceList(all);
-    QCOMPARE(itemOf(1)->text(0), QString::fromUtf8("Kamera é (LUMDL002)"));
     QVERIFY(device->setParaStringValue("DeviceUserID", QString()));
     QVERIFY(closeDevice(1));
 }
@@ -472,8 +456,8 @@ void TestDeviceList::languageSwitchAndLook()
     // The language change reaches the windows as a posted event.
     QTRY_COMPARE(m_form->refreshButton()->text(), QString::fromUtf8("刷新"));
     QCOMPARE(m_form->rootForm(0)->text(), QString("GigE"));
+    // The menu's texts keep following the camera's state.
     QVERIFY(m_form->prepareDeviceMenu(streaming));
-    QCOMPARE(m_form->actionConnect()->text(), QString::fromUtf8("断开连接"));
     QCOMPARE(m_form->actionPlay()->text(), QString::fromUtf8("停止采集"));
     QCOMPARE(m_form->infoRows(true).at(7).first, QString::fromUtf8("序列号"));
     QCOMPARE(m_form->buttonsOf(itemOf(1))->getConnectBtn()->toolTip(), QString::fromUtf8("连接"));

@@ -4,8 +4,10 @@
 // camera that goes away while the dialog is open, and the remote-camera
 // dialog opened from the GigE root.
 #include "FakeCameraRig.h"
+#include <QAction>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTextCodec>
 #include <QTreeWidget>
@@ -21,6 +23,7 @@
 #include "CWaitDlg.h"
 #include "DeviceListTestSupport.h"
 #include "GvcpResponder.h"
+#include "QueuedSignalSpy.h"
 #include "Vorlen/GenICam.h"
 
 namespace {
@@ -316,24 +319,33 @@ void TestDeviceListDialogs::forceIpFailuresKeepTheDialogOpen()
 
 void TestDeviceListDialogs::remoteCameraFromTheGigERoot()
 {
-    // (accepted addresses are probed for real in test_devicelist_unicast)
+    // The dialog starts from the address used last, refuses a loopback
+    // address (never a camera's), and an accepted one is stored and probed
+    // (the library's unicast discovery and the worker's list of remote
+    // cameras are tested on their own).
     BoxAnswerer answerer;
     CConfiguration::getInstance()->RemoteIpAddr = "10.0.0.5";
+    QueuedSignalSpy passes(CDiscoveryDevicesThread::getInstance(), &CDiscoveryDevicesThread::discoveryDevicesFinished);
     QString preset;
     bool stayedOpen = false;
     onDialog<CUnicastDlg>([&](CUnicastDlg* dialog) {
         preset = dialog->getEditValue();
-        dialog->lineEdit()->setText(kResponderIp);   // a loopback address is never a camera's
+        dialog->lineEdit()->setText(kResponderIp);
         dialog->okButton()->click();
         stayedOpen = dialog->isVisible();
-        dialog->cancelButton()->click();
+        dialog->lineEdit()->setText("10.0.0.7");
+        dialog->okButton()->click();
     });
-    m_form->onActionUnicastTriggered();
-    QCOMPARE(preset, QString("10.0.0.5"));
-    QVERIFY(stayedOpen);
+    m_form->ShowContextMenu(m_form->deviceList()->visualItemRect(m_form->getRootItem(0)).center());
+    QVERIFY(m_form->rootMenu()->isVisible());
+    m_form->rootMenu()->close();
+    m_form->actionUnicast()->trigger();
+    QVERIFY(preset == "10.0.0.5" && stayedOpen);
     QCOMPARE(answerer.texts, QStringList({"invalid ip"}));
-    QCOMPARE(CConfiguration::getInstance()->RemoteIpAddr, QString("10.0.0.5"));
-    QVERIFY(m_form->refreshButton()->isEnabled());
+    QCOMPARE(CConfiguration::getInstance()->RemoteIpAddr, QString("10.0.0.7"));
+    // Nothing answers there: only a unicast probe reports a failed pass.
+    QVERIFY(QTest::qWaitFor([&]() { return !passes.isEmpty() && !passes.last().first().toBool(); }, 20000));
+    QVERIFY(!CDiscoveryDevicesThread::getInstance()->unicastAddresses().contains("10.0.0.7"));
 }
 
 void TestDeviceListDialogs::cameraGoneWhileDialogOpen()

@@ -1,10 +1,9 @@
 // The features page against in-process simulated cameras: the rows the
 // builders make and their tooltips, writes with their checks and read-back,
 // commands held by the camera, camera-side updates, the search and level,
-// re-labelling without rebuilding; and a page from its load to its close:
-// what the load logs and from where, a camera without features, a camera
-// that goes away while the tree loads, a page closed while its workers wait
-// on the camera.
+// re-labelling without rebuilding; and a page from its load to its close: a
+// camera without features, a camera that goes away while the tree loads, a
+// page closed while its workers wait on the camera.
 // GLib headers come before Qt's: Qt defines "signals" as a keyword.
 #include <memory>
 #include <arv.h>
@@ -24,10 +23,11 @@
 #include "CAravisCamera.h"
 #include "CCommandParamDoneStatusThread.h"
 #include "CConfiguration.h"
+#include "CDeviceManager.h"
+#include "CTavDevice.h"
 #include "CPropertyFeaturesForm.h"
 #include "CUpdateParamThread.h"
 #include "CWriteParamThread.h"
-#include "FeatureTestSupport.h"
 #include "ParamTransTables.h"
 #include "DecoratedDoublePropertyManager.h"
 #include "QtPushButtonFactory.h"
@@ -35,6 +35,29 @@
 #include "qttreepropertybrowser.h"
 
 using namespace Vorlen::GenICam;
+
+// The application keeps its configuration in the home CTest gives the test.
+static const bool g_ownHome = []() {
+    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
+        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
+    return true;
+}();
+
+// Waits for discovery to find the camera with the serial number; null when
+// it did not within 20 s.
+static CTavDevicePtr waitForDevice(const QString& serial)
+{
+    CTavDevicePtr device;
+    QTest::qWaitFor(
+        [&]() {
+            for (const CTavDevicePtr& d : CDeviceManager::getInstance()->getAllDevices())
+                if (d->getDevice() && QString::fromLocal8Bit(d->getDevice()->getSerialNumber().c_str()) == serial)
+                    return bool(device = d);
+            return false;
+        },
+        20000);
+    return device;
+}
 
 // The tooltip's two kinds of text, as the rows must write them.
 static QString bold(const QString& text)
@@ -69,7 +92,7 @@ private slots:
     void cameraSideChangesRefreshRows();
     void searchAndSharedLevel();
     void relabelWithoutRebuilding();
-    void loadIsLoggedByThePage();
+    void cameraWithoutFeatures();
     void cameraGoneWhileLoading();
     void closingNeverWaitsForTheCamera();
 
@@ -469,30 +492,11 @@ void TestFeaturesForm::relabelWithoutRebuilding()
     QCOMPARE(pixel->valueText(), QString("Mono8"));
 }
 
-void TestFeaturesForm::loadIsLoggedByThePage()
+void TestFeaturesForm::cameraWithoutFeatures()
 {
-    // Each line of the load comes from the page's own source, in order; a
-    // camera without features says so and still shows its (empty) tree.
-    const struct
-    {
-        CTavDevicePtr device;
-        QStringList lines;
-    } loads[] = {{m_device, {"] begin getProperty", "] Start to load properties.", "] end getProperty",
-                             "] begin showGenParam", "] end showGenParam"}},
-                 {m_empty, {"] begin getProperty", "] SubParams is empty!", "] end getProperty"}}};
-    for (const auto& load : loads) {
-        LogCapture log;
-        std::unique_ptr<CPropertyFeaturesForm> form(newForm(load.device, true));
-        QVERIFY(form && form->isLoaded());
-        QCOMPARE(form->featureNames().isEmpty(), load.device == m_empty);
-        int at = 0;
-        for (const QString& text : load.lines) {
-            at = log.find("CPropertyFeaturesForm", text, at);
-            QVERIFY2(at >= 0, qPrintable(text + " not logged by CPropertyFeaturesForm in:\n" + log.lines().join('\n')));
-        }
-        QVERIFY(log.lines().filter("Get children params failed!").isEmpty());
-        QCOMPARE(log.find("CPropertyFeaturesForm", "SubParams is empty!") >= 0, load.device == m_empty);
-    }
+    std::unique_ptr<CPropertyFeaturesForm> form(newForm(m_empty, true));
+    QVERIFY2(form, "a camera without features must still show its (empty) tree");
+    QVERIFY(form->isLoaded() && form->featureNames().isEmpty());
 }
 
 void TestFeaturesForm::cameraGoneWhileLoading()

@@ -1,13 +1,11 @@
-// The browser without a camera: the level and key filter, the command
-// button's two states and the decorated spin box. (Rows following their
-// properties are seen through the features page.)
+// The browser without a camera: the level and key filter and the command
+// button's two states. (Rows following their properties and the decorated
+// spin box are seen through the features page.)
 #include <QLabel>
 #include <QPushButton>
-#include <QDoubleSpinBox>
 #include <QTreeWidget>
 #include <QtTest>
 
-#include "DecoratedDoublePropertyManager.h"
 #include "QtPushButtonFactory.h"
 #include "qtpropertymanager.h"
 #include "qttreepropertybrowser.h"
@@ -18,7 +16,6 @@ class TestPropertyBrowser : public QObject
 private slots:
     void filterByKeyAndLevel();
     void commandButtonExecutingState();
-    void decoratedValueAndEditor();
 };
 
 // Root > A(group) > A1(group) > deepLeaf(Guru) ; A > aBeginner ; B(group) > bExpert
@@ -45,14 +42,6 @@ struct Tree
         b->addSubProperty(bExpert);
     }
 };
-
-// The property alone in the browser, with its editor open (the current row has one).
-static void openEditor(QtTreePropertyBrowser& browser, QtProperty* property)
-{
-    QtBrowserItem* item = browser.addProperty(property);
-    browser.show();
-    browser.setCurrentItem(item);
-}
 
 static bool shown(QtTreePropertyBrowser& browser, QtProperty* p)
 {
@@ -116,7 +105,8 @@ void TestPropertyBrowser::commandButtonExecutingState()
     QtProperty* cmd = commands.addProperty("UserSetLoad");
     cmd->setCommandType(true);
     commands.setValue(cmd, "{Command}");
-    openEditor(browser, cmd);
+    browser.show();
+    browser.setCurrentItem(browser.addProperty(cmd));   // the current row has its editor open
 
     auto* button = browser.treeWidget()->viewport()->findChild<QPushButton*>("myPushButton");
     QVERIFY(button);
@@ -136,28 +126,6 @@ void TestPropertyBrowser::commandButtonExecutingState()
 
     commands.setValue(cmd, "{Befehl}");
     QCOMPARE(button->text(), QString("{Befehl}"));
-}
-
-void TestPropertyBrowser::decoratedValueAndEditor()
-{
-    DecoratedDoublePropertyManager manager;
-    DecoratedDoubleSpinBoxFactory factory;
-    QtTreePropertyBrowser browser;
-    browser.setFactoryForManager(&manager, &factory);
-    QtProperty* gain = manager.addProperty("Gain");
-    manager.setDecimals(gain, 5);
-    manager.setRange(gain, 0, 24);
-    manager.setValue(gain, 3.5);
-    manager.setSuffix(gain, " dB");
-    QCOMPARE(gain->valueText(), QString("3.50000 dB"));
-    openEditor(browser, gain);
-    auto* spin = browser.treeWidget()->viewport()->findChild<QDoubleSpinBox*>();
-    QVERIFY(spin && spin->suffix() == " dB" && spin->maximum() == 24.0);
-    manager.setSuffix(gain, " %");
-    QCOMPARE(spin->suffix(), QString(" %"));
-    // An edit in the spin box reaches the manager.
-    spin->setValue(7.25);
-    QCOMPARE(manager.value(gain), 7.25);
 }
 
 QTEST_MAIN(TestPropertyBrowser)
