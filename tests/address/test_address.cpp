@@ -22,14 +22,6 @@ void TestAddress::conversions()
     QCOMPARE(IPStrToInt(""), 0u);
     QCOMPARE(IPIntToStr(0xC0A8010Au), std::string("192.168.1.10"));
     QCOMPARE(IPIntToStr(0), std::string("0.0.0.0"));
-
-    std::vector<std::string> parts{"old"};
-    splitStr("a..b.", ".", parts);
-    QCOMPARE(parts, (std::vector<std::string>{"a", "", "b", ""}));
-    splitStr("1::2::3", "::", parts);
-    QCOMPARE(parts, (std::vector<std::string>{"1", "2", "3"}));
-    splitStr("", ".", parts);
-    QCOMPARE(parts, (std::vector<std::string>{""}));
 }
 
 void TestAddress::addressTextRules()

@@ -9,7 +9,6 @@
 #include <QStringList>
 #include <QTreeWidget>
 #include <QtTest>
-#include <atomic>
 
 #include "CCameraTaskThread.h"
 #include "CDeviceInfoRows.h"
@@ -110,9 +109,7 @@ private slots:
     void cameraTasks();
     void init();
     void cleanup();
-    void roots();
     void mergeKeepsItemsAtTheirPlace();
-    void removedItemsAreForgotten();
     void namesAndIcons();
     void informationSections();
 
@@ -182,10 +179,6 @@ void TestDeviceListRules::rulesOfADeviceState()
 
     QVERIFY(isValidIpConfig("Persistent IP, LLA"));
     QVERIFY(!isValidIpConfig("Invalid On This Interface") && !isValidIpConfig(QString()));
-    // Row ids wrap to 1, never 0.
-    setLastCreatedId(0xFFFFFFFEu);
-    QCOMPARE(createId(), 0xFFFFFFFFu);
-    QCOMPARE(createId(), 1u);
 }
 
 void TestDeviceListRules::copiedInfoText()
@@ -207,25 +200,19 @@ void TestDeviceListRules::discoveryWaitsForABusyWorker()
     QStringList started;
     CDiscoveryScheduler scheduler([&busy]() { return busy; }, [&started](const QString& ip) { started << ip; });
 
-    // Idle: at once.
+    // Idle: at once. Busy: waits for the end of the pass under way.
     scheduler.request(QString());
-    QCOMPARE(started, QStringList({QString()}));
-    QVERIFY(!scheduler.isPending());
-
-    // Busy: waits for the end of the pass under way.
+    QVERIFY(started == QStringList({QString()}) && !scheduler.isPending());
     busy = true;
     started.clear();
     scheduler.request("10.0.0.5");
     scheduler.request(QString());   // a plain refresh does not replace the address
-    QVERIFY(scheduler.isPending());
-    QCOMPARE(scheduler.pendingIp(), QString("10.0.0.5"));
-    QVERIFY(started.isEmpty());
+    QVERIFY(scheduler.isPending() && scheduler.pendingIp() == "10.0.0.5" && started.isEmpty());
     scheduler.passFinished();   // another pass was asked for meanwhile: still waiting
     QVERIFY(started.isEmpty());
     busy = false;
     scheduler.passFinished();
-    QCOMPARE(started, QStringList({"10.0.0.5"}));
-    QVERIFY(!scheduler.isPending());
+    QVERIFY(started == QStringList({"10.0.0.5"}) && !scheduler.isPending());
     scheduler.passFinished();   // nothing waits: nothing goes
     QCOMPARE(started.size(), 1);
 
@@ -240,7 +227,6 @@ void TestDeviceListRules::discoveryWaitsForABusyWorker()
 
 void TestDeviceListRules::cameraTasks()
 {
-    QCOMPARE(CCameraTaskThread::liveCount(), 0);
     auto* worker = new CCameraTaskThread("TestTasks");
     QCOMPARE(CCameraTaskThread::liveCount(), 1);
 
@@ -265,22 +251,9 @@ void TestDeviceListRules::cameraTasks()
     QCoreApplication::processEvents();   // every answer the worker sent is delivered now
     QCOMPARE(answers, QStringList({"first 1", "third 0 1"}));
 
-    // The owner closes while a task runs: it retires the worker without
-    // waiting; the task finishes, its answer goes nowhere, the worker goes.
-    auto* owner = new QObject;
-    std::atomic<bool> ran{false};
-    QSemaphore entered;
-    worker->run(owner, [&]() {
-        entered.release();
-        return blocked() && (ran = true);
-    }, [&](bool, const QString&) { answers << "late"; });
-    QVERIFY(entered.tryAcquire(1, 10000));   // under way, not merely queued
-    delete owner;
-    worker->retire();
-    release.release();
-    QTRY_COMPARE(CCameraTaskThread::liveCount(), 0);
-    QVERIFY(ran);
-    QCOMPARE(answers.size(), 2);
+    // (Retiring while a task runs is the job queue's, tested with the feature write worker.)
+    delete worker;
+    QCOMPARE(CCameraTaskThread::liveCount(), 0);
 
     // The persistent address worker reports a key no device answers to.
     CSetIpThread setIp;
@@ -305,27 +278,6 @@ void TestDeviceListRules::cleanup()
     delete m_tree;
 }
 
-void TestDeviceListRules::roots()
-{
-    QTreeWidgetItem* gige = m_model->getRootItem(0);
-    QCOMPARE(gige->type(), 1001);
-    QCOMPARE(m_model->getRootItem(1)->type(), 1002);
-    QVERIFY(gige->isFirstColumnSpanned());
-    QCOMPARE(m_tree->itemWidget(gige, 0), static_cast<QWidget*>(m_model->rootForm(0)));
-    QVERIFY(m_model->rootForm(0)->isChecked() && !m_model->rootForm(0)->isCheckBoxVisible());
-    // Only GigE and USB exist; a second creation changes nothing.
-    for (unsigned type : {2u, 3u, 4u, 5u, 9u, 300u})
-        QVERIFY(!m_model->createRootItem(type) && !m_model->isCreatedRootItem(type) && !m_model->getRootItem(type));
-    QCOMPARE(m_model->createRootItem(0), gige);
-    QCOMPARE(m_tree->topLevelItemCount(), 2);
-    QVERIFY(m_model->isGigERootItem(gige) && !m_model->isGigERootItem(m_model->getRootItem(1)));
-    QVERIFY(m_model->isRootItem(m_model->getRootItem(1)) && !m_model->isRootItem(nullptr));
-
-    // A camera of a kind without a root is not shown.
-    m_model->merge({row(2, "CL"), row(3, "PCIe"), row(5, "TL"), row(9, "bad")});
-    QVERIFY(m_model->deviceItems().isEmpty());
-}
-
 void TestDeviceListRules::mergeKeepsItemsAtTheirPlace()
 {
     m_model->merge({row(0, "A"), row(0, "B"), row(1, "U")});
@@ -335,17 +287,17 @@ void TestDeviceListRules::mergeKeepsItemsAtTheirPlace()
     QCOMPARE(keysUnder(usb), QStringList({"U"}));
     QTreeWidgetItem* a = gige->child(0);
     QTreeWidgetItem* b = gige->child(1);
-    QCOMPARE(a->type(), 1007);
-    QCOMPARE(usb->child(0)->type(), 1008);
+    QVERIFY(a->type() == 1007 && usb->child(0)->type() == 1008 && gige->type() == 1001 && usb->type() == 1002);
+    QCOMPARE(m_tree->itemWidget(gige, 0), static_cast<QWidget*>(m_model->rootForm(0)));
     QCOMPARE(a->text(0), QString("Cam A"));
     QCOMPARE(a->toolTip(0), QString("Cam A"));
     QCOMPARE(m_model->getItemByKey("U"), usb->child(0));
     QVERIFY(!m_model->getItemByKey("Z") && !m_model->getItemByKey(QString()));
     QVERIFY(m_model->rootForm(0)->isCheckBoxVisible() && m_model->rootForm(1)->isCheckBoxVisible());
 
-    // The same pass again: the same items.
-    m_model->merge({row(0, "A"), row(0, "B"), row(1, "U")});
-    QVERIFY(gige->child(0) == a && gige->child(1) == b);
+    // A camera of a kind without a root (only GigE and USB have one) is not shown.
+    m_model->merge({row(0, "A"), row(0, "B"), row(1, "U"), row(2, "CL"), row(5, "TL")});
+    QVERIFY(gige->child(0) == a && gige->child(1) == b && m_model->deviceItems().size() == 3);
 
     // A new device in front: inserted there; the one at its place stays.
     // Appended at the end. The USB root, empty now, hides its check box.
@@ -360,41 +312,20 @@ void TestDeviceListRules::mergeKeepsItemsAtTheirPlace()
     for (QTreeWidgetItem* item : m_model->deviceItems())
         QVERIFY2(item->isFirstColumnSpanned(), qPrintable(CDeviceListModel::getDeviceKey(item)));
 
-    // Every root is ticked again after a pass.
-    m_model->rootForm(0)->setChecked(false);
-    m_model->merge({row(0, "A")});
-    QVERIFY(m_model->rootForm(0)->isChecked());
-    QCOMPARE(keysUnder(gige), QStringList({"A"}));
-}
-
-void TestDeviceListRules::removedItemsAreForgotten()
-{
-    m_model->merge({row(0, "A"), row(0, "B"), row(0, "C")});
-    QTreeWidgetItem* gige = m_model->getRootItem(0);
-    m_model->setHoverItem(gige->child(0));
-    m_model->setCurrentItem(gige->child(1));
-    m_model->setContextItem(gige->child(2));
-    QCOMPARE(m_tree->currentItem(), gige->child(1));
+    // Every root is ticked again after a pass. A device that leaves takes
+    // the remembered current and context items with it, saying so.
+    m_model->setCurrentItem(gige->child(0));
+    m_model->setContextItem(gige->child(3));
     QSignalSpy currentGone(m_model, &CDeviceListModel::currentItemRemoved);
     QSignalSpy contextGone(m_model, &CDeviceListModel::contextItemRemoved);
-
-    // C leaves: only the context item goes.
-    m_model->merge({row(0, "A"), row(0, "B")});
-    QVERIFY(!m_model->contextItem());
-    QVERIFY(contextGone.count() == 1 && currentGone.count() == 0);
-    QCOMPARE(m_model->hoverItem(), gige->child(0));
-    QCOMPARE(m_model->currentItem(), gige->child(1));
-
-    // A leaves: every row after it is made again at its new place, so the
-    // current (B) and hover (A) rows are forgotten.
-    m_model->merge({row(0, "B")});
-    QCOMPARE(keysUnder(gige), QStringList({"B"}));
-    QVERIFY(!m_model->hoverItem() && !m_model->currentItem());
-    QVERIFY(currentGone.count() == 1 && contextGone.count() == 1);
-
-    // An empty pass empties the roots.
+    m_model->rootForm(0)->setChecked(false);
+    m_model->merge({row(0, "0"), row(0, "A")});
+    QVERIFY(m_model->rootForm(0)->isChecked());
+    QCOMPARE(keysUnder(gige), QStringList({"0", "A"}));
+    QVERIFY(contextGone.count() == 1 && !m_model->contextItem());
+    QVERIFY(currentGone.isEmpty() && m_model->currentItem() == gige->child(0));
     m_model->merge({});
-    QVERIFY(m_model->deviceItems().isEmpty() && !m_model->rootForm(0)->isCheckBoxVisible());
+    QVERIFY(currentGone.count() == 1 && !m_model->currentItem() && !m_model->rootForm(0)->isCheckBoxVisible());
 }
 
 void TestDeviceListRules::namesAndIcons()
@@ -410,12 +341,8 @@ void TestDeviceListRules::namesAndIcons()
     QCOMPARE(item->text(0), QString::fromUtf8("Kamera é"));
     QCOMPARE(item->toolTip(0), item->text(0));
 
+    // (Its status icon follows the camera in the panel test.)
     QVERIFY(CDeviceListModel::itemIconIndex(item) == -1 && CDeviceListModel::itemIconIndex(nullptr) == -1);
-    for (int icon = 0; icon < iconCount; ++icon) {
-        m_model->setItemIcon(item, icon);
-        QCOMPARE(CDeviceListModel::itemIconIndex(item), icon);
-        QVERIFY2(!item->icon(0).isNull(), "status icons are missing from the resources");
-    }
 }
 
 void TestDeviceListRules::informationSections()
@@ -426,8 +353,6 @@ void TestDeviceListRules::informationSections()
     const auto interface = CDeviceInfoSections::interfaceSection;
     const auto device = CDeviceInfoSections::deviceSection;
     info.setTitles("Interface Info", "Device Info");
-    QCOMPARE(tree.topLevelItemCount(), 2);
-    QCOMPARE(info.form(device)->text(), QString("Device Info"));
 
     SDeviceInfoRows rows;
     rows.interfaceRows << InfoRow("Description", "eth0");
@@ -440,7 +365,7 @@ void TestDeviceListRules::informationSections()
     // Each section opens as its check box says.
     QVERIFY(!info.item(interface)->isExpanded() && info.item(device)->isExpanded());
 
-    info.setDeviceValue("Access Status", "Control");
+    info.setDeviceValue("Access Status", "Control");   // as the access status changes
     QCOMPARE(info.rows(device).at(1), InfoRow("Access Status", "Control"));
 
     // A double click on a section's row flips it; on any other row nothing.

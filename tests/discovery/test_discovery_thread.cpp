@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QtTest>
 #include <memory>
-#include <set>
+#include <utility>
 
 #include "CDiscoveryDevicesThread.h"
 #include "QueuedSignalSpy.h"
@@ -28,15 +28,16 @@ private:
     CString m_key;
 };
 
-// Records every call as text: "bc0" / "bc1" (discovery with interface kind),
-// "uc:<ip>" (unicast probe), "all" (registry read).
+// Records every call as text: "bc0" / "bc1" (discovery with interface
+// kind), "uc:<ip>:<mode>" (unicast probe), "all" (registry read). An
+// answering address yields a camera; a failing one fails the call; any other
+// is silent, a call that "succeeds" with nothing found.
 class RecordingSystem : public IDiscoverySystem
 {
 public:
     bool discovery(CameraPtrVector& cameras, EInterfaceType type) override
     {
-        if (blockBroadcast)
-        {
+        if (blockBroadcast) {
             entered.release();
             proceed.acquire();
         }
@@ -49,11 +50,9 @@ public:
         const QString ip = QString::fromLocal8Bit(info.ipAddress);
         record(QString("uc:%1:%2").arg(ip).arg(int(mode)));
         QMutexLocker locker(&mutex);
-        if (failingCall.count(ip.toStdString()))
-            return false;   // a failed call, whatever it would have found
-        if (answering.count(ip.toStdString()))
+        if (answering.contains(ip))
             cameras.push_back(Vorlen::Memory::makeShared<StubCamera>(info.ipAddress));
-        return true;   // a silent address may still "succeed" with nothing found
+        return !failing.contains(ip);
     }
     bool getCameraPtrAll(CameraPtrVector& cameras) override
     {
@@ -62,28 +61,23 @@ public:
         cameras = registry;
         return true;
     }
-
     QStringList takeCalls()
     {
         QMutexLocker locker(&mutex);
-        QStringList out = calls;
-        calls.clear();
-        return out;
+        return std::exchange(calls, QStringList());
     }
-    void setAnswering(const std::set<std::string>& ips)
+    void setAddresses(const QStringList& answers, const QStringList& fails = QStringList())
     {
         QMutexLocker locker(&mutex);
-        answering = ips;
+        answering = answers;
+        failing = fails;
     }
 
     QMutex mutex;
-    QStringList calls;
-    std::set<std::string> answering;
-    std::set<std::string> failingCall;
+    QStringList calls, answering, failing;
     CameraPtrVector registry;
     std::atomic<bool> blockBroadcast{false};
-    QSemaphore entered;
-    QSemaphore proceed;
+    QSemaphore entered, proceed;
 
 private:
     void record(const QString& call)
@@ -126,14 +120,13 @@ class TestDiscoveryThread : public QObject
 {
     Q_OBJECT
 private slots:
-    void firstPassAndCameraList();
+    void passesByModeAndCameraList();
     void requestsBeforeOrDuringAPassGiveOnePass();
     void unicastListKeptAndReprobed();
     void resultOfAPass();
-    void modeFlags();
 };
 
-void TestDiscoveryThread::firstPassAndCameraList()
+void TestDiscoveryThread::passesByModeAndCameraList()
 {
     Fixture f;
     f.system->registry.push_back(Vorlen::Memory::makeShared<StubCamera>("A"));
@@ -141,26 +134,43 @@ void TestDiscoveryThread::firstPassAndCameraList()
     QVERIFY(f.thread->getVecCamera().empty());
     QVERIFY(!f.thread->isFirstDiscoveryFinished());
 
-    QVERIFY(f.pass(QString(), 11));
-    QVERIFY(f.thread->isFirstDiscoveryFinished());
-    QVERIFY(!f.thread->isDisconvrying());
+    QVERIFY(f.pass(QString(), 11));   // the start-up pass
+    QVERIFY(f.thread->isFirstDiscoveryFinished() && !f.thread->isDisconvrying());
     QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
     CameraPtrVector cameras = f.thread->getVecCamera();
-    QCOMPARE(int(cameras.size()), 2);
-    QCOMPARE(QString(cameras[0]->getKey().c_str()), QString("A"));
+    QVERIFY(cameras.size() == 2 && QString(cameras[0]->getKey().c_str()) == "A");
 
     // Each pass replaces the list; the first-pass flag stays set.
     f.system->registry.clear();
     QVERIFY(f.pass(QString(), 0));
-    QVERIFY(f.thread->getVecCamera().empty());
-    QVERIFY(f.thread->isFirstDiscoveryFinished());
+    QVERIFY(f.thread->getVecCamera().empty() && f.thread->isFirstDiscoveryFinished());
+
+    // Network bit: broadcast (or unicast); second-interface bit; the
+    // start-up bit alone does neither; 0 means both.
+    f.system->setAddresses({"10.0.0.5"});
+    const struct
+    {
+        const char* ip;
+        int flags;
+        QStringList calls;
+    } cases[] = {{"", 0, {"bc0", "bc1", "all"}},
+                 {"", 1, {"bc0", "all"}},
+                 {"", 2, {"bc1", "all"}},
+                 {"", 8, {"all"}},
+                 {"10.0.0.5", 2, {"bc1", "all"}}};   // a unicast address without the network bit is not probed
+    f.system->takeCalls();
+    for (const auto& c : cases) {
+        QVERIFY(f.pass(QString::fromLatin1(c.ip), c.flags));
+        QCOMPARE(f.system->takeCalls(), c.calls);
+    }
+    QVERIFY(f.thread->unicastAddresses().isEmpty());
 }
 
 void TestDiscoveryThread::requestsBeforeOrDuringAPassGiveOnePass()
 {
     for (const bool duringThePass : {false, true}) {
         Fixture f;
-        f.system->setAnswering({"10.1.1.1"});
+        f.system->setAddresses({"10.1.1.1"});
         if (duringThePass) {
             // A request that comes while a pass runs is absorbed by it.
             f.system->blockBroadcast = true;
@@ -191,7 +201,7 @@ void TestDiscoveryThread::requestsBeforeOrDuringAPassGiveOnePass()
 void TestDiscoveryThread::unicastListKeptAndReprobed()
 {
     Fixture f;
-    f.system->setAnswering({"10.0.0.7", "10.0.0.8"});
+    f.system->setAddresses({"10.0.0.7", "10.0.0.8"});
 
     // A unicast add probes only that address (no broadcast).
     QVERIFY(f.pass("10.0.0.7", 0));
@@ -210,7 +220,7 @@ void TestDiscoveryThread::unicastListKeptAndReprobed()
     QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
 
     // 10.0.0.7 stops answering: dropped at the next refresh, never probed again.
-    f.system->setAnswering({"10.0.0.8"});
+    f.system->setAddresses({"10.0.0.8"});
     QVERIFY(f.pass(QString(), 0));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.8"}));
     f.system->takeCalls();
@@ -218,10 +228,7 @@ void TestDiscoveryThread::unicastListKeptAndReprobed()
     QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "uc:10.0.0.8:1", "bc1", "all"}));
 
     // A failing probe call drops the address as well.
-    {
-        QMutexLocker locker(&f.system->mutex);
-        f.system->failingCall = {"10.0.0.8"};
-    }
+    f.system->setAddresses({"10.0.0.8"}, {"10.0.0.8"});
     QVERIFY(f.pass(QString(), 0));
     QVERIFY(f.thread->unicastAddresses().isEmpty());
 }
@@ -237,7 +244,7 @@ void TestDiscoveryThread::resultOfAPass()
     QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.9.9.9:1", "bc1", "all"}));
     QVERIFY(f.thread->isFirstDiscoveryFinished());
 
-    f.system->setAnswering({"10.0.0.1", "10.0.0.2"});
+    f.system->setAddresses({"10.0.0.1", "10.0.0.2"});
     QVERIFY(f.pass("10.0.0.1", 0));
     QVERIFY(f.pass("10.0.0.2", 0));
     f.system->takeCalls();
@@ -247,38 +254,15 @@ void TestDiscoveryThread::resultOfAPass()
     QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.0.0.3:1", "bc1", "all"}));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.1", "10.0.0.2"}));
     // A kept address that went silent, asked again: removed, false.
-    f.system->setAnswering({"10.0.0.2"});
+    f.system->setAddresses({"10.0.0.2"});
     QVERIFY(!f.pass("10.0.0.1", 0));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.2"}));
 
     // Every other pass reports true, whatever it found.
-    f.system->setAnswering({});
+    f.system->setAddresses({});
     QVERIFY(f.pass(QString(), 0));
     QVERIFY(f.pass("255.255.255.255", 0));
     QVERIFY(f.pass(QString(), 2));
-
-}
-
-void TestDiscoveryThread::modeFlags()
-{
-    Fixture f;
-    f.system->setAnswering({"10.0.0.5"});
-    // Network bit: broadcast (or unicast); second-interface bit; the start-up bit alone does neither.
-    const struct
-    {
-        const char* ip;
-        int flags;
-        QStringList calls;
-    } cases[] = {{"", 1, {"bc0", "all"}},
-                 {"", 2, {"bc1", "all"}},
-                 {"", 8, {"all"}},
-                 {"", 3, {"bc0", "bc1", "all"}},
-                 {"10.0.0.5", 2, {"bc1", "all"}}};   // a unicast address without the network bit is not probed
-    for (const auto& c : cases) {
-        QVERIFY(f.pass(QString::fromLatin1(c.ip), c.flags));
-        QCOMPARE(f.system->takeCalls(), c.calls);
-    }
-    QVERIFY(f.thread->unicastAddresses().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestDiscoveryThread)

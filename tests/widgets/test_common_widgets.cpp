@@ -1,9 +1,8 @@
 // Common widgets: message box, wait dialog, dialog title bar, and the value
-// editors' wheel, click and escape behaviour.
+// editors' wheel and click behaviour.
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QSignalSpy>
 #include <QToolButton>
 #include <QTranslator>
@@ -14,8 +13,6 @@
 #include "CCommonMessageBox.h"
 #include "CDialogTitleBar.h"
 #include "CDoubleSpinBox.h"
-#include "CLineEdit.h"
-#include "CMenu.h"
 #include "CSlider.h"
 #include "CSpinBox.h"
 #include "CWaitDlg.h"
@@ -111,14 +108,6 @@ private slots:
 
         dlg.accept();
         QVERIFY(!dlg.isVisible() && !busy->isAnimating());
-
-        // A cancellable wait offers the close button and rejects with it.
-        dlg.setCancellable(true);
-        dlg.open();
-        QSignalSpy rejected(&dlg, &QDialog::rejected);
-        dlg.findChild<QToolButton*>(QStringLiteral("btnDialogClose"))->click();
-        QCOMPARE(rejected.count(), 1);
-        QVERIFY(!dlg.isVisible());
     }
 
     void titleBarNamesAndClosesItsDialog()
@@ -196,44 +185,6 @@ private slots:
         QTest::mouseClick(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(2, 12));
         QCOMPARE(slider.value(), 0);
         QCOMPARE(slider.valueAt(QPoint(399, 12)), 100);
-    }
-
-    void lineEditEscapeRestoresTheText()
-    {
-        QWidget window;
-        auto* edit = new CLineEdit(&window);
-        edit->setText(QStringLiteral("192.168.1.10"));
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        giveFocus(edit);
-        QCOMPARE(edit->textAtFocus(), QStringLiteral("192.168.1.10"));
-        edit->selectAll();
-        QTest::keyClicks(edit, QStringLiteral("10.0.0.1"));
-        QSignalSpy reverted(edit, &CLineEdit::editReverted);
-        QTest::keyClick(edit, Qt::Key_Escape);
-        QCOMPARE(edit->text(), QStringLiteral("192.168.1.10"));
-        QCOMPARE(reverted.count(), 1);
-    }
-
-    void menuOpensInsideTheScreen()
-    {
-        QScreen* screen = QGuiApplication::primaryScreen();
-        if (!screen)
-            QFAIL("no screen: the offscreen platform should provide one");
-        const QRect area = screen->availableGeometry();
-        CMenu menu(QStringLiteral("View"));
-        for (int i = 0; i < 8; ++i)
-            menu.addAction(QStringLiteral("A rather long entry of the menu %1").arg(i));
-        QWidget anchor(nullptr, Qt::FramelessWindowHint);
-        anchor.resize(40, 20);
-        anchor.move(area.right() - 45, area.bottom() - 25);
-        anchor.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&anchor));
-        const QPoint pos = menu.positionBelow(&anchor);
-        const QRect shown(pos, menu.sizeHint());
-        QVERIFY2(area.contains(shown), qPrintable(QStringLiteral("%1,%2 %3x%4").arg(pos.x()).arg(pos.y())
-                                                       .arg(shown.width()).arg(shown.height())));
-        QVERIFY(menu.toolTipsVisible());
     }
 };
 
