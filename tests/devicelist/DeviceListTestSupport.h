@@ -1,7 +1,7 @@
 #pragma once
 // Helpers of the device list tests: answering the modal boxes and dialogs the
-// panel opens, waiting for the device manager, and the application's look
-// for screenshots. The device tests' helpers (DeviceTestSupport.h) come along.
+// panel opens, and waiting for the device manager. The device tests' helpers
+// (DeviceTestSupport.h) come along.
 #include <QApplication>
 #include <QPushButton>
 #include <QTimer>
@@ -13,7 +13,6 @@
 #include "CDiscoveryDevicesThread.h"
 #include "CTavDevice.h"
 #include "DeviceTestSupport.h"
-#include "StyleSheet.h"
 
 // Configuration files go to the test's own home (CTest sets HOME per test).
 static const bool g_ownHome = []() {
@@ -75,19 +74,6 @@ void onDialog(std::function<void(T*)> act)
         act(dialog);
         return false;
     });
-}
-
-// Puts on the application's look and returns where the screenshots saved for
-// a person to check go (LUMIDOR_SCREENSHOT_DIR, else the working folder);
-// empty when the style sheet cannot be read.
-inline QString applicationLookAndShotDir()
-{
-    const QString sheet = QString::fromLocal8Bit(qgetenv("LUMIDOR_SOURCE_DIR")) + "/res/Skins/Default/Vintrel/style.qss";
-    if (!setStyleSheet<QApplication>(*qApp, sheet))
-        return QString();
-    QCoreApplication::sendPostedEvents();   // the layouts of the new look, before drawing
-    return qEnvironmentVariableIsEmpty("LUMIDOR_SCREENSHOT_DIR") ? QDir::currentPath()
-                                                                 : qEnvironmentVariable("LUMIDOR_SCREENSHOT_DIR");
 }
 
 // Asks for a discovery pass (ip: "" or one address to probe) and waits until
