@@ -41,7 +41,7 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void treeBuiltAndRefreshKeepsItems();
-    void buttonsAndMenuFollowTheCamera();
+    void buttonsFollowTheCamera();
     void menuAndDoubleClickConnect();
     void connectionLimit();
     void collapseAndExpand();
@@ -165,13 +165,12 @@ void TestDeviceList::treeBuiltAndRefreshKeepsItems()
     CConfiguration::getInstance()->autoRefreshEnable = true;
     finished.clear();
     m_form->onAutoRefreshTimeout();
-    QVERIFY(!m_form->refreshButton()->isEnabled());
-    QVERIFY(finished.wait(20000));
+    QVERIFY(!m_form->refreshButton()->isEnabled() && finished.wait(20000));
     QTRY_VERIFY(m_form->refreshButton()->isEnabled());
     QCOMPARE(itemOf(0), first);
 }
 
-void TestDeviceList::buttonsAndMenuFollowTheCamera()
+void TestDeviceList::buttonsFollowTheCamera()
 {
     QTreeWidgetItem* item = itemOf(0);
     CTavDevicePtr device = deviceOf(0);
@@ -189,11 +188,9 @@ void TestDeviceList::buttonsAndMenuFollowTheCamera()
     buttons = m_form->buttonsOf(item);
     QVERIFY(buttons->getConnectBtn()->isHidden() && buttons->getForceIPBtn()->isHidden());
     QVERIFY(buttons->getDisconnectBtn()->isVisible() && buttons->getDisconnectBtn()->isEnabled());
-    // The menu follows the camera (its rules are tested on their own).
-    QVERIFY(m_form->prepareDeviceMenu(item));
-    QVERIFY(m_form->actionConnect()->text() == "Disconnect" && m_form->actionSaveConfig()->isEnabled());
 
-    // Streaming: icon and menu follow.
+    // Streaming from the menu: the icon follows, and the menu offers to stop.
+    QVERIFY(m_form->prepareDeviceMenu(item));
     m_form->actionPlay()->trigger();
     QVERIFY(waitIcon(0, iconAcquisition));
     QTRY_VERIFY_WITH_TIMEOUT(device->isGrabing(), 10000);
@@ -211,9 +208,6 @@ void TestDeviceList::buttonsAndMenuFollowTheCamera()
     buttons = m_form->buttonsOf(item);
     QVERIFY(buttons->getConnectBtn()->isVisible() && buttons->getConnectBtn()->isEnabled());
     QVERIFY(buttons->getDisconnectBtn()->isHidden());
-    QVERIFY(m_form->prepareDeviceMenu(item));
-    QVERIFY(m_form->actionConnect()->text() == "Connect" && m_form->actionPlay()->text() == "Start Acquisition");
-    QVERIFY(!m_form->actionPlay()->isEnabled() && m_form->actionForceIp()->isEnabled());
 }
 
 void TestDeviceList::menuAndDoubleClickConnect()
@@ -301,13 +295,12 @@ void TestDeviceList::copyDeviceInfo()
     // The rows shown, in the copied layout (itself tested on its own).
     SDeviceInfoRows rows{m_form->infoRows(false), m_form->infoRows(true)};
     QCOMPARE(QApplication::clipboard()->text(), CDeviceInfoRows::toCopyText(rows));
-    QCOMPARE(rows.interfaceRows.size(), 4);
-    QStringList labels, values;
+    // IP address, mask, gateway, vendor, model, manufacturer, version,
+    // serial number, protocol version, valid, IP configuration, access.
+    QVERIFY(rows.interfaceRows.size() == 4 && rows.deviceRows.size() == 12);
+    QStringList values;
     for (const InfoRow& r : rows.deviceRows)
-        labels << r.first, values << r.second;
-    QCOMPARE(labels, QStringList({"IP Address", "Subnet Mask", "Gateway", "Vendor", "Model", "Manufacture", "Version",
-                                  "Serial Number", "Protocol Version", "Valid", "IP Configuration",
-                                  "Access Status"}));
+        values << r.second;
     QCOMPARE(values.mid(3, 2) + values.mid(7, 3), QStringList({"Lumidor", "SimCam", "LUMDL001", "2.0", "True"}));
     QCOMPARE(values.first(), QString(kAddress[0]));
 }

@@ -131,8 +131,7 @@ void TestDiscoveryThread::passesByModeAndCameraList()
     Fixture f;
     f.system->registry.push_back(Vorlen::Memory::makeShared<StubCamera>("A"));
     f.system->registry.push_back(Vorlen::Memory::makeShared<StubCamera>("B"));
-    QVERIFY(f.thread->getVecCamera().empty());
-    QVERIFY(!f.thread->isFirstDiscoveryFinished());
+    QVERIFY(f.thread->getVecCamera().empty() && !f.thread->isFirstDiscoveryFinished());
 
     QVERIFY(f.pass(QString(), 11));   // the start-up pass
     QVERIFY(f.thread->isFirstDiscoveryFinished() && !f.thread->isDisconvrying());
@@ -190,9 +189,7 @@ void TestDiscoveryThread::requestsBeforeOrDuringAPassGiveOnePass()
         QVERIFY(f.spy.wait(10000));
         // Nothing is left to run: the flag is down when the pass is reported,
         // and the next pass asked for follows this one directly.
-        QVERIFY(!f.thread->isDisconvrying());
-        QVERIFY(f.pass(QString(), 2));
-        QCOMPARE(f.spy.count(), 2);
+        QVERIFY(!f.thread->isDisconvrying() && f.pass(QString(), 2) && f.spy.count() == 2);
         QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all", "bc1", "all"}));
         QVERIFY(f.thread->unicastAddresses().isEmpty());
     }
@@ -207,8 +204,7 @@ void TestDiscoveryThread::unicastListKeptAndReprobed()
     QVERIFY(f.pass("10.0.0.7", 0));
     QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.0.0.7:1", "bc1", "all"}));
     // The same address twice keeps one entry; another one is appended.
-    QVERIFY(f.pass("10.0.0.7", 0));
-    QVERIFY(f.pass("10.0.0.8", 0));
+    QVERIFY(f.pass("10.0.0.7", 0) && f.pass("10.0.0.8", 0));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.7", "10.0.0.8"}));
     f.system->takeCalls();
 
@@ -239,14 +235,12 @@ void TestDiscoveryThread::resultOfAPass()
     // A pass run in the caller's thread reports success, even for a silent address.
     f.thread->StartDiscovery("10.9.9.9", 0);
     f.thread->runOnce();
-    QCOMPARE(f.spy.count(), 1);
-    QCOMPARE(f.spy.at(0).at(0).toBool(), true);
+    QVERIFY(f.spy.count() == 1 && f.spy.at(0).at(0).toBool());
     QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.9.9.9:1", "bc1", "all"}));
     QVERIFY(f.thread->isFirstDiscoveryFinished());
 
     f.system->setAddresses({"10.0.0.1", "10.0.0.2"});
-    QVERIFY(f.pass("10.0.0.1", 0));
-    QVERIFY(f.pass("10.0.0.2", 0));
+    QVERIFY(f.pass("10.0.0.1", 0) && f.pass("10.0.0.2", 0));
     f.system->takeCalls();
 
     // A silent address: false, not kept; the others are kept but not probed.
@@ -260,9 +254,7 @@ void TestDiscoveryThread::resultOfAPass()
 
     // Every other pass reports true, whatever it found.
     f.system->setAddresses({});
-    QVERIFY(f.pass(QString(), 0));
-    QVERIFY(f.pass("255.255.255.255", 0));
-    QVERIFY(f.pass(QString(), 2));
+    QVERIFY(f.pass(QString(), 0) && f.pass("255.255.255.255", 0) && f.pass(QString(), 2));
 }
 
 QTEST_GUILESS_MAIN(TestDiscoveryThread)

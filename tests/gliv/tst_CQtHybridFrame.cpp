@@ -104,20 +104,15 @@ Bytes packLsb(const Ints& v, int bits)
     return out;
 }
 
-// Colour sampled at (x, y) for a GenICam pattern such as "RG" (R G / G B).
-char siteColour(const char* pattern, int x, int y)
+// A mosaic sampled from one colour for a GenICam pattern such as "RG" (R G / G B).
+Ints mosaic(const char* pattern, int w, int h, int r, int g, int b)
 {
     const char* cells = !strcmp(pattern, "RG") ? "RGGB" : !strcmp(pattern, "GR") ? "GRBG"
                       : !strcmp(pattern, "GB") ? "GBRG" : "BGGR";
-    return cells[(y % 2) * 2 + (x % 2)];
-}
-
-Ints mosaic(const char* pattern, int w, int h, int r, int g, int b)
-{
     Ints v;
     for (int y = 0; y < h; ++y)
         for (int x = 0; x < w; ++x) {
-            const char c = siteColour(pattern, x, y);
+            const char c = cells[(y % 2) * 2 + (x % 2)];
             v.push_back(c == 'R' ? r : c == 'G' ? g : b);
         }
     return v;

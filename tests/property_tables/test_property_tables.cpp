@@ -2,11 +2,11 @@
 // and their entries are covered, the texts read well, and the Chinese
 // translation reaches every text through an installed translator.
 #include <QCoreApplication>
+#include <QDomDocument>
 #include <QFile>
 #include <QHash>
 #include <QSet>
 #include <QTranslator>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 #include "ParamTransTables.h"
@@ -19,57 +19,6 @@ bool hasChinese(const QString& s)
         if (c.unicode() >= 0x4E00 && c.unicode() <= 0x9FFF)
             return true;
     return false;
-}
-
-// A node of the camera description that the feature tree shows.
-struct SDescNode
-{
-    QString nameSpace;
-    QString visibility = QStringLiteral("Beginner");
-    QStringList children;   // pFeature of a category
-    QStringList entries;    // EnumEntry names of an enumeration
-};
-
-// Reads every named top-level node of a GenICam description; empty with the
-// reason in error when it cannot.
-QHash<QString, SDescNode> readDescription(const QString& path, QString& error)
-{
-    QHash<QString, SDescNode> nodes;
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly)) {
-        error = "cannot open the simulated camera's description " + path;
-        return nodes;
-    }
-    QXmlStreamReader xml(&f);
-    int depth = 0;
-    QString current;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        if (xml.isEndElement())
-            --depth;
-        if (!xml.isStartElement())
-            continue;
-        ++depth;
-        const QStringRef tag = xml.name();
-        if (depth == 2) {
-            current = xml.attributes().value("Name").toString();
-            if (!current.isEmpty())
-                nodes[current].nameSpace = xml.attributes().value("NameSpace").toString();
-        } else if (depth == 3 && !current.isEmpty()) {
-            SDescNode& n = nodes[current];
-            if (tag == QLatin1String("EnumEntry"))
-                n.entries << xml.attributes().value("Name").toString();
-            else if (tag == QLatin1String("pFeature"))
-                n.children << xml.readElementText().trimmed();
-            else if (tag == QLatin1String("Visibility"))
-                n.visibility = xml.readElementText().trimmed();
-            if (tag == QLatin1String("pFeature") || tag == QLatin1String("Visibility"))
-                --depth;   // readElementText consumed the end element
-        }
-    }
-    if (xml.hasError() || !nodes.contains("Root"))
-        error = path + ": " + (xml.hasError() ? xml.errorString() : QStringLiteral("no Root category"));
-    return error.isEmpty() ? nodes : QHash<QString, SDescNode>();
 }
 
 // Every text the tables hold, for the checks that look at all of them.
@@ -98,32 +47,35 @@ private slots:
 
 void TestPropertyTables::simulatedCameraFeaturesAreCovered()
 {
-    QString error;
-    const QHash<QString, SDescNode> nodes = readDescription(QStringLiteral(SIMCAM_XML), error);
-    if (nodes.isEmpty())
-        QFAIL(qPrintable(error));
+    QFile file(QStringLiteral(SIMCAM_XML));
+    QDomDocument description;
+    if (!file.open(QIODevice::ReadOnly) || !description.setContent(&file))
+        QFAIL(qPrintable("cannot read the simulated camera's description " + file.fileName()));
+    QHash<QString, QDomElement> nodes;   // the named top-level nodes
+    for (QDomElement e = description.documentElement().firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+        nodes.insert(e.attribute("Name"), e);
     fillParamTransTables();
     const QMap<QString, QString> any = g_mapNameToValueTransMap.value("Any");
 
     // Every visible standard feature reachable from Root, and its entries.
-    QStringList missing;
+    QStringList missing, pending = {"Root"};
     int rows = 0;
-    QStringList pending = nodes.value("Root").children;
     while (!pending.isEmpty()) {
         const QString name = pending.takeFirst();
-        const SDescNode n = nodes.value(name);
-        if (n.visibility == QLatin1String("Invisible"))
+        const QDomElement node = nodes.value(name);
+        if (node.firstChildElement("Visibility").text().trimmed() == "Invisible")
             continue;
-        pending << n.children;
-        if (n.nameSpace != QLatin1String("Standard"))
+        for (QDomElement c = node.firstChildElement("pFeature"); !c.isNull(); c = c.nextSiblingElement("pFeature"))
+            pending << c.text().trimmed();
+        if (node.attribute("NameSpace") != "Standard" || name == "Root")
             continue;
         ++rows;
         if (!g_mapNameToTrans.contains(name) || !g_mapNameToDispTrans.contains(name) ||
             !g_mapNameToDespTrans.contains(name))
             missing << name;
-        for (const QString& entry : n.entries)
-            if (!g_mapNameToValueTransMap.value(name).contains(entry) && !any.contains(entry))
-                missing << name + "/" + entry;
+        for (QDomElement e = node.firstChildElement("EnumEntry"); !e.isNull(); e = e.nextSiblingElement("EnumEntry"))
+            if (!g_mapNameToValueTransMap.value(name).contains(e.attribute("Name")) && !any.contains(e.attribute("Name")))
+                missing << name + "/" + e.attribute("Name");
     }
     QVERIFY2(rows > 50, "the simulated camera shows too few standard features; is the walk broken?");
     QVERIFY2(missing.isEmpty(), qPrintable("not in the tables: " + missing.join(", ")));
