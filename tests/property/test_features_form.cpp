@@ -1,9 +1,10 @@
 // The features page against in-process simulated cameras: the rows the
 // builders make and their tooltips, writes with their checks and read-back,
 // commands held by the camera, camera-side updates, the search and level,
-// re-labelling without rebuilding; and a page from its load to its close: a
-// camera that goes away while the tree loads, a page closed while its
-// workers wait on the camera.
+// re-labelling without rebuilding; and a page from its load to its close:
+// what the load logs and from where, a camera without features, a camera
+// that goes away while the tree loads, a page closed while its workers wait
+// on the camera.
 // GLib headers come before Qt's: Qt defines "signals" as a keyword.
 #include <memory>
 #include <arv.h>
@@ -13,7 +14,9 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTreeWidget>
 #include <QtTest>
@@ -21,11 +24,10 @@
 #include "CAravisCamera.h"
 #include "CCommandParamDoneStatusThread.h"
 #include "CConfiguration.h"
-#include "CDeviceManager.h"
-#include "CTavDevice.h"
 #include "CPropertyFeaturesForm.h"
 #include "CUpdateParamThread.h"
 #include "CWriteParamThread.h"
+#include "FeatureTestSupport.h"
 #include "ParamTransTables.h"
 #include "DecoratedDoublePropertyManager.h"
 #include "QtPushButtonFactory.h"
@@ -33,29 +35,6 @@
 #include "qttreepropertybrowser.h"
 
 using namespace Vorlen::GenICam;
-
-// The application keeps its configuration in the home CTest gives the test.
-static const bool g_ownHome = []() {
-    if (qEnvironmentVariableIsEmpty("LUMIDOR_HOME"))
-        qputenv("LUMIDOR_HOME", qgetenv("HOME"));
-    return true;
-}();
-
-// Waits for discovery to find the camera with the serial number; null when
-// it did not within 20 s.
-static CTavDevicePtr waitForDevice(const QString& serial)
-{
-    CTavDevicePtr device;
-    (void)QTest::qWaitFor(
-        [&]() {
-            for (const CTavDevicePtr& d : CDeviceManager::getInstance()->getAllDevices())
-                if (d->getDevice() && QString::fromLocal8Bit(d->getDevice()->getSerialNumber().c_str()) == serial)
-                    return bool(device = d);
-            return false;
-        },
-        20000);
-    return device;
-}
 
 // The tooltip's two kinds of text, as the rows must write them.
 static QString bold(const QString& text)
@@ -90,6 +69,7 @@ private slots:
     void cameraSideChangesRefreshRows();
     void searchAndSharedLevel();
     void relabelWithoutRebuilding();
+    void loadIsLoggedByThePage();
     void cameraGoneWhileLoading();
     void closingNeverWaitsForTheCamera();
 
@@ -126,8 +106,9 @@ private:
     }
 
     FakeCameraRig m_rig;
+    QTemporaryDir m_dir;
     int m_cam = -1;
-    CTavDevicePtr m_device;
+    CTavDevicePtr m_device, m_empty;
     CPropertyFeaturesForm* m_form = nullptr;
     struct SMessage
     {
@@ -168,12 +149,13 @@ void TestFeaturesForm::initTestCase()
     QVERIFY(m_dir.isValid() && empty.open(QIODevice::WriteOnly) && empty.write(xml.toUtf8()) > 0);
     empty.close();
     m_cam = m_rig.start("127.0.0.1", "LUMPROP1", std::string(), 320, 240, "Mono8");
-    if (m_cam < 0)
+    if (m_cam < 0 || m_rig.start("127.0.0.2", "LUMEMPTY1", empty.fileName().toStdString()) < 0)
         QFAIL(qPrintable(QString("simulated camera did not start (run inside a network namespace with lo up): %1")
                              .arg(m_rig.lastError().c_str())));
     m_device = waitForDevice("LUMPROP1");
-    QVERIFY2(m_device, "the simulated camera was not discovered");
-    QVERIFY(m_device->openDevice(true) && m_device->isConnected());
+    m_empty = waitForDevice("LUMEMPTY1");
+    QVERIFY2(m_device && m_empty, "the simulated cameras were not discovered");
+    QVERIFY(m_device->openDevice(true) && m_device->isConnected() && m_empty->openDevice(true));
 
     m_form = newForm(m_device, false);
     QSignalSpy finished(m_form, &CPropertyFeaturesForm::showGenParamFinish);
@@ -477,6 +459,32 @@ void TestFeaturesForm::relabelWithoutRebuilding()
     m_form->retranslateUi();
     QCOMPARE(width->propertyName(), QString("Width"));
     QCOMPARE(pixel->valueText(), QString("Mono8"));
+}
+
+void TestFeaturesForm::loadIsLoggedByThePage()
+{
+    // Each line of the load comes from the page's own source, in order; a
+    // camera without features says so and still shows its (empty) tree.
+    const struct
+    {
+        CTavDevicePtr device;
+        QStringList lines;
+    } loads[] = {{m_device, {"] begin getProperty", "] Start to load properties.", "] end getProperty",
+                             "] begin showGenParam", "] end showGenParam"}},
+                 {m_empty, {"] begin getProperty", "] SubParams is empty!", "] end getProperty"}}};
+    for (const auto& load : loads) {
+        LogCapture log;
+        std::unique_ptr<CPropertyFeaturesForm> form(newForm(load.device, true));
+        QVERIFY(form && form->isLoaded());
+        QCOMPARE(form->featureNames().isEmpty(), load.device == m_empty);
+        int at = 0;
+        for (const QString& text : load.lines) {
+            at = log.find("CPropertyFeaturesForm", text, at);
+            QVERIFY2(at >= 0, qPrintable(text + " not logged by CPropertyFeaturesForm in:\n" + log.lines().join('\n')));
+        }
+        QVERIFY(log.lines().filter("Get children params failed!").isEmpty());
+        QCOMPARE(log.find("CPropertyFeaturesForm", "SubParams is empty!") >= 0, load.device == m_empty);
+    }
 }
 
 void TestFeaturesForm::cameraGoneWhileLoading()
