@@ -115,8 +115,7 @@ private slots:
             QVERIFY(!isVisibilityShown(Node::visibilityInvisible, level));
             QVERIFY(!isVisibilityShown(Node::visibilityUndefined, level));
         }
-        QVERIFY(!isVisibilityShown(Node::visibilityBeginner, 3));
-        QVERIFY(!isGenParamVisible(nullptr, 2));
+        QVERIFY(!isVisibilityShown(Node::visibilityBeginner, 3) && !isGenParamVisible(nullptr, 2));
     }
 
     void errorTextComesFromTheCameraLibrary()
@@ -142,8 +141,7 @@ private slots:
         QCOMPARE(joinCommandLine(1, full), QString());
 
         const QString before = QDir::currentPath();
-        QVERIFY(QDir(m_dir.path()).mkpath(QStringLiteral("bin")));
-        QVERIFY(QDir::setCurrent(m_dir.path()));
+        QVERIFY(QDir(m_dir.path()).mkpath(QStringLiteral("bin")) && QDir::setCurrent(m_dir.path()));
         QVERIFY(!changeToExecutableDir("app"));
         QCOMPARE(QDir::currentPath(), QDir(m_dir.path()).canonicalPath());
         QVERIFY(changeToExecutableDir("./bin/app"));
@@ -193,13 +191,11 @@ private slots:
 
     void printSinks()
     {
-        QVERIFY(!logPrintProc(nullptr));
-        QVERIFY(!updateLogPrintProc(nullptr));
+        QVERIFY(!logPrintProc(nullptr) && !updateLogPrintProc(nullptr));
 
         const QString path = getLogFilePath();
         QFile::remove(path);
-        QVERIFY(!logPrintProc("from Vorlen::GenICam::CSystem\n"));
-        QVERIFY(!QFile::exists(path));
+        QVERIFY(!logPrintProc("from Vorlen::GenICam::CSystem\n") && !QFile::exists(path));
 
         // Lines from several threads stay whole.
         QList<QThread*> workers;
@@ -234,8 +230,7 @@ private slots:
 
         const QString upgrade = getUpdateLogFilePath();
         QFile::remove(upgrade);
-        QVERIFY(updateLogPrintProc("Vorlen:: is not filtered here|"));
-        QVERIFY(updateLogPrintProc("next"));
+        QVERIFY(updateLogPrintProc("Vorlen:: is not filtered here|") && updateLogPrintProc("next"));
         QCOMPARE(readAll(upgrade), QByteArray("Vorlen:: is not filtered here|next"));
     }
 

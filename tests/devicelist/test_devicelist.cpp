@@ -146,8 +146,7 @@ void TestDeviceList::treeBuiltAndRefreshKeepsItems()
     // A refresh with the same cameras keeps items, selection and buttons.
     QSignalSpy finished(m_form, &CDiscoveryDevicesForm::discoveryDevicesFinished);
     QTest::mouseClick(m_form->refreshButton(), Qt::LeftButton);
-    QVERIFY(!m_form->refreshButton()->isEnabled());
-    QVERIFY(finished.wait(20000));
+    QVERIFY(!m_form->refreshButton()->isEnabled() && finished.wait(20000));
     QTRY_VERIFY(m_form->refreshButton()->isEnabled());
     QVERIFY(itemOf(0) == first && itemOf(1) == second && gige->childCount() == 2);
     QVERIFY(m_form->currentItem() == first && m_form->hoverItem() == second);
@@ -203,8 +202,7 @@ void TestDeviceList::buttonsFollowTheCamera()
     QSignalSpy closed(m_form, &CDiscoveryDevicesForm::closeDeviceSuccess);
     m_form->setHoverItem(item);
     m_form->buttonsOf(item)->getDisconnectBtn()->click();
-    QVERIFY(closed.wait(15000) && !device->isConnected());
-    QVERIFY(waitIcon(0, iconNormal));
+    QVERIFY(closed.wait(15000) && !device->isConnected() && waitIcon(0, iconNormal));
     buttons = m_form->buttonsOf(item);
     QVERIFY(buttons->getConnectBtn()->isVisible() && buttons->getConnectBtn()->isEnabled());
     QVERIFY(buttons->getDisconnectBtn()->isHidden());
@@ -241,8 +239,7 @@ void TestDeviceList::menuAndDoubleClickConnect()
     QCOMPARE(m_form->currentItem(), item);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
-    QVERIFY(device->isConnected());
-    QVERIFY(closeDevice(1));
+    QVERIFY(device->isConnected() && closeDevice(1));
 
     // "Open Config" and "Save Config" are the main window's: the panel asks.
     QSignalSpy openConfig(m_form, &CDiscoveryDevicesForm::signalOpenConfig);
@@ -342,8 +339,7 @@ void TestDeviceList::userIdShownAfterRefresh()
     int length = 0;
     QVERIFY(device->getParaStringValue("DeviceUserID", value, length));
     QCOMPARE(value, QString("Line A"));
-    QVERIFY(device->setParaStringValue("DeviceUserID", QString()));
-    QVERIFY(closeDevice(1));
+    QVERIFY(device->setParaStringValue("DeviceUserID", QString()) && closeDevice(1));
 }
 
 void TestDeviceList::persistentIpWrittenToCamera()
@@ -362,8 +358,7 @@ void TestDeviceList::persistentIpWrittenToCamera()
             deviceOf(1)->getParaIntValue("GevPersistentDefaultGateway", gateway) &&
             deviceOf(1)->getParaBoolValue("GevCurrentIPConfigurationPersistentIP", enabled));
     QVERIFY(quint32(ip) == 0xC0A80714u && quint32(mask) == 0xFFFFFF00u && quint32(gateway) == 0xC0A80701u);
-    QVERIFY(enabled);
-    QVERIFY(closeDevice(1));
+    QVERIFY(enabled && closeDevice(1));
 }
 
 void TestDeviceList::saveGenICamXml()
@@ -407,8 +402,7 @@ void TestDeviceList::saveGenICamXml()
 void TestDeviceList::languageSwitch()
 {
     QTreeWidgetItem* streaming = itemOf(0);
-    QVERIFY(connectByButton(0));
-    QVERIFY(m_form->prepareDeviceMenu(streaming));
+    QVERIFY(connectByButton(0) && m_form->prepareDeviceMenu(streaming));
     m_form->actionPlay()->trigger();
     QVERIFY(waitIcon(0, iconAcquisition));
     m_form->on_deviceList_itemClicked(streaming, 0);
@@ -432,8 +426,7 @@ void TestDeviceList::languageSwitch()
     QTRY_COMPARE(m_form->refreshButton()->text(), QString("refresh"));
     QCOMPARE(m_form->infoRows(true).at(7).first, QString("Serial Number"));
     m_form->actionPlay()->trigger();
-    QVERIFY(waitIcon(0, iconConnected));
-    QVERIFY(closeDevice(0));
+    QVERIFY(waitIcon(0, iconConnected) && closeDevice(0));
 }
 
 void TestDeviceList::vanishedCameraLeavesTree()

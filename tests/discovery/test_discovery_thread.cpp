@@ -141,8 +141,7 @@ void TestDiscoveryThread::passesByModeAndCameraList()
 
     // Each pass replaces the list; the first-pass flag stays set.
     f.system->registry.clear();
-    QVERIFY(f.pass(QString(), 0));
-    QVERIFY(f.thread->getVecCamera().empty() && f.thread->isFirstDiscoveryFinished());
+    QVERIFY(f.pass(QString(), 0) && f.thread->getVecCamera().empty() && f.thread->isFirstDiscoveryFinished());
 
     // Network bit: broadcast (or unicast); second-interface bit; the
     // start-up bit alone does neither; 0 means both.
@@ -225,8 +224,7 @@ void TestDiscoveryThread::unicastListKeptAndReprobed()
 
     // A failing probe call drops the address as well.
     f.system->setAddresses({"10.0.0.8"}, {"10.0.0.8"});
-    QVERIFY(f.pass(QString(), 0));
-    QVERIFY(f.thread->unicastAddresses().isEmpty());
+    QVERIFY(f.pass(QString(), 0) && f.thread->unicastAddresses().isEmpty());
 }
 
 void TestDiscoveryThread::resultOfAPass()

@@ -120,8 +120,7 @@ Ints mosaic(const char* pattern, int w, int h, int r, int g, int b)
 
 void expectInvalid(const CQtHybridFrame& f)
 {
-    QVERIFY(!f.isHybridFrameValid());
-    QVERIFY(f.getConvertedData() == nullptr);
+    QVERIFY(!f.isHybridFrameValid() && f.getConvertedData() == nullptr);
     QCOMPARE(f.getConvertedDataSize(), uint64_t(0));
     QCOMPARE(f.getConvertedPixelType(), convertedNone);
 }

@@ -159,8 +159,7 @@ void TestFeaturesForm::initTestCase()
 
     m_form = newForm(m_device, false);
     QSignalSpy finished(m_form, &CPropertyFeaturesForm::showGenParamFinish);
-    QVERIFY(m_form->isLoadingGenParams());
-    QVERIFY(finished.wait(20000));
+    QVERIFY(m_form->isLoadingGenParams() && finished.wait(20000));
     QVERIFY(!m_form->isLoadingGenParams() && m_form->isLoaded());
     m_form->resize(600, 800);
     m_form->show();
@@ -251,8 +250,7 @@ void TestFeaturesForm::rowsPerNodeKind()
     QVERIFY(category->toolTip().contains(normal("Category Name: ") + bold("ImageFormatControl")));
 
     // Invisible nodes never become rows; every other row is findable by name.
-    QVERIFY(!row("TestInvisibleValue") && !row("GainRaw"));
-    QVERIFY(m_form->featureNames().size() > 300);
+    QVERIFY(!row("TestInvisibleValue") && !row("GainRaw") && m_form->featureNames().size() > 300);
 }
 
 void TestFeaturesForm::rangeWarningAndUnavailableRows()
@@ -273,8 +271,7 @@ void TestFeaturesForm::rangeWarningAndUnavailableRows()
     QCOMPARE(binning->displayMode(), QtProperty::DisplayIcon);
     QCOMPARE(binning->toolTip(), QString("Parameter out of range"));
     QVERIFY(binning->txtTag().contains(normal("Feature Name: ") + bold("BinningHorizontal")));
-    QVERIFY(m_rig.writeRegister(m_cam, 0x108, 1));
-    QVERIFY(refreshRow("BinningHorizontal"));
+    QVERIFY(m_rig.writeRegister(m_cam, 0x108, 1) && refreshRow("BinningHorizontal"));
     QCOMPARE(binning->displayMode(), QtProperty::DisplayNormal);
     QCOMPARE(binning->toolTip(), binning->txtTag());
 }
@@ -294,8 +291,7 @@ void TestFeaturesForm::writesAreCheckedAndReadBack()
     // A good value reaches the camera.
     m_messages.clear();
     m.integer->setValue(width, 256);
-    QVERIFY(waitWrite("Width"));
-    QVERIFY(m_messages.isEmpty());
+    QVERIFY(waitWrite("Width") && m_messages.isEmpty());
     QCOMPARE(deviceValue("Width"), QString("256"));
     QCOMPARE(m.integer->value(width), 256.0);
 
@@ -318,8 +314,7 @@ void TestFeaturesForm::writesAreCheckedAndReadBack()
     QCOMPARE(persistent->valueText(), before);
     m_messages.clear();
     m.string->setValue(persistent, "192.168.7.9");
-    QVERIFY(waitWrite("GevPersistentIPAddress"));
-    QVERIFY(m_messages.isEmpty());
+    QVERIFY(waitWrite("GevPersistentIPAddress") && m_messages.isEmpty());
     QCOMPARE(persistent->valueText(), QString("192.168.7.9"));
 
     // Enumeration by its shown text; boolean announces itself.
@@ -352,15 +347,13 @@ void TestFeaturesForm::commandExecutingUntilCameraReleasesIt()
     // The camera completes it.
     const guint32 zero = 0;
     arv_fake_camera_write_memory(m_rig.fake(m_cam), 0x4000, 4, &zero);
-    QVERIFY(finished.wait(5000));
-    QVERIFY(finished.first().at(0).toString() == "TestHoldCommand" && hold->isDone());
+    QVERIFY(finished.wait(5000) && finished.first().at(0).toString() == "TestHoldCommand" && hold->isDone());
     QTRY_COMPARE_WITH_TIMEOUT(m_form->commandThread()->pendingNames(), 0, 5000);
 
     // A command that finishes at once never enters the executing state.
     finished.clear();
     m_form->managers().command->click(row("TestHoldRelease"), false);
-    QVERIFY(finished.wait(5000));
-    QVERIFY(row("TestHoldRelease")->isDone() && m_messages.isEmpty());
+    QVERIFY(finished.wait(5000) && row("TestHoldRelease")->isDone() && m_messages.isEmpty());
 }
 
 void TestFeaturesForm::cameraSideChangesRefreshRows()

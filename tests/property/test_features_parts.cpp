@@ -251,9 +251,7 @@ void TestFeaturesParts::filterByKeyAndLevel()
     QVERIFY(browser.treeWidget()->updatesEnabled());
 
     bool ok = false;
-    QVERIFY(browser.isPropertyInvisible(t.deep, 1, &ok));
-    QVERIFY(ok);
-    QVERIFY(!browser.isPropertyInvisible(t.deep, 2, &ok));
+    QVERIFY(browser.isPropertyInvisible(t.deep, 1, &ok) && ok && !browser.isPropertyInvisible(t.deep, 2, &ok));
 }
 
 void TestFeaturesParts::commandButtonExecutingState()
@@ -272,8 +270,7 @@ void TestFeaturesParts::commandButtonExecutingState()
     QVERIFY(button);
     QCOMPARE(button->text(), QString("{Command}"));
     auto* label = button->parentWidget()->findChild<QLabel*>("labelExecuting");
-    QVERIFY(label && label->text() == "{Executing}");
-    QVERIFY(!button->isHidden() && label->isHidden());
+    QVERIFY(label && label->text() == "{Executing}" && !button->isHidden() && label->isHidden());
 
     QSignalSpy clicks(&factory, &QtPushButtonFactory::onClick);
     button->click();

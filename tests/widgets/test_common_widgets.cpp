@@ -113,8 +113,7 @@ private slots:
         // The operator cannot make it go away while the work runs.
         QTest::keyClick(&dlg, Qt::Key_Escape);
         dlg.reject();
-        QVERIFY(dlg.isVisible());
-        QVERIFY(!dlg.findChild<QToolButton*>(QStringLiteral("btnDialogClose"))->isVisible());
+        QVERIFY(dlg.isVisible() && !dlg.findChild<QToolButton*>(QStringLiteral("btnDialogClose"))->isVisible());
 
         dlg.accept();
         QVERIFY(!dlg.isVisible() && !busy->isAnimating());
