@@ -21,33 +21,18 @@ class CSetIPDlg : public CFramelessDialog
 {
     Q_OBJECT
 public:
-    static const int kPostMsgEventType = 1100;
-    class CPostMsgEvent : public QEvent
-    {
-    public:
-        CPostMsgEvent(unsigned int msg, unsigned long long w, unsigned long long l)
-            : QEvent(QEvent::Type(kPostMsgEventType)), message(msg), wParam(w), lParam(l)
-        {
-        }
-        unsigned int message;
-        unsigned long long wParam;
-        unsigned long long lParam;
-    };
-
     explicit CSetIPDlg(bool modal = true, QWidget* parent = nullptr);
     ~CSetIPDlg() override;
 
     // Fills both sections; "Device not found." when the key no longer resolves.
     bool setInfo(const Vorlen::GenICam::TSharedPtrGigEInterfaceInfo& info, const Vorlen::Infra::CString& key);
 
-    static bool isNetMaskMatched(const QString& mask);
     static bool isInSameSubnet(const QString& a, const QString& b, const QString& mask);
     // Every dotted part of 256..999 becomes 255; true when something changed.
     static bool invalidIPto255(QString& text);
     // Message of a checkIp code (empty for 0).
     static QString checkIpMessage(int code);
 
-    void postMsg(unsigned int msg, unsigned long long wParam, unsigned long long lParam);
     void saveConfig();
     void restoreConfig();
 
@@ -68,7 +53,6 @@ public:
     CWaitDlg* waitDialog() const { return m_pWaitDlg; }
     // A force or persistent write is under way.
     bool isBusy() const { return m_bBusy; }
-    int postedMessageCount() const { return m_nPostedMessages; }
 
 public slots:
     // Refused while a camera write is under way, so its outcome is shown.
@@ -83,9 +67,6 @@ public slots:
     void on_txtDevGateway_cursorPositionChanged(int oldPos, int newPos);
     void onSetIpEnd(bool ok);
     void onRestoreCfg();
-
-protected:
-    bool event(QEvent* event) override;
 
 private:
     void retranslateUi();
@@ -103,7 +84,6 @@ private:
     CWaitDlg* m_pWaitDlg;
     bool m_bBusy = false;
     bool m_bSubnetWarning = false;
-    int m_nPostedMessages = 0;
 
     QLabel* m_lblInterfaceSection;
     QLabel* m_lblDeviceSection;

@@ -22,14 +22,6 @@ void TestAddress::conversions()
     QCOMPARE(IPStrToInt(""), 0u);
     QCOMPARE(IPIntToStr(0xC0A8010Au), std::string("192.168.1.10"));
     QCOMPARE(IPIntToStr(0), std::string("0.0.0.0"));
-
-    std::vector<std::string> parts{"old"};
-    splitStr("a..b.", ".", parts);
-    QCOMPARE(parts, (std::vector<std::string>{"a", "", "b", ""}));
-    splitStr("1::2::3", "::", parts);
-    QCOMPARE(parts, (std::vector<std::string>{"1", "2", "3"}));
-    splitStr("", ".", parts);
-    QCOMPARE(parts, (std::vector<std::string>{""}));
 }
 
 void TestAddress::addressTextRules()
@@ -42,15 +34,13 @@ void TestAddress::addressTextRules()
         QVERIFY2(!isValidIP(bad), bad);
     QVERIFY(!isValidIP(nullptr));
 
-    QVERIFY(isValidRange("223.1.1.1"));
-    QVERIFY(!isValidRange("224.0.0.1"));
+    QVERIFY(isValidRange("223.1.1.1") && !isValidRange("224.0.0.1"));
     QVERIFY(isValidRange("0.1.2.3"));   // the range rule lets 0.*.*.* pass
     QVERIFY(!isValidRange("223"));      // no dot
     QVERIFY(isValidRange("abc.1"));     // an unreadable first part counts as 0
 
     // True means "not a loopback address".
-    QVERIFY(isLookBackIP("10.0.0.1"));
-    QVERIFY(!isLookBackIP("127.0.0.2"));
+    QVERIFY(isLookBackIP("10.0.0.1") && !isLookBackIP("127.0.0.2"));
     QVERIFY(!isLookBackIP("127"));   // no dot
 
     for (const char* good : {"255.255.255.0", "255.255.255.255", "128.0.0.0", "255.255.254.0", "255.255.255.252"})
@@ -99,13 +89,9 @@ void TestAddress::checkIpVerdicts()
         {"192.168.7.5", "255.255.0.0", "0.0.0.0", CHECK_IP_OK, "255.255.0.0"},
     };
     for (const SCase& c : cases) {
-        const int code =
-            checkIp("192.168.1.5", c.interfaceMask ? c.interfaceMask : "255.255.255.0", "192.168.1.1", c.ip, c.mask,
-                    c.gateway);
-        QVERIFY2(code == c.code, qPrintable(QString("%1 %2 %3: %4, expected %5")
-                                                .arg(c.ip, c.mask, c.gateway)
-                                                .arg(code)
-                                                .arg(c.code)));
+        const int code = checkIp("192.168.1.5", c.interfaceMask ? c.interfaceMask : "255.255.255.0", "192.168.1.1",
+                                 c.ip, c.mask, c.gateway);
+        QVERIFY2(code == c.code, qPrintable(QString("%1 %2 %3: %4").arg(c.ip, c.mask, c.gateway).arg(code)));
     }
 }
 

@@ -1,9 +1,11 @@
 // The window an operator sees: four simulated cameras connected from the
 // device list's path show moving pictures in their views, each gets its
-// feature pages, a click on a view makes its camera current in every panel,
-// and closing the window closes the cameras before it quits.
+// feature pages, a view stops and starts again from its play button, a click
+// on a view makes its camera current in every panel, and closing the window
+// closes the cameras before it quits.
 // GLib headers come before Qt's: Qt defines "signals" as a keyword.
 #include "FakeCameraRig.h"
+#include <QToolButton>
 #include <QtTest>
 #include <memory>
 
@@ -21,6 +23,7 @@
 #include "CVideoControlBar.h"
 #include "CVideoForm.h"
 #include "CVideoManagerForm.h"
+#include "CVideoStatusBar.h"
 #include "DeviceTestSupport.h"
 #include "MainWindow.h"
 
@@ -112,7 +115,19 @@ void TestLumidorWindow::fourCamerasInTheWholeWindow()
         const quint64 painted = wnd->paintedFrameCount();
         QTRY_VERIFY_WITH_TIMEOUT(wnd->paintedFrameCount() >= painted + 2, 10000);
         QVERIFY2(first != wnd->grab().toImage(), qPrintable(QString("view of camera %1 is still").arg(i)));
+        QCOMPARE(wnd->imageSize(), QSize(320, 240));
+        QTRY_VERIFY_WITH_TIMEOUT(view->statusBar()->statisticsText().contains("Frames"), 5000);
     }
+
+    // Stop and start again from a view's play button.
+    CVideoForm* first = multi->getForm(multi->getFormIdByDevice(m_devices[0]));
+    first->controlBar()->playButton()->click();
+    QTRY_VERIFY_WITH_TIMEOUT(!first->controlBar()->isStreaming(), 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(first->controlBar()->playButton()->isEnabled(), 10000);
+    first->controlBar()->playButton()->click();
+    QTRY_VERIFY_WITH_TIMEOUT(first->controlBar()->isStreaming(), 10000);
+    const quint64 painted = first->displayWnd()->paintedFrameCount();
+    QTRY_VERIFY_WITH_TIMEOUT(first->displayWnd()->paintedFrameCount() > painted, 10000);
 
     // A click on a view makes its camera current in the property panel.
     CVideoForm* third = multi->getForm(multi->getFormIdByDevice(m_devices[2]));
@@ -129,6 +144,7 @@ void TestLumidorWindow::fourCamerasInTheWholeWindow()
         QTRY_VERIFY_WITH_TIMEOUT(multi->getFormIdByDevice(m_devices[i]) < 0, 10000);
         QTRY_VERIFY_WITH_TIMEOUT(property->featuresPage(m_devices[i]) == nullptr, 10000);
     }
+    QCOMPARE(multi->getCurrentLayout(), VIDEO_LAYOUT_4);   // the views are freed, the layout stays
 }
 
 QTEST_MAIN(TestLumidorWindow)

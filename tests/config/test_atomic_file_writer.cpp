@@ -45,8 +45,7 @@ private slots:
         const QString path = dir.filePath(QStringLiteral("settings.xml"));
 
         QString error;
-        QVERIFY(CAtomicFileWriter::writeFile(path, "first", &error));
-        QVERIFY(error.isEmpty());
+        QVERIFY(CAtomicFileWriter::writeFile(path, "first", &error) && error.isEmpty());
         QCOMPARE(readAll(path), QByteArray("first"));
 
         // The replacement is a new file with the old one's permissions.
@@ -54,11 +53,9 @@ private slots:
         const ino_t before = statOf(path).st_ino;
         {
             CAtomicFileWriter out(path);
-            QVERIFY(out.open());
-            QVERIFY(out.write("sec", 3));
+            QVERIFY(out.open() && out.write("sec", 3));
             QCOMPARE(readAll(path), QByteArray("first"));   // nothing shows before commit
-            QVERIFY(out.write(QByteArray("ond")));
-            QVERIFY(out.commit());
+            QVERIFY(out.write(QByteArray("ond")) && out.commit());
         }
         QCOMPARE(readAll(path), QByteArray("second"));
         QVERIFY(statOf(path).st_ino != before);
@@ -67,22 +64,19 @@ private slots:
         // Not committed (cancelled, or the writer goes away): nothing changes.
         {
             CAtomicFileWriter out(path);
-            QVERIFY(out.open());
-            QVERIFY(out.write("third"));
+            QVERIFY(out.open() && out.write("third"));
             out.cancel();
             QVERIFY(!out.commit());
         }
         {
             CAtomicFileWriter out(path);
-            QVERIFY(out.open());
-            QVERIFY(out.write("fourth"));
+            QVERIFY(out.open() && out.write("fourth"));
         }
         QCOMPARE(readAll(path), QByteArray("second"));
 
         // A symbolic link is written through: it stays a link.
         const QString link = dir.filePath(QStringLiteral("link.xml"));
-        QVERIFY(QFile::link(path, link));
-        QVERIFY(CAtomicFileWriter::writeFile(link, "through the link"));
+        QVERIFY(QFile::link(path, link) && CAtomicFileWriter::writeFile(link, "through the link"));
         QVERIFY(S_ISLNK(statOf(link).st_mode));
         QCOMPARE(readAll(path), QByteArray("through the link"));
 
@@ -96,8 +90,7 @@ private slots:
         QVERIFY(QDir().mkpath(folder + QStringLiteral("/inside")));
         QVERIFY(!CAtomicFileWriter::writeFile(folder, "x", &error));
         QCOMPARE(error, systemText(EISDIR));
-        QVERIFY(QFileInfo(folder + QStringLiteral("/inside")).isDir());
-        QVERIFY(QDir(folder).removeRecursively());
+        QVERIFY(QFileInfo(folder + QStringLiteral("/inside")).isDir() && QDir(folder).removeRecursively());
 
         QCOMPARE(filesIn(dir.path()), QStringList() << QStringLiteral("link.xml") << QStringLiteral("settings.xml"));
     }

@@ -364,8 +364,7 @@ private slots:
         Tavlog4cpp::CTavLog::Logger_vintrel()->addAppender(log);
 
         c->iHeartbeatIval = 4321;
-        QVERIFY(!c->restoreConfig(fifo, true));
-        QVERIFY(!c->hasLumidorElement(fifo));
+        QVERIFY(!c->restoreConfig(fifo, true) && !c->hasLumidorElement(fifo));
         QVERIFY(!c->restoreConfig(m_work, true));   // a directory
         QCOMPARE(c->iHeartbeatIval, uint16_t(4321));
 

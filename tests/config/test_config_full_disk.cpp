@@ -42,8 +42,7 @@ private slots:
 
         c->iHeartbeatIval = 4000;
         c->RemoteIpAddr = QStringLiteral("10.1.2.3");
-        QVERIFY(c->saveConfigToUserXml());
-        QVERIFY(c->lastSaveError().isEmpty());
+        QVERIFY(c->saveConfigToUserXml() && c->lastSaveError().isEmpty());
         const QByteArray saved = readAll(userPath);
         QVERIFY(saved.contains("<iHeartbeatIval>4000</iHeartbeatIval>"));
 
@@ -71,8 +70,7 @@ private slots:
         // Space again: the next save goes through.
         m_disk.release();
         c->iHeartbeatIval = 2222;
-        QVERIFY(c->saveConfigToUserXml());
-        QVERIFY(c->lastSaveError().isEmpty());
+        QVERIFY(c->saveConfigToUserXml() && c->lastSaveError().isEmpty());
         QVERIFY(readAll(userPath).contains("<iHeartbeatIval>2222</iHeartbeatIval>"));
         m_owner.reset();
     }

@@ -53,8 +53,7 @@ private slots:
 void TestJobQueue::jobsRunInOrderOnTheWorker()
 {
     CJobQueueThread worker("TestWorker");
-    QVERIFY(!worker.isBusy());
-    QVERIFY(worker.waitIdle(0));
+    QVERIFY(!worker.isBusy() && worker.waitIdle(0));
 
     SGate gate;
     QList<int> order;   // written by the worker only while the test waits
@@ -65,24 +64,19 @@ void TestJobQueue::jobsRunInOrderOnTheWorker()
             order.append(i);
             onWorker = onWorker && QThread::currentThread() == &worker;
         });
-    QVERIFY(gate.entered.tryAcquire(1, 10000));
-    QVERIFY(worker.isBusy());
+    QVERIFY(gate.entered.tryAcquire(1, 10000) && worker.isBusy());
     QCOMPARE(worker.pendingCount(), 20);
-    QVERIFY(!worker.waitIdle(0));
-    QVERIFY(!CJobQueueThread::waitUntilQuiet(0));
+    QVERIFY(!worker.waitIdle(0) && !CJobQueueThread::waitUntilQuiet(0));
 
     gate.release.release();
-    QVERIFY(worker.waitIdle(10000));
-    QVERIFY(CJobQueueThread::waitUntilQuiet(10000));
+    QVERIFY(worker.waitIdle(10000) && CJobQueueThread::waitUntilQuiet(10000));
     QCOMPARE(order.size(), 20);
     for (int i = 0; i < order.size(); ++i)
         QCOMPARE(order[i], i);
-    QVERIFY(onWorker);
-    QVERIFY(!worker.isBusy());
+    QVERIFY(onWorker && !worker.isBusy());
 
     // Dropped before they start: what they hold is released.
-    QVERIFY(worker.post(gate.job()));
-    QVERIFY(gate.entered.tryAcquire(1, 10000));
+    QVERIFY(worker.post(gate.job()) && gate.entered.tryAcquire(1, 10000));
     auto held = std::make_shared<int>(1);
     worker.post([held]() {});
     QCOMPARE(held.use_count(), 2L);
@@ -102,8 +96,7 @@ void TestJobQueue::stopRunsOrDropsTheQueue()
         QVERIFY(holdWithOneQueued(worker, gate, ran));
         worker.post([&ran]() { ++ran; });
         worker.stop();
-        QVERIFY(worker.isStopping());
-        QVERIFY(!worker.post([&ran]() { ran += 100; }));
+        QVERIFY(worker.isStopping() && !worker.post([&ran]() { ran += 100; }));
         gate.release.release();
         QVERIFY(worker.wait(10000));
         QCOMPARE(ran.load(), 2);
@@ -114,8 +107,7 @@ void TestJobQueue::stopRunsOrDropsTheQueue()
         CJobQueueThread worker("TestWorker");
         SGate gate;
         std::atomic<int> ran{0};
-        QVERIFY(holdWithOneQueued(worker, gate, ran));
-        QVERIFY(!worker.stopAndWait(0, true));
+        QVERIFY(holdWithOneQueued(worker, gate, ran) && !worker.stopAndWait(0, true));
         QCOMPARE(worker.pendingCount(), 0);
         gate.release.release();
         QVERIFY(worker.stopAndWait(10000, true));
@@ -136,8 +128,7 @@ void TestJobQueue::retiredWorkerEndsOnItsOwn()
         std::atomic<int> ran{0};
         QVERIFY(holdWithOneQueued(*worker, gate, ran));
         worker->retire(dropPending);
-        QVERIFY(alive);
-        QVERIFY(!CJobQueueThread::waitUntilQuiet(0));
+        QVERIFY(alive && !CJobQueueThread::waitUntilQuiet(0));
         gate.release.release();
         QVERIFY(CJobQueueThread::waitUntilQuiet(10000));
         QTRY_VERIFY_WITH_TIMEOUT(alive.isNull(), 10000);

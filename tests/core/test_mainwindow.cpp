@@ -108,8 +108,7 @@ private slots:
         QVERIFY(none->isVisible() && !none->isEnabled());
         auto* tool = new QAction(QStringLiteral("Statistics"), &w);
         w.addToolsAction(tool);
-        QVERIFY(!none->isVisible());
-        QVERIFY(w.toolsMenu()->actions().contains(tool));
+        QVERIFY(!none->isVisible() && w.toolsMenu()->actions().contains(tool));
 
         // Help opens one window however often it is asked for; About tells
         // both versions.
@@ -148,8 +147,7 @@ private slots:
         QVERIFY(left->isCollapsed());
         QCOMPARE(left->width(), CCollapsiblePanel::kStripWidth);
         QCOMPARE(right->width(), CCollapsiblePanel::kStripWidth);
-        QVERIFY(!w.deviceListArea()->isVisible());
-        QVERIFY(w.videoArea()->width() > 1300);
+        QVERIFY(!w.deviceListArea()->isVisible() && w.videoArea()->width() > 1300);
 
         left->toggleButton()->click();
         right->setCollapsed(false);
@@ -306,9 +304,7 @@ private slots:
         // The spies record on this thread: the last relays may still be queued.
         QTRY_COMPARE(finished.count(), 1);
         QCOMPARE(begin.count(), 1);
-        QVERIFY(waitShownWhileClosing);
-        QVERIFY(!w.isVisible());
-        QVERIFY(!w.closeWaitDialog()->isVisible());
+        QVERIFY(waitShownWhileClosing && !w.isVisible() && !w.closeWaitDialog()->isVisible());
         QVERIFY(worker->waitIdle(10000));
     }
 };

@@ -94,8 +94,7 @@ private slots:
 
         const QString cfgDir = home.path() + QStringLiteral("/Lumidor/cfg/app/");
         const QByteArray defaults = readAll(cfgDir + QStringLiteral("LumidorDefault.tavcfg"));
-        QVERIFY(defaults.startsWith("<?xml"));
-        QVERIFY(defaults.contains("<Lumidor>"));
+        QVERIFY(defaults.startsWith("<?xml") && defaults.contains("<Lumidor>"));
         QVERIFY(defaults.contains("<logFileName>" + home.path().toUtf8() + "/Lumidor/EventMonitor.txt<"));
         QVERIFY(!QFile::exists(cfgDir + QStringLiteral("Lumidor.tavcfg")));
     }

@@ -73,8 +73,7 @@ private slots:
 
         const QString logA = m_dir.filePath("a.log");
         const QString propsA = m_dir.filePath("a.properties");
-        QVERIFY(writeAll(propsA, fileConfig(logA)));
-        QVERIFY(CTavLog::LoadConfig(qPrintable(propsA)));
+        QVERIFY(writeAll(propsA, fileConfig(logA)) && CTavLog::LoadConfig(qPrintable(propsA)));
 
         LOG_ERROR("value %d text %s", 42, "abc");
         const int line = __LINE__ - 1;
@@ -123,8 +122,7 @@ private slots:
         QCOMPARE(*log4cpp::Category::getInstance("vintrel").getAllAppenders().begin(),
                  log4cpp::Appender::getAppender("f"));
 
-        QVERIFY(writeAll(props, fileConfig(second)));
-        QVERIFY(CTavLog::LoadConfig(qPrintable(props)));
+        QVERIFY(writeAll(props, fileConfig(second)) && CTavLog::LoadConfig(qPrintable(props)));
         LOG_ERROR("moved");
         QVERIFY(!readAll(first).contains("moved"));
         QCOMPARE(readAll(second).count("moved\n"), 1);
@@ -142,8 +140,7 @@ private slots:
         std::cerr.flush();
         dup2(saved, STDERR_FILENO);
         ::close(saved);
-        QVERIFY(!loaded);
-        QVERIFY(readAll(errPath).contains("after a refused file"));
+        QVERIFY(!loaded && readAll(errPath).contains("after a refused file"));
         QVERIFY(!readAll(second).contains("after a refused file"));
     }
 
@@ -151,8 +148,7 @@ private slots:
     {
         const QString log = m_dir.filePath("threads.log");
         const QString props = m_dir.filePath("threads.properties");
-        QVERIFY(writeAll(props, fileConfig(log)));
-        QVERIFY(CTavLog::LoadConfig(qPrintable(props)));
+        QVERIFY(writeAll(props, fileConfig(log)) && CTavLog::LoadConfig(qPrintable(props)));
 
         const int threads = 4;
         const int perThread = 500;

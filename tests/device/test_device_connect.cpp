@@ -117,18 +117,15 @@ void TestDeviceConnect::openStreamCloseRepeatedly()
         if (round == 1)
             baseline = liveThreadCount();
 
-        QVERIFY(m_device->openDevice(false));
-        QVERIFY(m_device->isConnecting());
-        QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key));
-        QVERIFY(m_device->isConnected());
+        QVERIFY(m_device->openDevice(false) && m_device->isConnecting());
+        QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key) && m_device->isConnected());
         // The steps after the connection follow message 2 on the worker.
         QTRY_VERIFY(!m_device->isConnecting() && m_device->getStreamSource());
         QVERIFY(m_device->getEventManager());
         QCOMPARE(manager->getOpenedDeviceCount(), 1);
 
         QVERIFY2(m_device->openStream(), qPrintable(QString("round %1").arg(round)));
-        QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, m_key));
-        QVERIFY(m_device->isGrabing());
+        QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, m_key) && m_device->isGrabing());
         QVERIFY(m_device->GetStreamThread()->isRunning());
         QTRY_VERIFY_WITH_TIMEOUT(counter.frames >= 3, 10000);
         QVERIFY(counter.valid == counter.frames || counter.valid > 0);
@@ -137,13 +134,9 @@ void TestDeviceConnect::openStreamCloseRepeatedly()
         unsigned long long total = 0;
         QTRY_VERIFY_WITH_TIMEOUT((m_device->getStreamStatistic(rx, disp, total, bw), total >= 3), 5000);
 
-        QVERIFY(m_device->closeDevice(false));
-        QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
-        QVERIFY(!m_device->isConnected());
-        QVERIFY(!m_device->isDisconnecting());
-        QVERIFY(!m_device->isGrabing());
-        QVERIFY(!m_device->GetStreamThread()->isRunning());
-        QVERIFY(!m_device->getStreamSource());
+        QVERIFY(m_device->closeDevice(false) && m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
+        QVERIFY(!m_device->isConnected() && !m_device->isDisconnecting() && !m_device->isGrabing());
+        QVERIFY(!m_device->GetStreamThread()->isRunning() && !m_device->getStreamSource());
         QVERIFY(!m_device->getEventManager());
         QCOMPARE(manager->getOpenedDeviceCount(), 0);
         QCOMPARE(m_bus.statusTypes(m_key),
@@ -168,34 +161,25 @@ void TestDeviceConnect::secondOpenDuringConnectStartsNothing()
 {
     QVERIFY(m_device->openDevice(false));
     QVERIFY(!m_device->openDevice(false));   // the worker still runs
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key));
-    QVERIFY(settle(m_device));
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key) && settle(m_device));
     QCOMPARE(m_bus.count(MSG_DEVICE_CONNECTING, m_key), 1);
     QCOMPARE(m_bus.count(MSG_DEVICE_CONNECTED, m_key), 1);
     QCOMPARE(m_bus.count(MSG_DEVICE_CONNECT_FAILED, m_key), 0);
 
     // Open while connected changes nothing either.
-    QVERIFY(!m_device->openDevice(false));
-    QVERIFY(m_device->isConnected());
+    QVERIFY(!m_device->openDevice(false) && m_device->isConnected());
 
-    QVERIFY(m_device->closeDevice(false));
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
+    QVERIFY(m_device->closeDevice(false) && m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
 }
 
 void TestDeviceConnect::synchronousOpenAndClose()
 {
-    QVERIFY(m_device->openDevice(true));
-    QVERIFY(m_device->isConnected());
-    QVERIFY(m_device->getStreamSource());
+    QVERIFY(m_device->openDevice(true) && m_device->isConnected() && m_device->getStreamSource());
     QVERIFY(m_device->openStream());
     // Already asked for: a second open of the stream is refused.
-    QVERIFY(!m_device->openStream());
-    QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, m_key));
-    QVERIFY(!m_device->openStream());
-    QVERIFY(m_device->closeDevice(true));
-    QVERIFY(!m_device->isConnected());
-    QVERIFY(!m_device->GetStreamThread()->isRunning());
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
+    QVERIFY(!m_device->openStream() && m_bus.waitFor(MSG_STREAM_OPENED, m_key) && !m_device->openStream());
+    QVERIFY(m_device->closeDevice(true) && !m_device->isConnected());
+    QVERIFY(!m_device->GetStreamThread()->isRunning() && m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
     QCOMPARE(m_bus.statusTypes(m_key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECTED, MSG_STREAM_OPENED,
                                              MSG_DEVICE_DISCONNECTING, MSG_STREAM_CLOSED, MSG_DEVICE_DISCONNECTED}));
 }
@@ -208,8 +192,7 @@ void TestDeviceConnect::resetAndLinkSettingChanges()
     // The reset worker selects and loads the factory user set and makes it the default.
     CEnumNode selector(camera, "UserSetSelector");
     CEnumNode userSetDefault(camera, "UserSetDefault");
-    QVERIFY(selector.setValueBySymbol("UserSet1"));
-    QVERIFY(userSetDefault.setValueBySymbol("UserSet2"));
+    QVERIFY(selector.setValueBySymbol("UserSet1") && userSetDefault.setValueBySymbol("UserSet2"));
     CDeviceResetThread reset;
     QueuedSignalSpy resetDone(&reset, &CDeviceResetThread::device_reset);
     reset.setDevice(m_device);
@@ -260,15 +243,11 @@ void TestDeviceConnect::refusedWhenAnotherClientHoldsControl()
             m_device->getAccessPermission() == accessPermissionExclusive);
 
     m_bus.clear();
-    QVERIFY(m_device->openDevice(false));
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECT_FAILED, m_key, 20000));
+    QVERIFY(m_device->openDevice(false) && m_bus.waitFor(MSG_DEVICE_CONNECT_FAILED, m_key, 20000));
     QVERIFY(settle(m_device));
     QCOMPARE(m_bus.statusTypes(m_key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECT_FAILED}));
-    QVERIFY(!m_device->isConnected());
-    QVERIFY(!m_device->isConnecting());
-    QVERIFY(!m_device->getEventManager());
-    QVERIFY(!m_device->getStreamSource());
-    QVERIFY(!m_device->openStream());
+    QVERIFY(!m_device->isConnected() && !m_device->isConnecting() && !m_device->getEventManager());
+    QVERIFY(!m_device->getStreamSource() && !m_device->openStream());
 
     g_object_unref(other);
 
@@ -277,8 +256,7 @@ void TestDeviceConnect::refusedWhenAnotherClientHoldsControl()
     m_device->refreshAccessPermission();
     QVERIFY(m_bus.waitFor(MSG_ACCESS_STATUS_CHANGED, m_key));
     QCOMPARE(int(m_device->getAccessPermission()), int(accessPermissionOpen));
-    QVERIFY(m_device->openDevice(true));
-    QVERIFY(m_device->closeDevice(true));
+    QVERIFY(m_device->openDevice(true) && m_device->closeDevice(true));
 }
 
 void TestDeviceConnect::busMessagesFromDeviceSignals()
@@ -342,9 +320,7 @@ void TestDeviceConnect::busMessagesFromDeviceSignals()
 
 void TestDeviceConnect::streamNeedsConnection()
 {
-    QVERIFY(!m_device->isConnected());
-    QVERIFY(!m_device->openStream());
-    QVERIFY(!m_device->GetStreamThread()->isRunning());
+    QVERIFY(!m_device->isConnected() && !m_device->openStream() && !m_device->GetStreamThread()->isRunning());
 
     // The save name is a usable file-name stem ending in the serial number.
     const QString save = m_device->getDeviceSaveName();
@@ -373,8 +349,7 @@ void TestDeviceConnect::nameUsesCachedUserId()
     QCOMPARE(name(), plain);   // not connected: no user id
 
     // Read by the worker before message 2, so the list shows it at once.
-    QVERIFY(m_device->openDevice(false));
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key));
+    QVERIFY(m_device->openDevice(false) && m_bus.waitFor(MSG_DEVICE_CONNECTED, m_key));
     QCOMPARE(name(), QString("Line-A (LUMCONN1)"));
     QTRY_VERIFY(!m_device->isConnecting());
 
@@ -399,12 +374,10 @@ void TestDeviceConnect::nameUsesCachedUserId()
 
     // A discovery pass reads it again for a connected device.
     setCameraUserId("Line-E");
-    QVERIFY(rediscover());
-    QVERIFY(m_device->waitForWorker(10000));
+    QVERIFY(rediscover() && m_device->waitForWorker(10000));
     QCOMPARE(name(), QString("Line-E (LUMCONN1)"));
 
-    QVERIFY(m_device->closeDevice(false));
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
+    QVERIFY(m_device->closeDevice(false) && m_bus.waitFor(MSG_DEVICE_DISCONNECTED, m_key));
     QCOMPARE(name(), plain);
     QVERIFY(m_device->cachedUserId().isEmpty());
     setCameraUserId("");
@@ -417,11 +390,9 @@ void TestDeviceConnect::accessRefreshDuringReadIsCarriedOut()
     {
         CBlockingAccessThread thread;
         QueuedSignalSpy answered(&thread, &AccessStatusThread::signalRefreshAccessStatus);
-        QVERIFY(thread.RefreshAccessStatus(camera));
-        QVERIFY(thread.entered.tryAcquire(1, 10000));
+        QVERIFY(thread.RefreshAccessStatus(camera) && thread.entered.tryAcquire(1, 10000));
         thread.answer = accessPermissionControl;   // the second read sees the change
-        QVERIFY(thread.RefreshAccessStatus(camera));
-        QVERIFY(thread.RefreshAccessStatus(camera));
+        QVERIFY(thread.RefreshAccessStatus(camera) && thread.RefreshAccessStatus(camera));
         thread.release.release();
         QVERIFY(thread.entered.tryAcquire(1, 10000));
         thread.release.release();
@@ -431,8 +402,7 @@ void TestDeviceConnect::accessRefreshDuringReadIsCarriedOut()
         QCOMPARE(answered.at(0).at(0).value<ECameraAccessPermission>(), accessPermissionOpen);
         QCOMPARE(answered.at(1).at(0).value<ECameraAccessPermission>(), accessPermissionControl);
         // An idle thread starts again.
-        QVERIFY(thread.RefreshAccessStatus(camera));
-        QVERIFY(thread.entered.tryAcquire(1, 10000));
+        QVERIFY(thread.RefreshAccessStatus(camera) && thread.entered.tryAcquire(1, 10000));
         thread.release.release();
         QTRY_COMPARE_WITH_TIMEOUT(answered.count(), 3, 10000);
     }
@@ -446,8 +416,7 @@ void TestDeviceConnect::accessRefreshDuringReadIsCarriedOut()
         bool delivered = false;
         connect(thread, &AccessStatusThread::signalRefreshAccessStatus, owner, [&]() { delivered = true; },
                 Qt::QueuedConnection);
-        QVERIFY(thread->RefreshAccessStatus(camera));
-        QVERIFY(thread->entered.tryAcquire(1, 10000));
+        QVERIFY(thread->RefreshAccessStatus(camera) && thread->entered.tryAcquire(1, 10000));
         QVERIFY(thread->RefreshAccessStatus(camera));
         QSemaphore* release = &thread->release;
         std::atomic<int>* reads = &thread->reads;
@@ -455,8 +424,7 @@ void TestDeviceConnect::accessRefreshDuringReadIsCarriedOut()
         // then the owner goes.
         thread->retire();
         delete owner;
-        QVERIFY(alive);
-        QVERIFY(!thread->RefreshAccessStatus(camera));
+        QVERIFY(alive && !thread->RefreshAccessStatus(camera));
         QCOMPARE(reads->load(), 1);
         release->release();
         QTRY_VERIFY_WITH_TIMEOUT(alive.isNull(), 10000);

@@ -105,8 +105,7 @@ void TestDeviceLifecycle::closeDuringConnectFollowsIt()
     QCOMPARE(d->connectionState(), CTavDevice::stateConnecting);
     QVERIFY(d->closeDevice(false));
     QVERIFY(!d->openDevice(false));   // still busy: nothing new starts
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, key, 20000));
-    QVERIFY(settle(d));
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, key, 20000) && settle(d));
     QCOMPARE(m_bus.statusTypes(key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECTED,
                                                  MSG_DEVICE_DISCONNECTING, MSG_STREAM_CLOSED,
                                                  MSG_DEVICE_DISCONNECTED}));
@@ -116,12 +115,8 @@ void TestDeviceLifecycle::closeDuringConnectFollowsIt()
 
     // Same with the stream asked for in between: it is opened, then closed.
     m_bus.clear();
-    QVERIFY(d->openDevice(false));
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, key));
-    QVERIFY(d->openStream());
-    QVERIFY(d->closeDevice(false));
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, key, 20000));
-    QVERIFY(settle(d));
+    QVERIFY(d->openDevice(false) && m_bus.waitFor(MSG_DEVICE_CONNECTED, key) && d->openStream());
+    QVERIFY(d->closeDevice(false) && m_bus.waitFor(MSG_DEVICE_DISCONNECTED, key, 20000) && settle(d));
     QCOMPARE(m_bus.statusTypes(key), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECTED, MSG_STREAM_OPENED,
                                                  MSG_DEVICE_DISCONNECTING, MSG_STREAM_CLOSED,
                                                  MSG_DEVICE_DISCONNECTED}));
@@ -155,26 +150,21 @@ void TestDeviceLifecycle::cameraVanishesAtEachStep()
     // no close message is made up.
     QVERIFY(restore(1));
     m_bus.clear();
-    QVERIFY(d->openDevice(true));
-    QVERIFY(d->openStream());
+    QVERIFY(d->openDevice(true) && d->openStream());
     m_rig.stop(m_cam[1]);
     QVERIFY(m_bus.waitFor(MSG_DEVICE_OFFLINE, key, 30000));
     QTRY_VERIFY_WITH_TIMEOUT(d->connectionState() == CTavDevice::stateDisconnected, 30000);
-    QVERIFY(!d->GetStreamThread()->isRunning());
-    QVERIFY(!d->getStreamSource());
+    QVERIFY(!d->GetStreamThread()->isRunning() && !d->getStreamSource());
     QCOMPARE(m_bus.count(MSG_DEVICE_DISCONNECTED, key), 0);
     QVERIFY(!d->openStream());
 
     // While it closes: the close ends as asked (messages 4, 8, 5).
     QVERIFY(restore(1));
     m_bus.clear();
-    QVERIFY(d->openDevice(true));
-    QVERIFY(d->openStream());
-    QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, key));
+    QVERIFY(d->openDevice(true) && d->openStream() && m_bus.waitFor(MSG_STREAM_OPENED, key));
     QVERIFY(d->closeDevice(false));
     m_rig.stop(m_cam[1]);
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, key, 30000));
-    QVERIFY(settle(d));
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_DISCONNECTED, key, 30000) && settle(d));
     const QList<int> types = m_bus.statusTypes(key);
     QVERIFY2(types.mid(types.size() - 3) ==
                  QList<int>({MSG_DEVICE_DISCONNECTING, MSG_STREAM_CLOSED, MSG_DEVICE_DISCONNECTED}),
@@ -183,9 +173,7 @@ void TestDeviceLifecycle::cameraVanishesAtEachStep()
     QCOMPARE(d->connectionState(), CTavDevice::stateDisconnected);
 
     // Back again, the camera opens as before.
-    QVERIFY(restore(1));
-    QVERIFY(d->openDevice(true));
-    QVERIFY(d->closeDevice(true));
+    QVERIFY(restore(1) && d->openDevice(true) && d->closeDevice(true));
 }
 
 void TestDeviceLifecycle::killedMidStreamWhileStatisticsAreRead()
@@ -193,9 +181,7 @@ void TestDeviceLifecycle::killedMidStreamWhileStatisticsAreRead()
     const CTavDevicePtr d = device(2);
     const QString key = d->getDeviceKey();
     FrameCounter counter(d.get());
-    QVERIFY(d->openDevice(true));
-    QVERIFY(d->openStream());
-    QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, key));
+    QVERIFY(d->openDevice(true) && d->openStream() && m_bus.waitFor(MSG_STREAM_OPENED, key));
     QTRY_VERIFY_WITH_TIMEOUT(counter.frames >= 2, 10000);
 
     // A status bar reads the statistics on its own thread all along.
@@ -221,10 +207,7 @@ void TestDeviceLifecycle::killedMidStreamWhileStatisticsAreRead()
     QTRY_VERIFY(reads > before);   // the reader never blocked
     reading = false;
     reader.join();
-    QVERIFY(offline);
-    QVERIFY(down);
-    QVERIFY(!d->GetStreamThread()->isRunning());
-    QVERIFY(restore(2));
+    QVERIFY(offline && down && !d->GetStreamThread()->isRunning() && restore(2));
 }
 
 void TestDeviceLifecycle::settingsChangeWhileFourStream()
@@ -241,8 +224,7 @@ void TestDeviceLifecycle::settingsChangeWhileFourStream()
         QVERIFY(d->openDevice(false));
     for (const CTavDevicePtr& d : devices)
     {
-        QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, d->getDeviceKey(), 20000));
-        QVERIFY(d->openStream());
+        QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, d->getDeviceKey(), 20000) && d->openStream());
     }
     for (const CTavDevicePtr& d : devices)
         QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, d->getDeviceKey(), 20000));

@@ -53,8 +53,7 @@ void TestDeviceManager::initTestCase()
     enableLogWhenAsked();
     if (!FakeCameraRig::hasAddress(m_address[0]) || !FakeCameraRig::hasAddress(m_address[1]))
         QFAIL("rig missing: 127.0.0.3 and 127.0.0.4 are not on the loopback interface (run scripts/loopback.sh 5)");
-    QVERIFY(startCamera(0));
-    QVERIFY(startCamera(1));
+    QVERIFY(startCamera(0) && startCamera(1));
 
     m_owner = makeSingletons();
     // Quick loss detection for the offline case.
@@ -89,10 +88,8 @@ void TestDeviceManager::disconnectAllClosesEveryDevice()
     FrameCounter counter1(devices[1].get());
     for (const CTavDevicePtr& device : devices)
     {
-        QVERIFY(device->openDevice(false));
-        QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, device->getDeviceKey()));
-        QVERIFY(device->openStream());
-        QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, device->getDeviceKey()));
+        QVERIFY(device->openDevice(false) && m_bus.waitFor(MSG_DEVICE_CONNECTED, device->getDeviceKey()));
+        QVERIFY(device->openStream() && m_bus.waitFor(MSG_STREAM_OPENED, device->getDeviceKey()));
     }
     QCOMPARE(manager->getOpenedDeviceCount(), 2);
     QTRY_VERIFY_WITH_TIMEOUT(counter0.frames >= 2 && counter1.frames >= 2, 10000);
@@ -128,16 +125,14 @@ void TestDeviceManager::disconnectAllClosesEveryDevice()
     QCOMPARE(manager->getOpenedDeviceCount(), 0);
     for (const CTavDevicePtr& device : devices)
     {
-        QVERIFY(!device->isConnected());
-        QVERIFY(!device->GetStreamThread()->isRunning());
+        QVERIFY(!device->isConnected() && !device->GetStreamThread()->isRunning());
         QTRY_COMPARE(m_bus.count(MSG_DEVICE_DISCONNECTED, device->getDeviceKey()), 1);
         QCOMPARE(m_bus.count(MSG_STREAM_CLOSED, device->getDeviceKey()), 1);
     }
 
     // Nothing open: it finishes at once.
     closer->closeAll();
-    QVERIFY(finished.wait(5000));
-    QVERIFY(closer->waitIdle(5000));
+    QVERIFY(finished.wait(5000) && closer->waitIdle(5000));
 }
 
 void TestDeviceManager::offlineWhileStreamingThenBack()
@@ -147,55 +142,45 @@ void TestDeviceManager::offlineWhileStreamingThenBack()
     const QString key = device->getDeviceKey();
     FrameCounter counter(device.get());
 
-    QVERIFY(device->openDevice(false));
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, key));
-    QVERIFY(device->openStream());
+    QVERIFY(device->openDevice(false) && m_bus.waitFor(MSG_DEVICE_CONNECTED, key) && device->openStream());
     QTRY_VERIFY_WITH_TIMEOUT(counter.frames >= 2, 10000);
 
     // The camera disappears.
     m_rig.stop(m_cam[0]);
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_OFFLINE, key, 30000));
-    QVERIFY(!device->isConnected());
+    QVERIFY(m_bus.waitFor(MSG_DEVICE_OFFLINE, key, 30000) && !device->isConnected());
     // The dead connection is taken down on the worker after the report.
     QTRY_VERIFY_WITH_TIMEOUT(device->connectionState() == CTavDevice::stateDisconnected, 30000);
-    QVERIFY(!device->GetStreamThread()->isRunning());
-    QVERIFY(!device->getStreamSource());
+    QVERIFY(!device->GetStreamThread()->isRunning() && !device->getStreamSource());
     QCOMPARE(CDeviceManager::getInstance()->getOpenedDeviceCount(), 0);
     QCOMPARE(m_bus.count(MSG_DEVICE_OFFLINE, key), 1);
     QCOMPARE(m_bus.count(MSG_DEVICE_DISCONNECTED, key), 0);
 
     // Back on the network: found again under its key, with the same object,
     // and it connects and streams again.
-    QVERIFY(startCamera(0));
-    QVERIFY(rediscover());
+    QVERIFY(startCamera(0) && rediscover());
     QTRY_VERIFY_WITH_TIMEOUT(CDeviceManager::getInstance()->getDeviceByKey(key) != nullptr, 15000);
     QCOMPARE(CDeviceManager::getInstance()->getDeviceByKey(key), device);
 
     m_bus.clear();
     counter.frames = 0;
-    QVERIFY(device->openDevice(false));
-    QVERIFY(m_bus.waitFor(MSG_DEVICE_CONNECTED, key, 15000));
+    QVERIFY(device->openDevice(false) && m_bus.waitFor(MSG_DEVICE_CONNECTED, key, 15000));
     QVERIFY(device->openStream());
     QTRY_VERIFY_WITH_TIMEOUT(counter.frames >= 2, 10000);
-    QVERIFY(device->closeDevice(true));
-    QVERIFY(!device->isConnected());
+    QVERIFY(device->closeDevice(true) && !device->isConnected());
 }
 
 void TestDeviceManager::endAndStartAgain()
 {
     CDeviceManager* manager = CDeviceManager::getInstance();
     CTavDevicePtr device = findDeviceBySerial(m_serial[1]);
-    QVERIFY(device);
-    QVERIFY(device->openDevice(true));
-    QVERIFY(device->openStream());
+    QVERIFY(device && device->openDevice(true) && device->openStream());
     QVERIFY(m_bus.waitFor(MSG_STREAM_OPENED, device->getDeviceKey()));
     manager->detach(&m_bus);
 
     // The end of the singletons closes what is open, on the device's own
     // worker, and waits for it before it returns.
     m_owner.reset();
-    QVERIFY(!device->isConnected());
-    QVERIFY(!device->getDevice()->isConnected());
+    QVERIFY(!device->isConnected() && !device->getDevice()->isConnected());
     QVERIFY(!device->GetStreamThread()->isRunning());
     device.reset();
 
@@ -205,8 +190,7 @@ void TestDeviceManager::endAndStartAgain()
     again->attach(&m_bus);
     QVERIFY(waitForDevices() || (rediscover() && waitForDevices()));
     CTavDevicePtr fresh = findDeviceBySerial(m_serial[1]);
-    QVERIFY(fresh->openDevice(true));
-    QVERIFY(fresh->closeDevice(true));
+    QVERIFY(fresh->openDevice(true) && fresh->closeDevice(true));
 }
 
 QTEST_GUILESS_MAIN(TestDeviceManager)

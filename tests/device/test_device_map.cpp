@@ -229,8 +229,7 @@ void TestDeviceMap::mapFollowsTheCameras()
     const CTavDevicePtr c = manager->getDeviceByKey(keyOf(m_c));
 
     // A is open, then both A and C vanish and B appears.
-    QVERIFY(a->openDevice(true));
-    QVERIFY(a->isConnected());
+    QVERIFY(a->openDevice(true) && a->isConnected());
     QCOMPARE(manager->getOpenedDeviceCount(), 1);
     m_system->setRegistry({m_b});
     QVERIFY(rediscover());
@@ -265,12 +264,9 @@ void TestDeviceMap::mapFollowsTheCameras()
     // A refused connection: message 3 only, nothing created.
     m_bus->clear();
     m_b->allowConnect = false;
-    QVERIFY(b->openDevice(false));
-    QVERIFY(m_bus->waitFor(MSG_DEVICE_CONNECT_FAILED, keyOf(m_b)));
-    QVERIFY(settle(b));
+    QVERIFY(b->openDevice(false) && m_bus->waitFor(MSG_DEVICE_CONNECT_FAILED, keyOf(m_b)) && settle(b));
     QCOMPARE(m_bus->statusTypes(keyOf(m_b)), QList<int>({MSG_DEVICE_CONNECTING, MSG_DEVICE_CONNECT_FAILED}));
-    QVERIFY(!b->isConnected() && !b->isConnecting());
-    QVERIFY(!b->getEventManager() && !b->getStreamSource());
+    QVERIFY(!b->isConnected() && !b->isConnecting() && !b->getEventManager() && !b->getStreamSource());
 }
 
 void TestDeviceMap::refreshPassesTheRequest()
@@ -291,8 +287,7 @@ void TestDeviceMap::disconnectAllGivesUp()
     QVERIFY(QTest::qWaitFor([&]() { return manager->getAllDevices().size() == 2; }, 10000));
     const CTavDevicePtr a = manager->getDeviceByKey(keyOf(m_a));
     const CTavDevicePtr c = manager->getDeviceByKey(keyOf(m_c));
-    QVERIFY(a->openDevice(true));
-    QVERIFY(c->openDevice(true));
+    QVERIFY(a->openDevice(true) && c->openDevice(true));
     m_a->disconnectDoor.shut();   // A hangs in its disconnection until let go
 
     // Simulated clock: the first pause lets C's close (on its own worker,
@@ -316,16 +311,14 @@ void TestDeviceMap::disconnectAllGivesUp()
                      });
     QueuedSignalSpy finished(closer, &CDisconnectAllThread::closeAllFinished);
     closer->closeAll();
-    QVERIFY(finished.wait(30000));
-    QVERIFY(closer->waitIdle(5000));
+    QVERIFY(finished.wait(30000) && closer->waitIdle(5000));
     closer->setClock(nullptr, nullptr);
 
     // It gave up after 5000 ms of its clock with A still closing.
     QCOMPARE(pauses.load(), CDisconnectAllThread::kTimeoutMs / CDisconnectAllThread::kPollMs);
     QVERIFY(cClosedDuringWait);
     QCOMPARE(manager->getOpenedDeviceCount(), 1);
-    QVERIFY(a->isConnected() && a->isDisconnecting());
-    QVERIFY(!c->isConnected());
+    QVERIFY(a->isConnected() && a->isDisconnecting() && !c->isConnected());
 
     // A's disconnection ends once the camera lets go.
     m_a->disconnectDoor.open();
@@ -374,18 +367,15 @@ void TestDeviceMap::ownerEndsDuringDisconnectAll()
     QTRY_VERIFY(a->isDisconnecting());   // the close reached the device's worker
     a.reset();
     m_owner->shutdown();
-    QVERIFY(!CDeviceManager::getInstance());
-    QVERIFY(!CDisconnectAllThread::getInstance());
-    QVERIFY(!CDiscoveryDevicesThread::getInstance());
-    QVERIFY(!CConfiguration::getInstance());
+    QVERIFY(!CDeviceManager::getInstance() && !CDisconnectAllThread::getInstance());
+    QVERIFY(!CDiscoveryDevicesThread::getInstance() && !CConfiguration::getInstance());
 
     // The camera lets go: its device's worker finishes the close and the
     // device goes with it.
     QVERIFY(!CJobQueueThread::waitUntilQuiet(0));
     m_a->disconnectDoor.open();
     m_owner.reset();
-    QVERIFY(!m_a->isConnected());
-    QVERIFY(aAlive.isNull());
+    QVERIFY(!m_a->isConnected() && aAlive.isNull());
 }
 
 void TestDeviceMap::deviceReleasedWhileOpenClosesOnItsWorker()
@@ -396,17 +386,13 @@ void TestDeviceMap::deviceReleasedWhileOpenClosesOnItsWorker()
     Vorlen::Memory::TSharedPtr<ICamera> camera(m_b);
     device->setDevice(camera);
     device->init();
-    QVERIFY(device->openDevice(true));
-    QVERIFY(m_b->isConnected());
+    QVERIFY(device->openDevice(true) && m_b->isConnected());
     QPointer<CTavDevice> alive(device.get());
     m_b->disconnectDoor.shut();
     device.reset();
-    QVERIFY(alive.isNull());
-    QVERIFY(m_b->isConnected());
-    QVERIFY(!CJobQueueThread::waitUntilQuiet(0));
+    QVERIFY(alive.isNull() && m_b->isConnected() && !CJobQueueThread::waitUntilQuiet(0));
     m_b->disconnectDoor.open();
-    QVERIFY(CJobQueueThread::waitUntilQuiet(10000));
-    QVERIFY(!m_b->isConnected());
+    QVERIFY(CJobQueueThread::waitUntilQuiet(10000) && !m_b->isConnected());
 }
 
 QTEST_GUILESS_MAIN(TestDeviceMap)

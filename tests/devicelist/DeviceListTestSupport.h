@@ -1,9 +1,8 @@
 #pragma once
 // Helpers of the device list tests: answering the modal boxes and dialogs the
-// panel opens, waiting for the device manager, and the application's look
-// for screenshots. The device tests' helpers (DeviceTestSupport.h) come along.
+// panel opens, and waiting for the device manager. The device tests' helpers
+// (DeviceTestSupport.h) come along.
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest>
@@ -14,7 +13,6 @@
 #include "CDiscoveryDevicesThread.h"
 #include "CTavDevice.h"
 #include "DeviceTestSupport.h"
-#include "StyleSheet.h"
 
 // Configuration files go to the test's own home (CTest sets HOME per test).
 static const bool g_ownHome = []() {
@@ -23,74 +21,59 @@ static const bool g_ownHome = []() {
     return true;
 }();
 
+// Every 20 ms until the timer goes, calls act once for each visible
+// top-level widget of type T it has not seen (the modal boxes and dialogs
+// the code under test opens with exec()); act returns whether to go on.
+template <class T>
+void pollDialogs(QTimer* timer, std::function<bool(T*)> act)
+{
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act]() {
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            T* dialog = qobject_cast<T*>(w);
+            if (!dialog || !dialog->isVisible() || dialog->property("seen").toBool())
+                continue;
+            dialog->setProperty("seen", true);
+            if (!act(dialog))
+                return;
+        }
+    });
+    timer->start(20);
+}
+
 // Answers every application message box that shows up while it lives, with
 // the button given (else OK), and records the texts in order.
 class BoxAnswerer
 {
 public:
-    explicit BoxAnswerer(QMessageBox::StandardButton answer = QMessageBox::Ok) : m_answer(answer)
+    explicit BoxAnswerer(QMessageBox::StandardButton answer = QMessageBox::Ok)
     {
-        QObject::connect(&m_timer, &QTimer::timeout, [this]() {
-            for (QWidget* w : QApplication::topLevelWidgets()) {
-                auto* box = qobject_cast<CCommonMessageBox*>(w);
-                if (!box || !box->isVisible() || box->property("answered").toBool())
-                    continue;
-                box->setProperty("answered", true);
-                texts << box->message();
-                QPushButton* button = box->button(m_answer) ? box->button(m_answer) : box->button(QMessageBox::Ok);
-                if (button)
-                    button->click();
-                else
-                    box->reject();
-            }
+        pollDialogs<CCommonMessageBox>(&m_timer, [this, answer](CCommonMessageBox* box) {
+            texts << box->message();
+            QPushButton* button = box->button(answer) ? box->button(answer) : box->button(QMessageBox::Ok);
+            button ? button->click() : box->reject();
+            return true;
         });
-        m_timer.start(20);
     }
     QStringList texts;
     QString last() const { return texts.isEmpty() ? QString() : texts.last(); }
 
 private:
     QTimer m_timer;
-    QMessageBox::StandardButton m_answer;
 };
 
 // Runs act once on the first visible top-level widget of type T (a modal
-// dialog the code under test opened with exec()).
+// dialog the code under test opens with exec()) shown within 20 s.
 template <class T>
-void onDialog(std::function<void(T*)> act, int timeoutMs = 20000)
+void onDialog(std::function<void(T*)> act)
 {
     auto* timer = new QTimer;
-    const QDeadlineTimer deadline(timeoutMs);
-    QObject::connect(timer, &QTimer::timeout, [timer, deadline, act]() {
-        for (QWidget* w : QApplication::topLevelWidgets()) {
-            T* dialog = qobject_cast<T*>(w);
-            if (dialog && dialog->isVisible() && !dialog->property("driven").toBool()) {
-                dialog->setProperty("driven", true);
-                timer->stop();   // act may open event loops of its own
-                timer->deleteLater();
-                act(dialog);
-                return;
-            }
-        }
-        if (deadline.hasExpired()) {
-            timer->stop();
-            timer->deleteLater();
-        }
+    QTimer::singleShot(20000, timer, &QObject::deleteLater);
+    pollDialogs<T>(timer, [timer, act](T* dialog) {
+        timer->stop();   // act may open event loops of its own
+        timer->deleteLater();
+        act(dialog);
+        return false;
     });
-    timer->start(20);
-}
-
-// Puts on the application's look and returns where the screenshots saved for
-// a person to check go (LUMIDOR_SCREENSHOT_DIR, else the working folder);
-// empty when the style sheet cannot be read.
-inline QString applicationLookAndShotDir()
-{
-    const QString sheet = QString::fromLocal8Bit(qgetenv("LUMIDOR_SOURCE_DIR")) + "/res/Skins/Default/Vintrel/style.qss";
-    if (!setStyleSheet<QApplication>(*qApp, sheet))
-        return QString();
-    QCoreApplication::sendPostedEvents();   // the layouts of the new look, before drawing
-    return qEnvironmentVariableIsEmpty("LUMIDOR_SCREENSHOT_DIR") ? QDir::currentPath()
-                                                                 : qEnvironmentVariable("LUMIDOR_SCREENSHOT_DIR");
 }
 
 // Asks for a discovery pass (ip: "" or one address to probe) and waits until

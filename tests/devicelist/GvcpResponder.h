@@ -10,9 +10,7 @@
 #include <unistd.h>
 
 #include <atomic>
-#include <cstring>
 #include <mutex>
-#include <string>
 #include <thread>
 #include <vector>
 

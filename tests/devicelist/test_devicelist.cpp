@@ -2,8 +2,8 @@
 // tree and its in-place merge, the inline buttons and the menu as a camera
 // connects, streams and closes, every way of connecting, the connection
 // limit, collapsing, what the panel does to a camera besides connecting
-// (copied information, user ID, persistent IP, GenICam XML), both languages
-// with the application's look, and a camera that goes away.
+// (copied information, user ID, persistent IP, GenICam XML), both languages,
+// and a camera that goes away.
 // The camera rig's GLib headers come before Qt's.
 #include "FakeCameraRig.h"
 #include "CSingletonOwner.h"
@@ -12,10 +12,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTextCodec>
 #include <QToolButton>
 #include <QTranslator>
 #include <QTreeWidget>
@@ -44,7 +41,7 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void treeBuiltAndRefreshKeepsItems();
-    void buttonsAndMenuFollowTheCamera();
+    void buttonsFollowTheCamera();
     void menuAndDoubleClickConnect();
     void connectionLimit();
     void collapseAndExpand();
@@ -52,7 +49,7 @@ private slots:
     void userIdShownAfterRefresh();
     void persistentIpWrittenToCamera();
     void saveGenICamXml();
-    void languageSwitchAndLook();
+    void languageSwitch();
     void vanishedCameraLeavesTree();
 
 private:
@@ -80,15 +77,6 @@ private:
         QSignalSpy closed(m_form, &CDiscoveryDevicesForm::closeDeviceSuccess);
         deviceOf(slot)->closeDevice(false);
         return closed.wait(15000);
-    }
-    // A refresh from the panel's button, waited for.
-    bool refresh()
-    {
-        QSignalSpy finished(m_form, &CDiscoveryDevicesForm::discoveryDevicesFinished);
-        if (!QTest::qWaitFor([&]() { return m_form->refreshButton()->isEnabled(); }, 20000))
-            return false;
-        m_form->on_reflesh_clicked();
-        return finished.wait(20000);
     }
 
     FakeCameraRig m_rig;
@@ -149,7 +137,6 @@ void TestDeviceList::treeBuiltAndRefreshKeepsItems()
     QSignalSpy selected(m_form, &CDiscoveryDevicesForm::select_device);
     m_form->on_deviceList_itemClicked(first, 0);
     QVERIFY(selected.count() == 1 && m_form->currentItem() == first);
-    QVERIFY(!m_form->infoRows(true).isEmpty());
     m_form->setHoverItem(first);
     m_form->setHoverItem(second);
     CDiscoveryButtonsForm* firstButtons = m_form->buttonsOf(first);
@@ -159,8 +146,7 @@ void TestDeviceList::treeBuiltAndRefreshKeepsItems()
     // A refresh with the same cameras keeps items, selection and buttons.
     QSignalSpy finished(m_form, &CDiscoveryDevicesForm::discoveryDevicesFinished);
     QTest::mouseClick(m_form->refreshButton(), Qt::LeftButton);
-    QVERIFY(!m_form->refreshButton()->isEnabled());
-    QVERIFY(finished.wait(20000));
+    QVERIFY(!m_form->refreshButton()->isEnabled() && finished.wait(20000));
     QTRY_VERIFY(m_form->refreshButton()->isEnabled());
     QVERIFY(itemOf(0) == first && itemOf(1) == second && gige->childCount() == 2);
     QVERIFY(m_form->currentItem() == first && m_form->hoverItem() == second);
@@ -178,13 +164,12 @@ void TestDeviceList::treeBuiltAndRefreshKeepsItems()
     CConfiguration::getInstance()->autoRefreshEnable = true;
     finished.clear();
     m_form->onAutoRefreshTimeout();
-    QVERIFY(!m_form->refreshButton()->isEnabled());
-    QVERIFY(finished.wait(20000));
+    QVERIFY(!m_form->refreshButton()->isEnabled() && finished.wait(20000));
     QTRY_VERIFY(m_form->refreshButton()->isEnabled());
     QCOMPARE(itemOf(0), first);
 }
 
-void TestDeviceList::buttonsAndMenuFollowTheCamera()
+void TestDeviceList::buttonsFollowTheCamera()
 {
     QTreeWidgetItem* item = itemOf(0);
     CTavDevicePtr device = deviceOf(0);
@@ -202,18 +187,14 @@ void TestDeviceList::buttonsAndMenuFollowTheCamera()
     buttons = m_form->buttonsOf(item);
     QVERIFY(buttons->getConnectBtn()->isHidden() && buttons->getForceIPBtn()->isHidden());
     QVERIFY(buttons->getDisconnectBtn()->isVisible() && buttons->getDisconnectBtn()->isEnabled());
-    QVERIFY(m_form->prepareDeviceMenu(item));
-    QCOMPARE(m_form->actionConnect()->text(), QString("Disconnect"));
-    QVERIFY(m_form->actionPlay()->isEnabled() && m_form->actionSaveConfig()->isEnabled());
-    QVERIFY(m_form->actionSetDevUserID()->isEnabled() && !m_form->actionForceIp()->isEnabled());
 
-    // Streaming: icon and menu follow.
+    // Streaming from the menu: the icon follows, and the menu offers to stop.
+    QVERIFY(m_form->prepareDeviceMenu(item));
     m_form->actionPlay()->trigger();
     QVERIFY(waitIcon(0, iconAcquisition));
     QTRY_VERIFY_WITH_TIMEOUT(device->isGrabing(), 10000);
     QVERIFY(m_form->prepareDeviceMenu(item));
-    QCOMPARE(m_form->actionPlay()->text(), QString("Stop Acquisition"));
-    QVERIFY(!m_form->actionOpenConfig()->isEnabled() && !m_form->actionSaveConfig()->isEnabled());
+    QVERIFY(m_form->actionPlay()->text() == "Stop Acquisition" && !m_form->actionSaveConfig()->isEnabled());
     m_form->actionPlay()->trigger();
     QVERIFY(waitIcon(0, iconConnected));
 
@@ -221,16 +202,10 @@ void TestDeviceList::buttonsAndMenuFollowTheCamera()
     QSignalSpy closed(m_form, &CDiscoveryDevicesForm::closeDeviceSuccess);
     m_form->setHoverItem(item);
     m_form->buttonsOf(item)->getDisconnectBtn()->click();
-    QVERIFY(closed.wait(15000) && !device->isConnected());
-    QVERIFY(waitIcon(0, iconNormal));
+    QVERIFY(closed.wait(15000) && !device->isConnected() && waitIcon(0, iconNormal));
     buttons = m_form->buttonsOf(item);
     QVERIFY(buttons->getConnectBtn()->isVisible() && buttons->getConnectBtn()->isEnabled());
     QVERIFY(buttons->getDisconnectBtn()->isHidden());
-    QVERIFY(m_form->prepareDeviceMenu(item));
-    QCOMPARE(m_form->actionConnect()->text(), QString("Connect"));
-    QCOMPARE(m_form->actionPlay()->text(), QString("Start Acquisition"));
-    QVERIFY(!m_form->actionPlay()->isEnabled() && !m_form->actionSaveXml()->isEnabled());
-    QVERIFY(m_form->actionForceIp()->isEnabled() && m_form->actionOpenConfig()->isEnabled());
 }
 
 void TestDeviceList::menuAndDoubleClickConnect()
@@ -264,8 +239,7 @@ void TestDeviceList::menuAndDoubleClickConnect()
     QCOMPARE(m_form->currentItem(), item);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
-    QVERIFY(device->isConnected());
-    QVERIFY(closeDevice(1));
+    QVERIFY(device->isConnected() && closeDevice(1));
 
     // "Open Config" and "Save Config" are the main window's: the panel asks.
     QSignalSpy openConfig(m_form, &CDiscoveryDevicesForm::signalOpenConfig);
@@ -275,13 +249,7 @@ void TestDeviceList::menuAndDoubleClickConnect()
     m_form->actionSaveConfig()->trigger();
     QVERIFY(openConfig.count() == 1 && saveConfig.count() == 1);
     QCOMPARE(openConfig.first().first().value<CTavDevicePtr>(), device);
-
-    // The GigE root opens the one-entry remote-camera menu.
-    m_form->ShowContextMenu(list->visualItemRect(m_form->getRootItem(0)).center());
-    QTRY_VERIFY(m_form->rootMenu()->isVisible());
-    QCOMPARE(m_form->rootMenu()->actions().size(), 1);
-    QCOMPARE(m_form->rootMenu()->actions().first()->text(), QString("Add Remote Camera"));
-    m_form->rootMenu()->close();
+    // (The GigE root's menu is used in the dialogs test.)
 }
 
 void TestDeviceList::connectionLimit()
@@ -310,13 +278,10 @@ void TestDeviceList::collapseAndExpand()
     QSignalSpy collapsed(m_form, &CDiscoveryDevicesForm::formCollpased);
     QSignalSpy expanded(m_form, &CDiscoveryDevicesForm::formExpanded);
     m_form->onBtnCollpaseClicked();
-    QVERIFY(collapsed.count() == 1 && m_form->width() == 14);
-    QVERIFY(m_form->expandButton()->isVisible() && !m_form->deviceList()->isVisible());
+    QVERIFY(collapsed.count() == 1 && m_form->width() == 14 && !m_form->deviceList()->isVisible());
     QTest::mouseClick(m_form->expandButton(), Qt::LeftButton);
-    QCOMPARE(expanded.count(), 1);
-    QCOMPARE(expanded.first().first().toInt(), width);
-    QVERIFY(m_form->minimumWidth() == 250 && m_form->maximumWidth() == 15000);
-    QVERIFY(!m_form->expandButton()->isVisible() && m_form->deviceList()->isVisible());
+    QVERIFY(expanded.count() == 1 && expanded.first().first().toInt() == width);   // the width it had
+    QVERIFY(m_form->minimumWidth() == 250 && m_form->deviceList()->isVisible());
 }
 
 void TestDeviceList::copyDeviceInfo()
@@ -324,16 +289,15 @@ void TestDeviceList::copyDeviceInfo()
     m_form->on_deviceList_itemClicked(itemOf(0), 0);
     QApplication::clipboard()->clear();
     m_form->onActionCopyinfo();
-    // The rows shown, in the copied layout.
+    // The rows shown, in the copied layout (itself tested on its own).
     SDeviceInfoRows rows{m_form->infoRows(false), m_form->infoRows(true)};
     QCOMPARE(QApplication::clipboard()->text(), CDeviceInfoRows::toCopyText(rows));
-    QCOMPARE(rows.interfaceRows.size(), 4);
-    QStringList labels, values;
+    // IP address, mask, gateway, vendor, model, manufacturer, version,
+    // serial number, protocol version, valid, IP configuration, access.
+    QVERIFY(rows.interfaceRows.size() == 4 && rows.deviceRows.size() == 12);
+    QStringList values;
     for (const InfoRow& r : rows.deviceRows)
-        labels << r.first, values << r.second;
-    QCOMPARE(labels, QStringList({"IP Address", "Subnet Mask", "Gateway", "Vendor", "Model", "Manufacture", "Version",
-                                  "Serial Number", "Protocol Version", "Valid", "IP Configuration",
-                                  "Access Status"}));
+        values << r.second;
     QCOMPARE(values.mid(3, 2) + values.mid(7, 3), QStringList({"Lumidor", "SimCam", "LUMDL001", "2.0", "True"}));
     QCOMPARE(values.first(), QString(kAddress[0]));
 }
@@ -356,7 +320,9 @@ void TestDeviceList::userIdShownAfterRefresh()
     m_form->onActionSetDevUserIDTriggered();
     QVERIFY(done.wait(15000));
     QCOMPARE(maxLength, 15);
-    QVERIFY(refresh());
+    QSignalSpy finished(m_form, &CDiscoveryDevicesForm::discoveryDevicesFinished);
+    m_form->on_reflesh_clicked();
+    QVERIFY(finished.wait(20000));
     QTRY_COMPARE(itemOf(1)->text(0), QString("Line A (LUMDL002)"));
     QCOMPARE(itemOf(1), item);
 
@@ -373,44 +339,26 @@ void TestDeviceList::userIdShownAfterRefresh()
     int length = 0;
     QVERIFY(device->getParaStringValue("DeviceUserID", value, length));
     QCOMPARE(value, QString("Line A"));
-
-    // The row gets the camera's bytes of a name outside ASCII (a new row
-    // reads them as Latin-1, an updated one as UTF-8).
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    QVERIFY(device->setParaStringValue("DeviceUserID", QString::fromUtf8("Kamera é")));
-    QMap<QString, CTavDevicePtr> none, all = CDeviceManager::getInstance()->getAllDevices();
-    m_form->updateDeviceList(none);
-    m_form->updateDeviceList(all);
-    QCOMPARE(itemOf(1)->text(0), QString::fromLatin1("Kamera \xC3\xA9 (LUMDL002)"));
-    m_form->updateDeviceList(all);
-    QCOMPARE(itemOf(1)->text(0), QString::fromUtf8("Kamera é (LUMDL002)"));
-    QVERIFY(device->setParaStringValue("DeviceUserID", QString()));
-    QVERIFY(closeDevice(1));
+    QVERIFY(device->setParaStringValue("DeviceUserID", QString()) && closeDevice(1));
 }
 
 void TestDeviceList::persistentIpWrittenToCamera()
 {
-    const QString tool = QStandardPaths::findExecutable("arv-tool-0.8");
-    if (tool.isEmpty())
-        QFAIL("arv-tool-0.8 is missing (package aravis-tools): it reads the written values back");
     CSetIpThread worker;
     QueuedSignalSpy ended(&worker, &CSetIpThread::signalSetIpEnd);
     worker.startSetIp(deviceOf(1)->getDeviceKey(), "192.168.7.20", "255.255.255.0", "192.168.7.1");
     QVERIFY(ended.wait(15000));
     QCOMPARE(ended.first().first().toBool(), true);
-
-    // Read back as a number or as a dotted quad, as the tool prints it.
-    const QStringList written[] = {{"GevPersistentIPAddress", "3232237332", "192.168.7.20"},
-                                   {"GevPersistentSubnetMask", "4294967040", "255.255.255.0"},
-                                   {"GevPersistentDefaultGateway", "3232237313", "192.168.7.1"},
-                                   {"GevCurrentIPConfigurationPersistentIP", "true", "1"}};
-    for (const QStringList& w : written) {
-        QProcess p;
-        p.start(tool, {"-a", kAddress[1], "control", w.at(0)});
-        QVERIFY2(p.waitForFinished(20000), "arv-tool did not finish");
-        const QString out = QString::fromLocal8Bit(p.readAllStandardOutput()).trimmed();
-        QVERIFY2(out.contains(w.at(1), Qt::CaseInsensitive) || out.endsWith(w.at(2)), qPrintable(out));
-    }
+    // Read back through a connection of our own, after the worker's has gone.
+    QVERIFY(connectByButton(1));
+    long ip = 0, mask = 0, gateway = 0;
+    bool enabled = false;
+    QVERIFY(deviceOf(1)->getParaIntValue("GevPersistentIPAddress", ip) &&
+            deviceOf(1)->getParaIntValue("GevPersistentSubnetMask", mask) &&
+            deviceOf(1)->getParaIntValue("GevPersistentDefaultGateway", gateway) &&
+            deviceOf(1)->getParaBoolValue("GevCurrentIPConfigurationPersistentIP", enabled));
+    QVERIFY(quint32(ip) == 0xC0A80714u && quint32(mask) == 0xFFFFFF00u && quint32(gateway) == 0xC0A80701u);
+    QVERIFY(enabled && closeDevice(1));
 }
 
 void TestDeviceList::saveGenICamXml()
@@ -452,20 +400,16 @@ void TestDeviceList::saveGenICamXml()
     QVERIFY(closeDevice(0));
 }
 
-// One camera streaming, the other hovered, in English and in Chinese: the
-// texts follow a language switch at once, and both looks are saved.
-void TestDeviceList::languageSwitchAndLook()
+// One camera streaming, the other hovered: the texts follow a language
+// switch at once.
+void TestDeviceList::languageSwitch()
 {
     QTreeWidgetItem* streaming = itemOf(0);
-    QVERIFY(connectByButton(0));
-    QVERIFY(m_form->prepareDeviceMenu(streaming));
+    QVERIFY(connectByButton(0) && m_form->prepareDeviceMenu(streaming));
     m_form->actionPlay()->trigger();
     QVERIFY(waitIcon(0, iconAcquisition));
     m_form->on_deviceList_itemClicked(streaming, 0);
     m_form->setHoverItem(itemOf(1));
-    const QString dir = applicationLookAndShotDir();
-    QVERIFY2(!dir.isEmpty(), "the application's style sheet cannot be read");
-    QVERIFY(m_form->grab().save(dir + "/devicelist_en.png"));
 
     QTranslator panel, widgets;
     QVERIFY2(panel.load(":/i18n/discovery_zh_CN.qm"), "the compiled translation is not in the resources");
@@ -474,22 +418,18 @@ void TestDeviceList::languageSwitchAndLook()
     QCoreApplication::installTranslator(&widgets);
     // The language change reaches the windows as a posted event.
     QTRY_COMPARE(m_form->refreshButton()->text(), QString::fromUtf8("刷新"));
-    QCOMPARE(m_form->rootForm(0)->text(), QString("GigE"));
+    // The menu's texts keep following the camera's state.
     QVERIFY(m_form->prepareDeviceMenu(streaming));
-    QCOMPARE(m_form->actionConnect()->text(), QString::fromUtf8("断开连接"));
     QCOMPARE(m_form->actionPlay()->text(), QString::fromUtf8("停止采集"));
     QCOMPARE(m_form->infoRows(true).at(7).first, QString::fromUtf8("序列号"));
     QCOMPARE(m_form->buttonsOf(itemOf(1))->getConnectBtn()->toolTip(), QString::fromUtf8("连接"));
-    QVERIFY(m_form->grab().save(dir + "/devicelist_zh.png"));
 
     QCoreApplication::removeTranslator(&panel);
     QCoreApplication::removeTranslator(&widgets);
     QTRY_COMPARE(m_form->refreshButton()->text(), QString("refresh"));
     QCOMPARE(m_form->infoRows(true).at(7).first, QString("Serial Number"));
-    qApp->setStyleSheet(QString());
     m_form->actionPlay()->trigger();
-    QVERIFY(waitIcon(0, iconConnected));
-    QVERIFY(closeDevice(0));
+    QVERIFY(waitIcon(0, iconConnected) && closeDevice(0));
 }
 
 void TestDeviceList::vanishedCameraLeavesTree()

@@ -1,15 +1,21 @@
-// The device list's rules without window or camera: for each device state
-// its status icon, inline buttons, menu entries and connection checks; the
-// copied information's layout; the discovery requests waiting for a busy
-// worker; and the camera-task worker with its callbacks.
+// The device list without camera: for each device state its status icon,
+// inline buttons, menu entries and connection checks; the copied
+// information's layout; the discovery requests waiting for a busy worker;
+// the camera-task worker with its callbacks; the rows model (roots, the
+// in-place merge of discovery passes, remembered items, icons) and the
+// information sections.
 #include <QSemaphore>
+#include <QSignalSpy>
 #include <QStringList>
+#include <QTreeWidget>
 #include <QtTest>
-#include <atomic>
 
 #include "CCameraTaskThread.h"
 #include "CDeviceInfoRows.h"
+#include "CDeviceInfoSections.h"
+#include "CDeviceListModel.h"
 #include "CDiscoveryScheduler.h"
+#include "CDiscoveryRootForm.h"
 #include "CSetIpThread.h"
 #include "DeviceListRules.h"
 #include "DiscoveryItemTypes.h"
@@ -78,6 +84,19 @@ QString describe(const SDeviceMenuState& m)
             out << names[i];
     return out.join(' ');
 }
+
+SDeviceRow row(int type, const char* key, const QByteArray& name = QByteArray())
+{
+    return SDeviceRow{type, QString::fromLatin1(key), name.isEmpty() ? QByteArray("Cam ") + key : name};
+}
+
+QStringList keysUnder(QTreeWidgetItem* root)
+{
+    QStringList keys;
+    for (int i = 0; i < root->childCount(); ++i)
+        keys << CDeviceListModel::getDeviceKey(root->child(i));
+    return keys;
+}
 } // namespace
 
 class TestDeviceListRules : public QObject
@@ -88,6 +107,16 @@ private slots:
     void copiedInfoText();
     void discoveryWaitsForABusyWorker();
     void cameraTasks();
+    void init();
+    void cleanup();
+    void mergeKeepsItemsAtTheirPlace();
+    void namesAndIcons();
+    void informationSections();
+
+private:
+    // A fresh tree with its GigE and USB roots for each test.
+    QTreeWidget* m_tree = nullptr;
+    CDeviceListModel* m_model = nullptr;
 };
 
 void TestDeviceListRules::rulesOfADeviceState()
@@ -150,10 +179,6 @@ void TestDeviceListRules::rulesOfADeviceState()
 
     QVERIFY(isValidIpConfig("Persistent IP, LLA"));
     QVERIFY(!isValidIpConfig("Invalid On This Interface") && !isValidIpConfig(QString()));
-    // Row ids wrap to 1, never 0.
-    setLastCreatedId(0xFFFFFFFEu);
-    QCOMPARE(createId(), 0xFFFFFFFFu);
-    QCOMPARE(createId(), 1u);
 }
 
 void TestDeviceListRules::copiedInfoText()
@@ -175,25 +200,19 @@ void TestDeviceListRules::discoveryWaitsForABusyWorker()
     QStringList started;
     CDiscoveryScheduler scheduler([&busy]() { return busy; }, [&started](const QString& ip) { started << ip; });
 
-    // Idle: at once.
+    // Idle: at once. Busy: waits for the end of the pass under way.
     scheduler.request(QString());
-    QCOMPARE(started, QStringList({QString()}));
-    QVERIFY(!scheduler.isPending());
-
-    // Busy: waits for the end of the pass under way.
+    QVERIFY(started == QStringList({QString()}) && !scheduler.isPending());
     busy = true;
     started.clear();
     scheduler.request("10.0.0.5");
     scheduler.request(QString());   // a plain refresh does not replace the address
-    QVERIFY(scheduler.isPending());
-    QCOMPARE(scheduler.pendingIp(), QString("10.0.0.5"));
-    QVERIFY(started.isEmpty());
+    QVERIFY(scheduler.isPending() && scheduler.pendingIp() == "10.0.0.5" && started.isEmpty());
     scheduler.passFinished();   // another pass was asked for meanwhile: still waiting
     QVERIFY(started.isEmpty());
     busy = false;
     scheduler.passFinished();
-    QCOMPARE(started, QStringList({"10.0.0.5"}));
-    QVERIFY(!scheduler.isPending());
+    QVERIFY(started == QStringList({"10.0.0.5"}) && !scheduler.isPending());
     scheduler.passFinished();   // nothing waits: nothing goes
     QCOMPARE(started.size(), 1);
 
@@ -208,7 +227,6 @@ void TestDeviceListRules::discoveryWaitsForABusyWorker()
 
 void TestDeviceListRules::cameraTasks()
 {
-    QCOMPARE(CCameraTaskThread::liveCount(), 0);
     auto* worker = new CCameraTaskThread("TestTasks");
     QCOMPARE(CCameraTaskThread::liveCount(), 1);
 
@@ -233,22 +251,9 @@ void TestDeviceListRules::cameraTasks()
     QCoreApplication::processEvents();   // every answer the worker sent is delivered now
     QCOMPARE(answers, QStringList({"first 1", "third 0 1"}));
 
-    // The owner closes while a task runs: it retires the worker without
-    // waiting; the task finishes, its answer goes nowhere, the worker goes.
-    auto* owner = new QObject;
-    std::atomic<bool> ran{false};
-    QSemaphore entered;
-    worker->run(owner, [&]() {
-        entered.release();
-        return blocked() && (ran = true);
-    }, [&](bool, const QString&) { answers << "late"; });
-    QVERIFY(entered.tryAcquire(1, 10000));   // under way, not merely queued
-    delete owner;
-    worker->retire();
-    release.release();
-    QTRY_COMPARE(CCameraTaskThread::liveCount(), 0);
-    QVERIFY(ran);
-    QCOMPARE(answers.size(), 2);
+    // (Retiring while a task runs is the job queue's, tested with the feature write worker.)
+    delete worker;
+    QCOMPARE(CCameraTaskThread::liveCount(), 0);
 
     // The persistent address worker reports a key no device answers to.
     CSetIpThread setIp;
@@ -258,5 +263,110 @@ void TestDeviceListRules::cameraTasks()
     QCOMPARE(ended.first().first().toBool(), false);
 }
 
-QTEST_GUILESS_MAIN(TestDeviceListRules)
+void TestDeviceListRules::init()
+{
+    m_tree = new QTreeWidget;
+    m_tree->setColumnCount(2);
+    m_model = new CDeviceListModel(m_tree, m_tree);
+    m_model->createRootItem(cameraTypeGigE);
+    m_model->createRootItem(cameraTypeUsb);
+    m_tree->show();
+}
+
+void TestDeviceListRules::cleanup()
+{
+    delete m_tree;
+}
+
+void TestDeviceListRules::mergeKeepsItemsAtTheirPlace()
+{
+    m_model->merge({row(0, "A"), row(0, "B"), row(1, "U")});
+    QTreeWidgetItem* gige = m_model->getRootItem(0);
+    QTreeWidgetItem* usb = m_model->getRootItem(1);
+    QCOMPARE(keysUnder(gige), QStringList({"A", "B"}));
+    QCOMPARE(keysUnder(usb), QStringList({"U"}));
+    QTreeWidgetItem* a = gige->child(0);
+    QTreeWidgetItem* b = gige->child(1);
+    QVERIFY(a->type() == 1007 && usb->child(0)->type() == 1008 && gige->type() == 1001 && usb->type() == 1002);
+    QCOMPARE(m_tree->itemWidget(gige, 0), static_cast<QWidget*>(m_model->rootForm(0)));
+    QCOMPARE(a->text(0), QString("Cam A"));
+    QCOMPARE(a->toolTip(0), QString("Cam A"));
+    QCOMPARE(m_model->getItemByKey("U"), usb->child(0));
+    QVERIFY(!m_model->getItemByKey("Z") && !m_model->getItemByKey(QString()));
+    QVERIFY(m_model->rootForm(0)->isCheckBoxVisible() && m_model->rootForm(1)->isCheckBoxVisible());
+
+    // A camera of a kind without a root (only GigE and USB have one) is not shown.
+    m_model->merge({row(0, "A"), row(0, "B"), row(1, "U"), row(2, "CL"), row(5, "TL")});
+    QVERIFY(gige->child(0) == a && gige->child(1) == b && m_model->deviceItems().size() == 3);
+
+    // A new device in front: inserted there; the one at its place stays.
+    // Appended at the end. The USB root, empty now, hides its check box.
+    m_model->merge({row(0, "0"), row(0, "A"), row(0, "B")});
+    QCOMPARE(keysUnder(gige), QStringList({"0", "A", "B"}));
+    QCOMPARE(gige->child(2), b);
+    QVERIFY(!m_model->rootForm(1)->isCheckBoxVisible() && usb->childCount() == 0);
+    m_model->merge({row(0, "0"), row(0, "A"), row(0, "B"), row(0, "C")});
+    QCOMPARE(keysUnder(gige), QStringList({"0", "A", "B", "C"}));
+    QCOMPARE(gige->child(2), b);
+    // Device items, however they came, span their first column over the row.
+    for (QTreeWidgetItem* item : m_model->deviceItems())
+        QVERIFY2(item->isFirstColumnSpanned(), qPrintable(CDeviceListModel::getDeviceKey(item)));
+
+    // Every root is ticked again after a pass. A device that leaves takes
+    // the remembered current and context items with it, saying so.
+    m_model->setCurrentItem(gige->child(0));
+    m_model->setContextItem(gige->child(3));
+    QSignalSpy currentGone(m_model, &CDeviceListModel::currentItemRemoved);
+    QSignalSpy contextGone(m_model, &CDeviceListModel::contextItemRemoved);
+    m_model->rootForm(0)->setChecked(false);
+    m_model->merge({row(0, "0"), row(0, "A")});
+    QVERIFY(m_model->rootForm(0)->isChecked());
+    QCOMPARE(keysUnder(gige), QStringList({"0", "A"}));
+    QVERIFY(contextGone.count() == 1 && !m_model->contextItem());
+    QVERIFY(currentGone.isEmpty() && m_model->currentItem() == gige->child(0));
+    m_model->merge({});
+    QVERIFY(currentGone.count() == 1 && !m_model->currentItem() && !m_model->rootForm(0)->isCheckBoxVisible());
+}
+
+void TestDeviceListRules::namesAndIcons()
+{
+    // A new row reads the camera's bytes as Latin-1, a row that is only
+    // updated reads them as UTF-8 (kept as it has always been).
+    const QByteArray utf8 = QString::fromUtf8("Kamera é").toUtf8();
+    m_model->merge({row(0, "K", utf8)});
+    QTreeWidgetItem* item = m_model->getItemByKey("K");
+    QCOMPARE(item->text(0), QString::fromLatin1(utf8));
+    m_model->merge({row(0, "K", utf8)});
+    QCOMPARE(m_model->getItemByKey("K"), item);
+    QCOMPARE(item->text(0), QString::fromUtf8("Kamera é"));
+    QCOMPARE(item->toolTip(0), item->text(0));
+
+    // (Its status icon follows the camera in the panel test.)
+    QVERIFY(CDeviceListModel::itemIconIndex(item) == -1 && CDeviceListModel::itemIconIndex(nullptr) == -1);
+}
+
+void TestDeviceListRules::informationSections()
+{
+    QTreeWidget tree;
+    tree.setColumnCount(2);
+    CDeviceInfoSections info(&tree);
+    const auto interface = CDeviceInfoSections::interfaceSection;
+    const auto device = CDeviceInfoSections::deviceSection;
+    SDeviceInfoRows rows;
+    rows.interfaceRows << InfoRow("Description", "eth0");
+    rows.deviceRows << InfoRow("Serial Number", "SN1") << InfoRow("Access Status", "Open");
+    info.form(interface)->setChecked(false);
+    info.setRows(rows);
+    QVERIFY(info.rows(interface) == rows.interfaceRows && info.rows(device) == rows.deviceRows);
+    // Each section opens as its check box says; a double click on a
+    // section's row flips it, on any other row nothing.
+    QVERIFY(!info.item(interface)->isExpanded() && info.item(device)->isExpanded());
+    QVERIFY(info.toggle(info.item(device)) && !info.toggle(info.item(device)->child(0)));
+    QVERIFY(!info.form(device)->isChecked() && !info.item(device)->isExpanded());
+    // The access status is rewritten in place as it changes.
+    info.setDeviceValue("Access Status", "Control");
+    QCOMPARE(info.rows(device).at(1), InfoRow("Access Status", "Control"));
+}
+
+QTEST_MAIN(TestDeviceListRules)
 #include "test_devicelist_rules.moc"

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QtTest>
 #include <memory>
-#include <set>
+#include <utility>
 
 #include "CDiscoveryDevicesThread.h"
 #include "QueuedSignalSpy.h"
@@ -28,15 +28,16 @@ private:
     CString m_key;
 };
 
-// Records every call as text: "bc0" / "bc1" (discovery with interface kind),
-// "uc:<ip>" (unicast probe), "all" (registry read).
+// Records every call as text: "bc0" / "bc1" (discovery with interface
+// kind), "uc:<ip>:<mode>" (unicast probe), "all" (registry read). An
+// answering address yields a camera; a failing one fails the call; any other
+// is silent, a call that "succeeds" with nothing found.
 class RecordingSystem : public IDiscoverySystem
 {
 public:
     bool discovery(CameraPtrVector& cameras, EInterfaceType type) override
     {
-        if (blockBroadcast)
-        {
+        if (blockBroadcast) {
             entered.release();
             proceed.acquire();
         }
@@ -49,11 +50,9 @@ public:
         const QString ip = QString::fromLocal8Bit(info.ipAddress);
         record(QString("uc:%1:%2").arg(ip).arg(int(mode)));
         QMutexLocker locker(&mutex);
-        if (failingCall.count(ip.toStdString()))
-            return false;   // a failed call, whatever it would have found
-        if (answering.count(ip.toStdString()))
+        if (answering.contains(ip))
             cameras.push_back(Vorlen::Memory::makeShared<StubCamera>(info.ipAddress));
-        return true;   // a silent address may still "succeed" with nothing found
+        return !failing.contains(ip);
     }
     bool getCameraPtrAll(CameraPtrVector& cameras) override
     {
@@ -62,28 +61,23 @@ public:
         cameras = registry;
         return true;
     }
-
     QStringList takeCalls()
     {
         QMutexLocker locker(&mutex);
-        QStringList out = calls;
-        calls.clear();
-        return out;
+        return std::exchange(calls, QStringList());
     }
-    void setAnswering(const std::set<std::string>& ips)
+    void setAddresses(const QStringList& answers, const QStringList& fails = QStringList())
     {
         QMutexLocker locker(&mutex);
-        answering = ips;
+        answering = answers;
+        failing = fails;
     }
 
     QMutex mutex;
-    QStringList calls;
-    std::set<std::string> answering;
-    std::set<std::string> failingCall;
+    QStringList calls, answering, failing;
     CameraPtrVector registry;
     std::atomic<bool> blockBroadcast{false};
-    QSemaphore entered;
-    QSemaphore proceed;
+    QSemaphore entered, proceed;
 
 private:
     void record(const QString& call)
@@ -126,41 +120,55 @@ class TestDiscoveryThread : public QObject
 {
     Q_OBJECT
 private slots:
-    void firstPassAndCameraList();
+    void passesByModeAndCameraList();
     void requestsBeforeOrDuringAPassGiveOnePass();
     void unicastListKeptAndReprobed();
     void resultOfAPass();
-    void modeFlags();
 };
 
-void TestDiscoveryThread::firstPassAndCameraList()
+void TestDiscoveryThread::passesByModeAndCameraList()
 {
     Fixture f;
     f.system->registry.push_back(Vorlen::Memory::makeShared<StubCamera>("A"));
     f.system->registry.push_back(Vorlen::Memory::makeShared<StubCamera>("B"));
-    QVERIFY(f.thread->getVecCamera().empty());
-    QVERIFY(!f.thread->isFirstDiscoveryFinished());
+    QVERIFY(f.thread->getVecCamera().empty() && !f.thread->isFirstDiscoveryFinished());
 
-    QVERIFY(f.pass(QString(), 11));
-    QVERIFY(f.thread->isFirstDiscoveryFinished());
-    QVERIFY(!f.thread->isDisconvrying());
+    QVERIFY(f.pass(QString(), 11));   // the start-up pass
+    QVERIFY(f.thread->isFirstDiscoveryFinished() && !f.thread->isDisconvrying());
     QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
     CameraPtrVector cameras = f.thread->getVecCamera();
-    QCOMPARE(int(cameras.size()), 2);
-    QCOMPARE(QString(cameras[0]->getKey().c_str()), QString("A"));
+    QVERIFY(cameras.size() == 2 && QString(cameras[0]->getKey().c_str()) == "A");
 
     // Each pass replaces the list; the first-pass flag stays set.
     f.system->registry.clear();
-    QVERIFY(f.pass(QString(), 0));
-    QVERIFY(f.thread->getVecCamera().empty());
-    QVERIFY(f.thread->isFirstDiscoveryFinished());
+    QVERIFY(f.pass(QString(), 0) && f.thread->getVecCamera().empty() && f.thread->isFirstDiscoveryFinished());
+
+    // Network bit: broadcast (or unicast); second-interface bit; the
+    // start-up bit alone does neither; 0 means both.
+    f.system->setAddresses({"10.0.0.5"});
+    const struct
+    {
+        const char* ip;
+        int flags;
+        QStringList calls;
+    } cases[] = {{"", 0, {"bc0", "bc1", "all"}},
+                 {"", 1, {"bc0", "all"}},
+                 {"", 2, {"bc1", "all"}},
+                 {"", 8, {"all"}},
+                 {"10.0.0.5", 2, {"bc1", "all"}}};   // a unicast address without the network bit is not probed
+    f.system->takeCalls();
+    for (const auto& c : cases) {
+        QVERIFY(f.pass(QString::fromLatin1(c.ip), c.flags));
+        QCOMPARE(f.system->takeCalls(), c.calls);
+    }
+    QVERIFY(f.thread->unicastAddresses().isEmpty());
 }
 
 void TestDiscoveryThread::requestsBeforeOrDuringAPassGiveOnePass()
 {
     for (const bool duringThePass : {false, true}) {
         Fixture f;
-        f.system->setAnswering({"10.1.1.1"});
+        f.system->setAddresses({"10.1.1.1"});
         if (duringThePass) {
             // A request that comes while a pass runs is absorbed by it.
             f.system->blockBroadcast = true;
@@ -180,9 +188,7 @@ void TestDiscoveryThread::requestsBeforeOrDuringAPassGiveOnePass()
         QVERIFY(f.spy.wait(10000));
         // Nothing is left to run: the flag is down when the pass is reported,
         // and the next pass asked for follows this one directly.
-        QVERIFY(!f.thread->isDisconvrying());
-        QVERIFY(f.pass(QString(), 2));
-        QCOMPARE(f.spy.count(), 2);
+        QVERIFY(!f.thread->isDisconvrying() && f.pass(QString(), 2) && f.spy.count() == 2);
         QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all", "bc1", "all"}));
         QVERIFY(f.thread->unicastAddresses().isEmpty());
     }
@@ -191,14 +197,13 @@ void TestDiscoveryThread::requestsBeforeOrDuringAPassGiveOnePass()
 void TestDiscoveryThread::unicastListKeptAndReprobed()
 {
     Fixture f;
-    f.system->setAnswering({"10.0.0.7", "10.0.0.8"});
+    f.system->setAddresses({"10.0.0.7", "10.0.0.8"});
 
     // A unicast add probes only that address (no broadcast).
     QVERIFY(f.pass("10.0.0.7", 0));
     QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.0.0.7:1", "bc1", "all"}));
     // The same address twice keeps one entry; another one is appended.
-    QVERIFY(f.pass("10.0.0.7", 0));
-    QVERIFY(f.pass("10.0.0.8", 0));
+    QVERIFY(f.pass("10.0.0.7", 0) && f.pass("10.0.0.8", 0));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.7", "10.0.0.8"}));
     f.system->takeCalls();
 
@@ -210,7 +215,7 @@ void TestDiscoveryThread::unicastListKeptAndReprobed()
     QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "bc1", "all"}));
 
     // 10.0.0.7 stops answering: dropped at the next refresh, never probed again.
-    f.system->setAnswering({"10.0.0.8"});
+    f.system->setAddresses({"10.0.0.8"});
     QVERIFY(f.pass(QString(), 0));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.8"}));
     f.system->takeCalls();
@@ -218,12 +223,8 @@ void TestDiscoveryThread::unicastListKeptAndReprobed()
     QCOMPARE(f.system->takeCalls(), QStringList({"bc0", "uc:10.0.0.8:1", "bc1", "all"}));
 
     // A failing probe call drops the address as well.
-    {
-        QMutexLocker locker(&f.system->mutex);
-        f.system->failingCall = {"10.0.0.8"};
-    }
-    QVERIFY(f.pass(QString(), 0));
-    QVERIFY(f.thread->unicastAddresses().isEmpty());
+    f.system->setAddresses({"10.0.0.8"}, {"10.0.0.8"});
+    QVERIFY(f.pass(QString(), 0) && f.thread->unicastAddresses().isEmpty());
 }
 
 void TestDiscoveryThread::resultOfAPass()
@@ -232,14 +233,12 @@ void TestDiscoveryThread::resultOfAPass()
     // A pass run in the caller's thread reports success, even for a silent address.
     f.thread->StartDiscovery("10.9.9.9", 0);
     f.thread->runOnce();
-    QCOMPARE(f.spy.count(), 1);
-    QCOMPARE(f.spy.at(0).at(0).toBool(), true);
+    QVERIFY(f.spy.count() == 1 && f.spy.at(0).at(0).toBool());
     QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.9.9.9:1", "bc1", "all"}));
     QVERIFY(f.thread->isFirstDiscoveryFinished());
 
-    f.system->setAnswering({"10.0.0.1", "10.0.0.2"});
-    QVERIFY(f.pass("10.0.0.1", 0));
-    QVERIFY(f.pass("10.0.0.2", 0));
+    f.system->setAddresses({"10.0.0.1", "10.0.0.2"});
+    QVERIFY(f.pass("10.0.0.1", 0) && f.pass("10.0.0.2", 0));
     f.system->takeCalls();
 
     // A silent address: false, not kept; the others are kept but not probed.
@@ -247,38 +246,13 @@ void TestDiscoveryThread::resultOfAPass()
     QCOMPARE(f.system->takeCalls(), QStringList({"uc:10.0.0.3:1", "bc1", "all"}));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.1", "10.0.0.2"}));
     // A kept address that went silent, asked again: removed, false.
-    f.system->setAnswering({"10.0.0.2"});
+    f.system->setAddresses({"10.0.0.2"});
     QVERIFY(!f.pass("10.0.0.1", 0));
     QCOMPARE(f.thread->unicastAddresses(), QVector<QString>({"10.0.0.2"}));
 
     // Every other pass reports true, whatever it found.
-    f.system->setAnswering({});
-    QVERIFY(f.pass(QString(), 0));
-    QVERIFY(f.pass("255.255.255.255", 0));
-    QVERIFY(f.pass(QString(), 2));
-
-}
-
-void TestDiscoveryThread::modeFlags()
-{
-    Fixture f;
-    f.system->setAnswering({"10.0.0.5"});
-    // Network bit: broadcast (or unicast); second-interface bit; the start-up bit alone does neither.
-    const struct
-    {
-        const char* ip;
-        int flags;
-        QStringList calls;
-    } cases[] = {{"", 1, {"bc0", "all"}},
-                 {"", 2, {"bc1", "all"}},
-                 {"", 8, {"all"}},
-                 {"", 3, {"bc0", "bc1", "all"}},
-                 {"10.0.0.5", 2, {"bc1", "all"}}};   // a unicast address without the network bit is not probed
-    for (const auto& c : cases) {
-        QVERIFY(f.pass(QString::fromLatin1(c.ip), c.flags));
-        QCOMPARE(f.system->takeCalls(), c.calls);
-    }
-    QVERIFY(f.thread->unicastAddresses().isEmpty());
+    f.system->setAddresses({});
+    QVERIFY(f.pass(QString(), 0) && f.pass("255.255.255.255", 0) && f.pass(QString(), 2));
 }
 
 QTEST_GUILESS_MAIN(TestDiscoveryThread)

@@ -104,20 +104,15 @@ Bytes packLsb(const Ints& v, int bits)
     return out;
 }
 
-// Colour sampled at (x, y) for a GenICam pattern such as "RG" (R G / G B).
-char siteColour(const char* pattern, int x, int y)
+// A mosaic sampled from one colour for a GenICam pattern such as "RG" (R G / G B).
+Ints mosaic(const char* pattern, int w, int h, int r, int g, int b)
 {
     const char* cells = !strcmp(pattern, "RG") ? "RGGB" : !strcmp(pattern, "GR") ? "GRBG"
                       : !strcmp(pattern, "GB") ? "GBRG" : "BGGR";
-    return cells[(y % 2) * 2 + (x % 2)];
-}
-
-Ints mosaic(const char* pattern, int w, int h, int r, int g, int b)
-{
     Ints v;
     for (int y = 0; y < h; ++y)
         for (int x = 0; x < w; ++x) {
-            const char c = siteColour(pattern, x, y);
+            const char c = cells[(y % 2) * 2 + (x % 2)];
             v.push_back(c == 'R' ? r : c == 'G' ? g : b);
         }
     return v;
@@ -125,8 +120,7 @@ Ints mosaic(const char* pattern, int w, int h, int r, int g, int b)
 
 void expectInvalid(const CQtHybridFrame& f)
 {
-    QVERIFY(!f.isHybridFrameValid());
-    QVERIFY(f.getConvertedData() == nullptr);
+    QVERIFY(!f.isHybridFrameValid() && f.getConvertedData() == nullptr);
     QCOMPARE(f.getConvertedDataSize(), uint64_t(0));
     QCOMPARE(f.getConvertedPixelType(), convertedNone);
 }
@@ -273,17 +267,6 @@ void TestHybridFrame::bayerAllPatternsAndPackings()
                         if (!near(pixelAt(*f, x, y), { B, G, R }, 1))
                             QFAIL(qPrintable(what + QString(" (%1,%2): %3").arg(x).arg(y).arg(str(pixelAt(*f, x, y)))));
             }
-
-        // Only the red sites lit: pure red at the red sites, no green or blue anywhere.
-        const Ints red = mosaic(p.pattern, w, h, 255, 0, 0);
-        FramePtr f = makeFrame(p.pf[0], w, h, Bytes(red.begin(), red.end()));
-        for (int y = 2; y < h - 2; ++y)
-            for (int x = 2; x < w - 2; ++x) {
-                const Bgr px = pixelAt(*f, x, y);
-                QVERIFY(px.b == 0 && px.g == 0);
-                if (siteColour(p.pattern, x, y) == 'R')
-                    QCOMPARE(px.r, 255);
-            }
     }
 }
 
@@ -333,7 +316,6 @@ void TestHybridFrame::lazyConversionOnceFromThreads()
         QVERIFY(!f->isConverted());
         const int n = 8;
         std::vector<const unsigned char*> seen(n, nullptr);
-        std::vector<uint64_t> sizes(n, 0);
         std::atomic<int> ready{0};
         std::vector<std::thread> threads;
         for (int i = 0; i < n; ++i)
@@ -342,16 +324,12 @@ void TestHybridFrame::lazyConversionOnceFromThreads()
                 while (ready.load() < n) {
                 }
                 seen[i] = f->getConvertedData();
-                sizes[i] = f->getConvertedDataSize();
             });
         for (std::thread& t : threads)
             t.join();
-        QVERIFY(f->isConverted());
-        for (int i = 0; i < n; ++i) {
-            QVERIFY(seen[i] != nullptr);
+        QVERIFY(f->isConverted() && seen[0] != nullptr);
+        for (int i = 1; i < n; ++i)
             QCOMPARE(seen[i], seen[0]);
-            QCOMPARE(sizes[i], uint64_t(expected.size()));
-        }
         QCOMPARE(converted(*f), expected);
     }
 }
@@ -427,8 +405,8 @@ void TestHybridFrame::jpegPayload()
     // Not a JPEG: invalid. A cut-off one: no crash, and consistent if decoded.
     expectInvalid(*makeFrame(0, 32, 16, Bytes(10, 'x'), 0, bayerBilinear, payloadTypeJpeg));
     FramePtr cut = makeFrame(0, 32, 16, Bytes(jpeg.begin(), jpeg.begin() + jpeg.size() / 3), 0, bayerBilinear, payloadTypeJpeg);
-    if (cut->isHybridFrameValid())
-        QCOMPARE(cut->getConvertedDataSize(), uint64_t(cut->getConvertedWidth()) * cut->getConvertedHeight() * 3);
+    QVERIFY(!cut->isHybridFrameValid() ||
+            cut->getConvertedDataSize() == uint64_t(cut->getConvertedWidth()) * cut->getConvertedHeight() * 3);
 }
 
 void TestHybridFrame::invalidInputAndChunk()

@@ -48,8 +48,7 @@ void TestPoolShutdown::endsThePool()
     // Afterwards the pool hands out nothing: a frame holds no pixels.
     QVERIFY(!pool.acquire(100));
     CQtHybridFrame late(info);
-    QVERIFY(!late.isHybridFrameValid());
-    QVERIFY(late.getRawData() == nullptr);
+    QVERIFY(!late.isHybridFrameValid() && late.getRawData() == nullptr);
     QCOMPARE(pool.freeCount(), size_t(0));
 }
 

@@ -159,8 +159,7 @@ void TestFeaturesForm::initTestCase()
 
     m_form = newForm(m_device, false);
     QSignalSpy finished(m_form, &CPropertyFeaturesForm::showGenParamFinish);
-    QVERIFY(m_form->isLoadingGenParams());
-    QVERIFY(finished.wait(20000));
+    QVERIFY(m_form->isLoadingGenParams() && finished.wait(20000));
     QVERIFY(!m_form->isLoadingGenParams() && m_form->isLoaded());
     m_form->resize(600, 800);
     m_form->show();
@@ -234,7 +233,7 @@ void TestFeaturesForm::rowsPerNodeKind()
     QCOMPARE(m.enumeration->enumNames(pixel).first(), QString("Mono8"));
     QCOMPARE(pixel->valueText(), QString("Mono8"));
     QVERIFY(pixel->toolTip().contains(normal("Enum Entry Name: ") + bold("BayerRG8") + "<br>" +
-                                      normal("Enum Entry Value: ") + bold("17301513")));
+                                      normal("Enum Entry Value: ") + bold("17301513")));   // BayerRG8's code
     QVERIFY(!m.enumeration->enumNames(row("DeviceScanType")).contains("Linescan"));
 
     // String with its length limit; read-only string greyed.
@@ -251,8 +250,7 @@ void TestFeaturesForm::rowsPerNodeKind()
     QVERIFY(category->toolTip().contains(normal("Category Name: ") + bold("ImageFormatControl")));
 
     // Invisible nodes never become rows; every other row is findable by name.
-    QVERIFY(!row("TestInvisibleValue") && !row("GainRaw"));
-    QVERIFY(m_form->featureNames().size() > 300);
+    QVERIFY(!row("TestInvisibleValue") && !row("GainRaw") && m_form->featureNames().size() > 300);
 }
 
 void TestFeaturesForm::rangeWarningAndUnavailableRows()
@@ -273,8 +271,7 @@ void TestFeaturesForm::rangeWarningAndUnavailableRows()
     QCOMPARE(binning->displayMode(), QtProperty::DisplayIcon);
     QCOMPARE(binning->toolTip(), QString("Parameter out of range"));
     QVERIFY(binning->txtTag().contains(normal("Feature Name: ") + bold("BinningHorizontal")));
-    QVERIFY(m_rig.writeRegister(m_cam, 0x108, 1));
-    QVERIFY(refreshRow("BinningHorizontal"));
+    QVERIFY(m_rig.writeRegister(m_cam, 0x108, 1) && refreshRow("BinningHorizontal"));
     QCOMPARE(binning->displayMode(), QtProperty::DisplayNormal);
     QCOMPARE(binning->toolTip(), binning->txtTag());
 }
@@ -294,8 +291,7 @@ void TestFeaturesForm::writesAreCheckedAndReadBack()
     // A good value reaches the camera.
     m_messages.clear();
     m.integer->setValue(width, 256);
-    QVERIFY(waitWrite("Width"));
-    QVERIFY(m_messages.isEmpty());
+    QVERIFY(waitWrite("Width") && m_messages.isEmpty());
     QCOMPARE(deviceValue("Width"), QString("256"));
     QCOMPARE(m.integer->value(width), 256.0);
 
@@ -318,8 +314,7 @@ void TestFeaturesForm::writesAreCheckedAndReadBack()
     QCOMPARE(persistent->valueText(), before);
     m_messages.clear();
     m.string->setValue(persistent, "192.168.7.9");
-    QVERIFY(waitWrite("GevPersistentIPAddress"));
-    QVERIFY(m_messages.isEmpty());
+    QVERIFY(waitWrite("GevPersistentIPAddress") && m_messages.isEmpty());
     QCOMPARE(persistent->valueText(), QString("192.168.7.9"));
 
     // Enumeration by its shown text; boolean announces itself.
@@ -347,23 +342,18 @@ void TestFeaturesForm::commandExecutingUntilCameraReleasesIt()
     QSignalSpy finished(m_form, &CPropertyFeaturesForm::commandFinished);
     m_form->managers().command->click(hold, false);
     QTRY_VERIFY_WITH_TIMEOUT(!hold->isDone(), 5000);
-    QCOMPARE(m_form->commandThread()->pendingNames(), 1);
-    QVERIFY(finished.isEmpty());
+    QVERIFY(m_form->commandThread()->pendingNames() == 1 && finished.isEmpty());
 
     // The camera completes it.
     const guint32 zero = 0;
     arv_fake_camera_write_memory(m_rig.fake(m_cam), 0x4000, 4, &zero);
-    QVERIFY(finished.wait(5000));
-    QCOMPARE(finished.first().at(0).toString(), QString("TestHoldCommand"));
-    QVERIFY(hold->isDone());
+    QVERIFY(finished.wait(5000) && finished.first().at(0).toString() == "TestHoldCommand" && hold->isDone());
     QTRY_COMPARE_WITH_TIMEOUT(m_form->commandThread()->pendingNames(), 0, 5000);
 
     // A command that finishes at once never enters the executing state.
     finished.clear();
     m_form->managers().command->click(row("TestHoldRelease"), false);
-    QVERIFY(finished.wait(5000));
-    QVERIFY(row("TestHoldRelease")->isDone());
-    QVERIFY(m_messages.isEmpty());
+    QVERIFY(finished.wait(5000) && row("TestHoldRelease")->isDone() && m_messages.isEmpty());
 }
 
 void TestFeaturesForm::cameraSideChangesRefreshRows()
@@ -389,9 +379,7 @@ void TestFeaturesForm::searchAndSharedLevel()
     QComboBox* level = m_form->visibilityCombo();
     level->setCurrentIndex(0);
     QCOMPARE(CConfiguration::getInstance()->deviceCtrlVisibility, 0);
-    QVERIFY(rowShown("Width"));
-    QVERIFY(!rowShown("TestHoldCommand"));   // Guru
-    QVERIFY(!rowShown("BinningHorizontal"));  // Expert
+    QVERIFY(rowShown("Width") && !rowShown("TestHoldCommand") && !rowShown("BinningHorizontal"));   // Guru, Expert
 
     // A second page follows the shared level.
     m_form->visibilityCombo()->setCurrentIndex(1);
@@ -401,11 +389,8 @@ void TestFeaturesForm::searchAndSharedLevel()
     // Any search text switches to Guru and shows matches with their categories only.
     m_form->keyEdit()->setText("hold comm");   // the shown name, "Test Hold Command"
     QCOMPARE(level->currentIndex(), 2);
-    QVERIFY(rowShown("TestHoldCommand"));
-    QVERIFY(rowShown("TestControl"));
-    QVERIFY(!rowShown("Width"));
-    QVERIFY(!rowShown("ImageFormatControl"));
-    QVERIFY(!rowShown("TestHoldRelease"));
+    QVERIFY(rowShown("TestHoldCommand") && rowShown("TestControl"));
+    QVERIFY(!rowShown("Width") && !rowShown("ImageFormatControl") && !rowShown("TestHoldRelease"));
 
     // Clearing: top-level rows expanded, everything below collapsed.
     m_form->keyEdit()->clear();

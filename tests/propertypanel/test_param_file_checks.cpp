@@ -79,9 +79,7 @@ void TestParamFileChecks::endMarkerCatchesEveryCut()
     QVERIFY2(text.endsWith("\n# End: 7 lines\n"), text.constData());
     const CDeviceParamFile whole = CDeviceParamFile::parse(text);
     QCOMPARE(whole.version, 2);
-    QVERIFY(whole.hasEndMarker);
-    QVERIFY(whole.damage.isEmpty());
-    QVERIFY(whole.problems.isEmpty());
+    QVERIFY(whole.hasEndMarker && whole.damage.isEmpty() && whole.problems.isEmpty());
     QCOMPARE(whole.entries.size(), 4);
     QCOMPARE(whole.entries[1].key(), QString("TriggerMode[TriggerSelector=FrameStart]"));
     QCOMPARE(whole.entries[2].value, QString("a\\b\nc=d"));   // escapes survive, '=' in a value too
@@ -116,14 +114,12 @@ void TestParamFileChecks::endMarkerCatchesEveryCut()
     // A file of the first version has no marker and loads whole.
     const CDeviceParamFile old = CDeviceParamFile::parse(CDeviceParamFile::magic(1) + "\nWidth=64\nGain=2");
     QCOMPARE(old.version, 1);
-    QVERIFY(!old.hasEndMarker);
-    QVERIFY(old.damage.isEmpty());
+    QVERIFY(!old.hasEndMarker && old.damage.isEmpty());
     QCOMPARE(old.entries.size(), 2);
 
     // A foreign file: no header, lines that name nothing are listed.
     const CDeviceParamFile bad = CDeviceParamFile::parse("garbage line\nWidth\t64\n9bad=1\nX[Sel]=2\n\x01\x02\n");
-    QVERIFY(!bad.hasHeader());
-    QVERIFY(bad.damage.isEmpty());
+    QVERIFY(!bad.hasHeader() && bad.damage.isEmpty());
     QCOMPARE(bad.entries.size(), 1);   // tab-separated lines of other tools are read
     QCOMPARE(bad.problems.size(), 4);
     QVERIFY(bad.problems[0].startsWith("line 1"));
@@ -133,8 +129,7 @@ void TestParamFileChecks::onlyRegularFiles()
 {
     const QString fifo = path("fifo.txt"), dir = path("folder.txt"), zero = path("zero.txt");
     QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-    QVERIFY(QDir().mkpath(dir));
-    QVERIFY(QFile::link("/dev/zero", zero));
+    QVERIFY(QDir().mkpath(dir) && QFile::link("/dev/zero", zero));
     const QString big = path("big.txt");
     QVERIFY(writeAll(big, QByteArray()));
     QCOMPARE(::truncate(QFile::encodeName(big).constData(), CDeviceParamFile::kMaxFileSize + 1), 0);   // sparse
@@ -156,13 +151,11 @@ void TestParamFileChecks::onlyRegularFiles()
     QVERIFY(writeAll(small, QByteArray(100, 'x')));
     QByteArray bytes;
     QString error;
-    QVERIFY(!CRegularFile::read(small, 99, bytes, error));
-    QVERIFY(bytes.isEmpty());
+    QVERIFY(!CRegularFile::read(small, 99, bytes, error) && bytes.isEmpty());
     QVERIFY(CRegularFile::read(small, 100, bytes, error));
     QCOMPARE(bytes.size(), 100);
     // Reading stops when asked.
-    QVERIFY(!CRegularFile::read(small, 100, bytes, error, []() { return false; }));
-    QVERIFY(error.isEmpty());
+    QVERIFY(!CRegularFile::read(small, 100, bytes, error, []() { return false; }) && error.isEmpty());
 
     // Saving: never over what is not a regular file; through a link to one.
     const CDeviceParamFile file = sampleFile();
@@ -174,8 +167,7 @@ void TestParamFileChecks::onlyRegularFiles()
     struct stat st;
     QVERIFY(::stat(QFile::encodeName(fifo).constData(), &st) == 0 && S_ISFIFO(st.st_mode));
     const QString target = path("target.txt"), link = path("link.txt");
-    QVERIFY(writeAll(target, "old"));
-    QVERIFY(QFile::link(target, link));
+    QVERIFY(writeAll(target, "old") && QFile::link(target, link));
     QVERIFY2(file.save(link, error), qPrintable(error));
     QCOMPARE(readAll(target), file.toText());
     QVERIFY(QFileInfo(link).isSymLink());
@@ -186,9 +178,7 @@ void TestParamFileChecks::cancelWinsUntilCommit()
     // Cancelled first: the work finds out when it tries to commit.
     CHeldWorker early;
     early.begin();
-    QVERIFY(early.entered.tryAcquire(1, 10000));
-    QVERIFY(early.cancel());
-    QVERIFY(early.isCancelled());
+    QVERIFY(early.entered.tryAcquire(1, 10000) && early.cancel() && early.isCancelled());
     early.release.release();
     QVERIFY(early.wait(10000));
     QCOMPARE(early.committed.load(), 0);
@@ -200,8 +190,7 @@ void TestParamFileChecks::cancelWinsUntilCommit()
     late.release.release();
     QVERIFY(late.wait(10000));
     QCOMPARE(late.committed.load(), 1);
-    QVERIFY(!late.cancel());
-    QVERIFY(!late.isCancelled());
+    QVERIFY(!late.cancel() && !late.isCancelled());
 }
 
 void TestParamFileChecks::writesSurviveAFullDisk()

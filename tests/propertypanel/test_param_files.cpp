@@ -91,16 +91,11 @@ void TestParamFiles::paramFileRoundTripBetweenCameras()
     const CTavDevicePtr a = m_cams.dev[0], b = m_cams.dev[1];
     QTRY_VERIFY_WITH_TIMEOUT(b->isConnected(), 5000);
     // Values on camera A, including per-selector ones.
-    QVERIFY(writeFeature(a, "ExposureTime", "23456"));
-    QVERIFY(writeFeature(a, "OffsetX", "0"));
-    QVERIFY(writeFeature(a, "Width", "200"));
-    QVERIFY(writeFeature(a, "OffsetX", "40"));
-    QVERIFY(writeFeature(a, "ReverseY", "1"));
-    QVERIFY(writeFeature(a, "TriggerSelector", "FrameStart"));
-    QVERIFY(writeFeature(a, "TriggerMode", "On"));
-    QVERIFY(writeFeature(a, "TriggerActivation", "FallingEdge"));
-    QVERIFY(writeFeature(a, "TriggerSelector", "ExposureEnd") || true);
-    QVERIFY(writeFeature(b, "Width", "320"));
+    QVERIFY(writeFeature(a, "ExposureTime", "23456") && writeFeature(a, "OffsetX", "0"));
+    QVERIFY(writeFeature(a, "Width", "200") && writeFeature(a, "OffsetX", "40"));
+    QVERIFY(writeFeature(a, "ReverseY", "1") && writeFeature(a, "TriggerSelector", "FrameStart"));
+    QVERIFY(writeFeature(a, "TriggerMode", "On") && writeFeature(a, "TriggerActivation", "FallingEdge"));
+    QVERIFY((writeFeature(a, "TriggerSelector", "ExposureEnd") || true) && writeFeature(b, "Width", "320"));
     QVERIFY(writeFeature(b, "OffsetX", "0"));
     const QString selectorOnA = featureValue(a, "TriggerSelector");
 
@@ -108,8 +103,7 @@ void TestParamFiles::paramFileRoundTripBetweenCameras()
     setUp(ctl);
     const QString path = m_dir.filePath("a.txt");
     QSignalSpy saved(&ctl, &CParamFileController::saveDone);
-    QVERIFY(ctl.saveFile(a->getDeviceKey(), path));
-    QVERIFY(saved.wait(30000));
+    QVERIFY(ctl.saveFile(a->getDeviceKey(), path) && saved.wait(30000));
     QCOMPARE(saved.last().at(0).toBool(), true);
     QCOMPARE(featureValue(a, "TriggerSelector"), selectorOnA);   // selectors get their value back
     const CDeviceParamFile file = CDeviceParamFile::parse(readAll(path));
@@ -117,14 +111,11 @@ void TestParamFiles::paramFileRoundTripBetweenCameras()
     QStringList keys;
     for (const SParamEntry& e : file.entries)
         keys.append(e.key());
-    QVERIFY(keys.contains("TriggerMode[TriggerSelector=FrameStart]"));
-    QVERIFY(!keys.contains("GevCCP"));
-    QVERIFY(!keys.contains("DeviceUserID"));
-    QVERIFY(!keys.contains("TestReadOnlyValue"));
+    QVERIFY(keys.contains("TriggerMode[TriggerSelector=FrameStart]") && !keys.contains("GevCCP"));
+    QVERIFY(!keys.contains("DeviceUserID") && !keys.contains("TestReadOnlyValue"));
 
     QSignalSpy loaded(&ctl, &CParamFileController::loadDone);
-    QVERIFY(ctl.loadFile(b->getDeviceKey(), path));
-    QVERIFY(loaded.wait(30000));
+    QVERIFY(ctl.loadFile(b->getDeviceKey(), path) && loaded.wait(30000));
     QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultLoaded));
     QCOMPARE(m_shown.last().path, m_dir.filePath("report.log"));
     for (const char* f : {"ExposureTime", "Width", "OffsetX", "ReverseY", "PixelFormat", "Gain"})
@@ -136,8 +127,7 @@ void TestParamFiles::paramFileRoundTripBetweenCameras()
     QCOMPARE(b->getCurFile(), path);
     for (const CTavDevicePtr& d : {a, b})
     {
-        QVERIFY(writeFeature(d, "TriggerSelector", "FrameStart"));
-        QVERIFY(writeFeature(d, "TriggerMode", "Off"));
+        QVERIFY(writeFeature(d, "TriggerSelector", "FrameStart") && writeFeature(d, "TriggerMode", "Off"));
     }
 }
 
@@ -159,8 +149,7 @@ void TestParamFiles::paramFileReportsWhatDidNotLoad()
                                "ReverseX=1\n"));
     QVERIFY(writeFeature(b, "ReverseX", "0"));
     QSignalSpy loaded(&ctl, &CParamFileController::loadDone);
-    QVERIFY(ctl.loadFile(b->getDeviceKey(), path));
-    QVERIFY(loaded.wait(30000));
+    QVERIFY(ctl.loadFile(b->getDeviceKey(), path) && loaded.wait(30000));
     QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultPartial));
     QCOMPARE(loaded.last().at(1).toInt(), 1);
     QCOMPARE(featureValue(b, "ReverseX"), QString("1"));
@@ -175,16 +164,14 @@ void TestParamFiles::paramFileReportsWhatDidNotLoad()
     // Damaged file: nothing matches, nothing is loaded, and the report says so.
     m_shown.clear();
     QVERIFY(writeAll(path, QByteArray("\x7f" "ELF\x01\x02\x00garbage\nmore = junk = here\n", 31)));
-    QVERIFY(ctl.loadFile(b->getDeviceKey(), path));
-    QVERIFY(loaded.wait(30000));
+    QVERIFY(ctl.loadFile(b->getDeviceKey(), path) && loaded.wait(30000));
     QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultFailed));
     QCOMPARE(loaded.last().at(1).toInt(), 0);
     QCOMPARE(m_shown.last().icon, int(QMessageBox::Critical));
     QVERIFY(QString::fromUtf8(readAll(report)).contains("header"));
 
     // A camera that is not known at all.
-    QVERIFY(ctl.loadFile("no-such-key", path));
-    QVERIFY(loaded.wait(30000));
+    QVERIFY(ctl.loadFile("no-such-key", path) && loaded.wait(30000));
     QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultFailed));
     QVERIFY(QString::fromUtf8(readAll(report)).contains("no-such-key"));
 }
@@ -207,14 +194,12 @@ void TestParamFiles::paramFileDamagedIsAskedAbout()
     file.entries.append({"ExposureTime", {}, "10000", 0});
     const QByteArray text = file.toText();
     const QString path = m_dir.filePath("cut.txt");
-    QVERIFY(writeAll(path, text.left(text.indexOf("=10000") + 3)));
-    QVERIFY(writeFeature(b, "ReverseX", "0"));
+    QVERIFY(writeAll(path, text.left(text.indexOf("=10000") + 3)) && writeFeature(b, "ReverseX", "0"));
     QVERIFY(writeFeature(b, "ExposureTime", "5000"));
     const QString exposure = featureValue(b, "ExposureTime");
 
     // Declined: nothing applied, nothing more said.
-    QVERIFY(ctl.loadFile(b->getDeviceKey(), path));
-    QVERIFY(loaded.wait(30000));
+    QVERIFY(ctl.loadFile(b->getDeviceKey(), path) && loaded.wait(30000));
     QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultCancelled));
     QCOMPARE(asked.size(), 1);
     QVERIFY2(asked[0].contains(path) && asked[0].contains("damaged"), qPrintable(asked[0]));
@@ -224,8 +209,7 @@ void TestParamFiles::paramFileDamagedIsAskedAbout()
 
     // Loaded anyway: its whole lines only, and no success claimed.
     answer = true;
-    QVERIFY(ctl.loadFile(b->getDeviceKey(), path));
-    QVERIFY(loaded.wait(30000));
+    QVERIFY(ctl.loadFile(b->getDeviceKey(), path) && loaded.wait(30000));
     QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultPartial));
     QCOMPARE(featureValue(b, "ReverseX"), QString("1"));
     QCOMPARE(featureValue(b, "ExposureTime"), exposure);
@@ -235,8 +219,7 @@ void TestParamFiles::paramFileDamagedIsAskedAbout()
 
     // A file written before files had an end marker loads as before, with a note.
     QVERIFY(writeAll(path, CDeviceParamFile::magic(1) + "\nReverseX=0\n"));
-    QVERIFY(ctl.loadFile(b->getDeviceKey(), path));
-    QVERIFY(loaded.wait(30000));
+    QVERIFY(ctl.loadFile(b->getDeviceKey(), path) && loaded.wait(30000));
     QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultLoaded));
     QCOMPARE(asked.size(), 2);
     QCOMPARE(featureValue(b, "ReverseX"), QString("0"));
@@ -255,15 +238,13 @@ void TestParamFiles::paramFileRefusesWhatIsNoRegularFile()
     QSignalSpy saved(&ctl, &CParamFileController::saveDone);
     for (const QString& path : {fifo, zero})
     {
-        QVERIFY(ctl.loadFile(a->getDeviceKey(), path));
-        QVERIFY(loaded.wait(30000));
+        QVERIFY(ctl.loadFile(a->getDeviceKey(), path) && loaded.wait(30000));
         QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultFailed));
         QVERIFY2(m_shown.last().text.contains(path) && m_shown.last().text.contains("regular file"),
                  qPrintable(m_shown.last().text));
         QVERIFY(!ctl.isBusy());
     }
-    QVERIFY(ctl.saveFile(a->getDeviceKey(), fifo));
-    QVERIFY(saved.wait(30000));
+    QVERIFY(ctl.saveFile(a->getDeviceKey(), fifo) && saved.wait(30000));
     QCOMPARE(saved.last().at(0).toBool(), false);
     QVERIFY2(m_shown.last().text.contains(fifo), qPrintable(m_shown.last().text));
     QVERIFY(QFileInfo(fifo).exists() && !QFileInfo(fifo).isFile());
@@ -282,8 +263,7 @@ void TestParamFiles::paramFileCancel()
     QSignalSpy saved(&ctl, &CParamFileController::saveDone);
     const QString path = longFile("cancel.txt");   // ends on ReverseX=1
     const QString kept = m_dir.filePath("kept.txt");
-    QVERIFY(writeAll(kept, "kept\n"));
-    QVERIFY(writeFeature(dev, "ReverseX", "0"));
+    QVERIFY(writeAll(kept, "kept\n") && writeFeature(dev, "ReverseX", "0"));
     const auto cancelWait = [&ctl]() {
         QVERIFY(ctl.waitDialog() && ctl.waitDialog()->isVisible());
         auto* close = ctl.waitDialog()->findChild<QAbstractButton*>("btnDialogClose");
@@ -320,8 +300,7 @@ void TestParamFiles::paramFileCancel()
     QCOMPARE(readAll(kept), QByteArray("kept\n"));
     QCOMPARE(QDir(m_dir.path()).entryList({"kept.txt*"}, QDir::Files | QDir::Hidden), QStringList("kept.txt"));
 
-    QVERIFY(ctl.loadFile(dev->getDeviceKey(), path));
-    QVERIFY(loaded.wait(30000));
+    QVERIFY(ctl.loadFile(dev->getDeviceKey(), path) && loaded.wait(30000));
     QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultLoaded));
     QCOMPARE(featureValue(dev, "ReverseX"), QString("1"));
     QVERIFY(writeFeature(dev, "ReverseX", "0"));
@@ -339,8 +318,7 @@ void TestParamFiles::paramFileSaveOnFullDisk()
     ctl.setReportPath(report);
     QSignalSpy saved(&ctl, &CParamFileController::saveDone);
     QSignalSpy loaded(&ctl, &CParamFileController::loadDone);
-    QVERIFY(ctl.saveFile(dev->getDeviceKey(), path));
-    QVERIFY(saved.wait(30000));
+    QVERIFY(ctl.saveFile(dev->getDeviceKey(), path) && saved.wait(30000));
     QCOMPARE(saved.last().at(0).toBool(), true);
     QVERIFY(writeAll(report, "earlier report\n"));
     const QByteArray before = readAll(path);
@@ -350,8 +328,7 @@ void TestParamFiles::paramFileSaveOnFullDisk()
     const QString noSpace = QString::fromLocal8Bit(strerror(ENOSPC));
     for (const QString& p : {path, fresh})
     {
-        QVERIFY(ctl.saveFile(dev->getDeviceKey(), p));
-        QVERIFY(saved.wait(30000));
+        QVERIFY(ctl.saveFile(dev->getDeviceKey(), p) && saved.wait(30000));
         QCOMPARE(saved.last().at(0).toBool(), false);
         QVERIFY2(m_shown.last().text.contains(p) && m_shown.last().text.contains(noSpace),
                  qPrintable(m_shown.last().text));
@@ -359,8 +336,7 @@ void TestParamFiles::paramFileSaveOnFullDisk()
     QCOMPARE(readAll(path), before);
 
     // A load goes through, but its report cannot be written, and says so.
-    QVERIFY(ctl.loadFile(dev->getDeviceKey(), path));
-    QVERIFY(loaded.wait(30000));
+    QVERIFY(ctl.loadFile(dev->getDeviceKey(), path) && loaded.wait(30000));
     QCOMPARE(loaded.last().at(0).toInt(), int(CParamFileLoadThread::resultLoaded));
     QVERIFY2(m_shown.last().text.contains(report) && m_shown.last().text.contains(noSpace),
              qPrintable(m_shown.last().text));
@@ -395,14 +371,12 @@ void TestParamFiles::paramFileStopsWhenCameraIsLost()
     load.begin();
     QVERIFY(finished.wait(30000));
     load.wait();
-    QVERIFY(started);
-    QVERIFY(discoveryPolls > 3);
+    QVERIFY(started && discoveryPolls > 3);
     // Disconnected before the first write: asked to connect, nobody did.
     QCOMPARE(needConnect.count(), 1);
     QCOMPARE(finished.last().at(0).toInt(), int(CParamFileLoadThread::resultFailed));
     QCOMPARE(finished.last().at(1).toInt(), 0);
-    QVERIFY(QString::fromUtf8(readAll(report)).contains("could not be connected"));
-    QVERIFY(b->openDevice(true));
+    QVERIFY(QString::fromUtf8(readAll(report)).contains("could not be connected") && b->openDevice(true));
 }
 
 void TestParamFiles::paramFileLoadCutByClosing()
@@ -432,8 +406,7 @@ void TestParamFiles::paramFileLoadCutByClosing()
         worker = ctl->findChild<CParamFileLoadThread*>();
         QVERIFY(worker);
         delete ctl;   // a wait here would never end: this thread holds the camera
-        QVERIFY(worker);
-        QVERIFY(!worker->parent());
+        QVERIFY(worker && !worker->parent());
     }
     QTRY_VERIFY_WITH_TIMEOUT(worker.isNull(), 30000);
     // The worker is gone: whatever it had posted is delivered now, or never.

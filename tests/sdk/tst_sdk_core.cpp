@@ -76,13 +76,10 @@ void TestSdkCore::errorTexts()
 void TestSdkCore::semaphoreAndThread()
 {
     CSemaphore sem;
-    QVERIFY(!sem.tryPend());
-    QVERIFY(!sem.pend(20));
+    QVERIFY(!sem.tryPend() && !sem.pend(20));
     sem.post();
     sem.post();
-    QVERIFY(sem.tryPend());
-    QVERIFY(sem.pend(0));
-    QVERIFY(!sem.tryPend());
+    QVERIFY(sem.tryPend() && sem.pend(0) && !sem.tryPend());
 
     CThread thread;
     QVERIFY(thread.isThreadOver());
@@ -93,14 +90,11 @@ void TestSdkCore::semaphoreAndThread()
         }
     }));
     QVERIFY(!thread.createThread([] {}));   // one body at a time
-    QVERIFY(sem.pend(5000));
-    QVERIFY(!thread.isThreadOver());
+    QVERIFY(sem.pend(5000) && !thread.isThreadOver());
     QVERIFY(thread.destroyThread());   // joined: the body has returned
-    QVERIFY(thread.isThreadOver());
-    QVERIFY(!thread.looping());
+    QVERIFY(thread.isThreadOver() && !thread.looping());
     // Restartable after it ended.
-    QVERIFY(thread.createThread([] {}));
-    QVERIFY(thread.destroyThread());
+    QVERIFY(thread.createThread([] {}) && thread.destroyThread());
 }
 
 void TestSdkCore::gvcpPackets()
@@ -154,19 +148,15 @@ void TestSdkCore::gvcpPackets()
     QCOMPARE(QString::fromStdString(Gvcp::ipToString(0xC0A80164)), QString("192.168.1.100"));
     QVERIFY(Gvcp::parseIp("10.1.2.3", ip));
     QCOMPARE(ip, 0x0A010203u);
-    QVERIFY(!Gvcp::parseIp("10.1.2", ip));
-    QVERIFY(!Gvcp::parseIp("300.1.2.3", ip));
-    QVERIFY(!Gvcp::parseIp(nullptr, ip));
+    QVERIFY(!Gvcp::parseIp("10.1.2", ip) && !Gvcp::parseIp("300.1.2.3", ip) && !Gvcp::parseIp(nullptr, ip));
     QCOMPARE(QString::fromStdString(Gvcp::macToString(0x0011223344AAull)), QString("00:11:22:33:44:aa"));
     QVERIFY(Gvcp::parseMac("00-11-22-33-44-AA", mac));
     QCOMPARE(mac, 0x0011223344AAull);
-    QVERIFY(!Gvcp::parseMac("00:11:22:33:44", mac));
-    QVERIFY(!Gvcp::parseMac("00:11:22:33:44:55:66", mac));
+    QVERIFY(!Gvcp::parseMac("00:11:22:33:44", mac) && !Gvcp::parseMac("00:11:22:33:44:55:66", mac));
 
     // The loopback interface is always there.
     Gvcp::SHostInterface lo;
-    QVERIFY(Gvcp::hostInterfaceFor(0x7F000001, lo));
-    QVERIFY(lo.loopback);
+    QVERIFY(Gvcp::hostInterfaceFor(0x7F000001, lo) && lo.loopback);
     QCOMPARE(lo.mask, 0xFF000000u);
 }
 
@@ -188,8 +178,7 @@ void TestSdkCore::eventPackets()
     Gvcp::put16(d + 24 + 2, 0x0002);
     Gvcp::put16(d + 24 + 6, 78);
     CMessageChannel::SPacket packet;
-    QVERIFY(CMessageChannel::parse(d, size_t(p.size()), packet));
-    QVERIFY(packet.ackRequired);
+    QVERIFY(CMessageChannel::parse(d, size_t(p.size()), packet) && packet.ackRequired);
     QCOMPARE(packet.requestId, uint16_t(0x1234));
     QCOMPARE(packet.ackCode, uint16_t(Gvcp::EVENT_ACK));
     QCOMPARE(int(packet.events.size()), 2);
@@ -219,8 +208,7 @@ void TestSdkCore::eventPackets()
     Gvcp::put32(d + 20, 0x5);
     Gvcp::put32(d + 24, 0x0);
     Gvcp::put32(d + 28, 0x99);
-    QVERIFY(CMessageChannel::parse(d, size_t(e.size()), packet));
-    QVERIFY(!packet.ackRequired);
+    QVERIFY(CMessageChannel::parse(d, size_t(e.size()), packet) && !packet.ackRequired);
     QCOMPARE(packet.ackCode, uint16_t(Gvcp::EVENTDATA_ACK));
     QCOMPARE(int(packet.events.size()), 1);
     QCOMPARE(packet.events[0].eventID, uint16_t(0x9002));
@@ -233,8 +221,7 @@ void TestSdkCore::eventPackets()
     QVERIFY(!CMessageChannel::parse(d, size_t(e.size()), packet));
     d[0] = 0x42;
     Gvcp::put16(d + 2, Gvcp::READREG_CMD);
-    QVERIFY(!CMessageChannel::parse(d, size_t(e.size()), packet));
-    QVERIFY(!CMessageChannel::parse(d, 5, packet));
+    QVERIFY(!CMessageChannel::parse(d, size_t(e.size()), packet) && !CMessageChannel::parse(d, 5, packet));
     QVERIFY(!CMessageChannel::parse(nullptr, 0, packet));
 }
 
@@ -259,8 +246,7 @@ void TestSdkCore::eventHubDelivery()
     QCOMPARE(getLastError(), int(ERR_INVALID_PARAMETER));
     QVERIFY(!EventHub::hasStreamSubscribers(camA.get()));
     QVERIFY(manager->subscribeStreamArg([](const SStreamArg&) {}));
-    QVERIFY(EventHub::hasStreamSubscribers(camA.get()));
-    QVERIFY(!EventHub::hasStreamSubscribers(camB.get()));
+    QVERIFY(EventHub::hasStreamSubscribers(camA.get()) && !EventHub::hasStreamSubscribers(camB.get()));
 
     for (int i = 0; i < 50; ++i) {
         SParamUpdataArg arg;
@@ -347,8 +333,7 @@ void TestSdkCore::nodesWithoutConnection()
     QCOMPARE(getLastError(), int(ERR_INVALID_HANDLE));
 
     CInternalGigECameraInfo gigeInfo(ICameraPtr{});
-    QVERIFY(!gigeInfo.isValid());
-    QVERIFY(gigeInfo.getModelName().empty());
+    QVERIFY(!gigeInfo.isValid() && gigeInfo.getModelName().empty());
     ECameraAccessPermission perm;
     QVERIFY(!gigeInfo.getAccessPermission(perm));
 

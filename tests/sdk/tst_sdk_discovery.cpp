@@ -70,8 +70,7 @@ void TestSdkDiscovery::discovery()
     QCOMPARE(QString(host->getSubnetMask().c_str()), QString("255.0.0.0"));
     QVERIFY(!CInternalSystem::getInstance().getUsbInterfaceInfoByCamera(m_cam1));
     bool installed = false;
-    QVERIFY(internal(m_cam1)->isDriverInstalled(installed));
-    QVERIFY(installed);
+    QVERIFY(internal(m_cam1)->isDriverInstalled(installed) && installed);
 
     // A second pass hands out the same objects under the same keys.
     TVector<ICameraPtr> again;
@@ -88,8 +87,7 @@ void TestSdkDiscovery::discovery()
     QVERIFY(CSystem::getInstance().discovery(usb, typeUsb3Vision));
     for (const ICameraPtr& c : usb)
         QCOMPARE(c->getType(), typeUsb3Vision);
-    QVERIFY(CSystem::getInstance().discovery(usb, typeCameraLink));
-    QVERIFY(usb.empty());
+    QVERIFY(CSystem::getInstance().discovery(usb, typeCameraLink) && usb.empty());
     QVERIFY(CSystem::getInstance().getCameraPtrAll(all));
     QCOMPARE(findBySerial(all, "SIM001").get(), m_cam1.get());
 
@@ -110,8 +108,7 @@ void TestSdkDiscovery::unicastDiscovery()
     // Nobody answers on 127.0.0.9.
     std::strcpy(probe.ipAddress, "127.0.0.9");
     probe.timeoutMs = 300;
-    QVERIFY(!CSystem::getInstance().discoveryEx(found, discoveryUnicast, probe));
-    QVERIFY(found.empty());
+    QVERIFY(!CSystem::getInstance().discoveryEx(found, discoveryUnicast, probe) && found.empty());
     QCOMPARE(getLastError(), int(ERR_TIMEOUT));
     QVERIFY(lastErrorText().startsWith("Timeout waiting for the camera"));
 
@@ -137,8 +134,7 @@ void TestSdkDiscovery::controlPrivilege()
     QCOMPARE(permission, accessPermissionControl);
     QVERIFY(!cam->connect(accessPermissionControl));
     QCOMPARE(getLastError(), int(ERR_ACCESS_DENIED));
-    QVERIFY(lastErrorText().startsWith("Camera is controlled by another host"));
-    QVERIFY(!m_cam2->isConnected());
+    QVERIFY(lastErrorText().startsWith("Camera is controlled by another host") && !m_cam2->isConnected());
     // Refusing did not take control away from the other host.
     QVERIFY(arv_gv_device_is_controller(ARV_GV_DEVICE(arv_camera_get_device(other))));
     QCOMPARE(arv_fake_camera_get_control_channel_privilege(m_rig.fake(m_fake2)), 2u);
@@ -146,20 +142,17 @@ void TestSdkDiscovery::controlPrivilege()
 
     // Now ours; a second client is refused while we hold control.
     QVERIFY2(cam->connect(accessPermissionControl), qPrintable(lastErrorText()));
-    QVERIFY(m_cam2->isConnected());
-    QVERIFY(!cam->connect(accessPermissionControl));
+    QVERIFY(m_cam2->isConnected() && !cam->connect(accessPermissionControl));
     QCOMPARE(getLastError(), int(ERR_ALREADY_CONNECTED));
     QVERIFY(info.getAccessPermission(permission));
     QCOMPARE(permission, accessPermissionControl);
     ArvCamera* second = arv_camera_new("127.0.0.2", &error);
-    QVERIFY(second);
-    QVERIFY(!arv_gv_device_is_controller(ARV_GV_DEVICE(arv_camera_get_device(second))));
+    QVERIFY(second && !arv_gv_device_is_controller(ARV_GV_DEVICE(arv_camera_get_device(second))));
     g_object_unref(second);
     QVERIFY(m_cam2->isConnected());
 
     // Disconnecting gives control back.
-    QVERIFY(cam->disConnect());
-    QVERIFY(!m_cam2->isConnected());
+    QVERIFY(cam->disConnect() && !m_cam2->isConnected());
     QTRY_COMPARE_WITH_TIMEOUT(arv_fake_camera_get_control_channel_privilege(m_rig.fake(m_fake2)), 0u, 5000);
     QVERIFY(cam->disConnect());   // twice is harmless
 
@@ -219,15 +212,12 @@ void TestSdkDiscovery::linkSettings()
     auto* cam = internal(m_cam1);
     QVERIFY(!cam->setHeartbeatIntervel(5000));
     QCOMPARE(getLastError(), int(ERR_NOT_CONNECTED));
-    QVERIFY(cam->connect(accessPermissionControl));
-    QVERIFY(cam->setAnswerTimeout(500));
-    QVERIFY(!cam->setAnswerTimeout(0));
+    QVERIFY(cam->connect(accessPermissionControl) && cam->setAnswerTimeout(500) && !cam->setAnswerTimeout(0));
     QVERIFY(cam->setHeartbeatIntervel(5000));
     QCOMPARE(arv_fake_camera_get_heartbeat_timeout(m_rig.fake(m_fake1)), 5000u);
     QVERIFY(cam->setHeartbeatIntervel(100));   // raised to what Aravis can keep up with
     QVERIFY(arv_fake_camera_get_heartbeat_timeout(m_rig.fake(m_fake1)) >= 1000u);
-    QVERIFY(cam->setHeartbeatIntervel(3000));
-    QVERIFY(cam->setAnswerTimeout(1000));
+    QVERIFY(cam->setHeartbeatIntervel(3000) && cam->setAnswerTimeout(1000));
 }
 
 void TestSdkDiscovery::forceIp()
@@ -324,12 +314,10 @@ void TestSdkDiscovery::forceIp()
 
     // The unicast camera is listed while it answers, and dropped after.
     TVector<ICameraPtr> all;
-    QVERIFY(CSystem::getInstance().getCameraPtrAll(all));
-    QVERIFY(findBySerial(all, "R1"));
+    QVERIFY(CSystem::getInstance().getCameraPtrAll(all) && findBySerial(all, "R1"));
     probe.timeoutMs = 200;
     QVERIFY(!CSystem::getInstance().discoveryEx(found, discoveryUnicast, probe));
-    QVERIFY(CSystem::getInstance().getCameraPtrAll(all));
-    QVERIFY(!findBySerial(all, "R1"));
+    QVERIFY(CSystem::getInstance().getCameraPtrAll(all) && !findBySerial(all, "R1"));
 }
 
 QTEST_GUILESS_MAIN(TestSdkDiscovery)

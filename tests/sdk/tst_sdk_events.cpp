@@ -45,8 +45,7 @@ void TestSdkEvents::messageChannel()
 
     // The camera was told where to send its events.
     uint32_t mcp = 0, mcda = 0;
-    QVERIFY(m_rig.readRegister(m_fake1, 0x0B00, mcp));
-    QVERIFY(m_rig.readRegister(m_fake1, 0x0B10, mcda));
+    QVERIFY(m_rig.readRegister(m_fake1, 0x0B00, mcp) && m_rig.readRegister(m_fake1, 0x0B10, mcda));
     const uint16_t port = uint16_t(mcp & 0xFFFF);
     QVERIFY(port != 0);
     QCOMPARE(mcda, 0x7F000001u);
@@ -109,8 +108,7 @@ void TestSdkEvents::cameraLost()
     CEventRecorder<SConnectArg> connection;
     CEventRecorder<SMsgChannelArg> messages;
     CInternalEventManager events(m_cam2);
-    QVERIFY(events.subscribeConnectArgs(connection.proc()));
-    QVERIFY(events.subscribeMsgChannel(messages.proc()));
+    QVERIFY(events.subscribeConnectArgs(connection.proc()) && events.subscribeMsgChannel(messages.proc()));
     QVERIFY(cam->setHeartbeatIntervel(2000));
 
     m_rig.stop(m_fake2);
@@ -138,14 +136,12 @@ void TestSdkEvents::cameraLost()
     QTRY_COMPARE_WITH_TIMEOUT(late.count(), size_t(1), 5000);
     QVERIFY(EventHub::flush(5000));
     QCOMPARE(connection.count(), size_t(1));
-    QVERIFY(cam->disConnect());
-    QVERIFY(!CIntNode(m_cam2, "Width").getValue(v));
+    QVERIFY(cam->disConnect() && !CIntNode(m_cam2, "Width").getValue(v));
     QCOMPARE(getLastError(), int(ERR_NOT_CONNECTED));
 
     // Still listed (the last discovery saw it).
     TVector<ICameraPtr> all;
-    QVERIFY(CSystem::getInstance().getCameraPtrAll(all));
-    QVERIFY(findBySerial(all, "SIM002"));
+    QVERIFY(CSystem::getInstance().getCameraPtrAll(all) && findBySerial(all, "SIM002"));
 
     // The camera comes back: same object, connects again.
     m_fake2 = m_rig.start("127.0.0.2", "SIM002");
@@ -154,8 +150,7 @@ void TestSdkEvents::cameraLost()
     QVERIFY(CSystem::getInstance().discovery(found, typeGigEVision));
     QCOMPARE(findBySerial(found, "SIM002").get(), m_cam2.get());
     QVERIFY2(cam->connect(accessPermissionControl), qPrintable(lastErrorText()));
-    QVERIFY(CIntNode(m_cam2, "Width").getValue(v));
-    QVERIFY(cam->disConnect());
+    QVERIFY(CIntNode(m_cam2, "Width").getValue(v) && cam->disConnect());
 }
 
 QTEST_GUILESS_MAIN(TestSdkEvents)

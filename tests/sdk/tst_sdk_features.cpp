@@ -59,8 +59,7 @@ void TestSdkFeatures::featuresOfEveryType()
     QCOMPARE(max, 2048L);
     QVERIFY(width.getIntIncrement(inc));
     QCOMPARE(inc, 2L);
-    QVERIFY(width.setValue(640));
-    QVERIFY(width.getValue(v));
+    QVERIFY(width.setValue(640) && width.getValue(v));
     QCOMPARE(v, 640L);
     guint32 reg = 0;
     arv_fake_camera_read_register(fake, ARV_FAKE_CAMERA_REGISTER_WIDTH, &reg);
@@ -72,8 +71,7 @@ void TestSdkFeatures::featuresOfEveryType()
     // Integers shown as addresses.
     CIntNode persistentIp(m_cam1, "GevPersistentIPAddress");
     QCOMPARE(persistentIp.getRepresentation(), CInternalParameterNode::representIPV4Address);
-    QVERIFY(persistentIp.setValueFromString("192.168.1.10"));
-    QVERIFY(persistentIp.getValue(v));
+    QVERIFY(persistentIp.setValueFromString("192.168.1.10") && persistentIp.getValue(v));
     QCOMPARE(v, 0xC0A8010AL);
     CString text;
     QVERIFY(persistentIp.getValueAsString(text));
@@ -97,26 +95,21 @@ void TestSdkFeatures::featuresOfEveryType()
     QVERIFY(exposure.getFloatMaxMin(dmax, dmin));
     QCOMPARE(dmin, 10.0);
     QCOMPARE(dmax, 1000000.0);
-    QVERIFY(exposure.setValue(2500.0));
-    QVERIFY(exposure.getValue(d));
+    QVERIFY(exposure.setValue(2500.0) && exposure.getValue(d));
     QCOMPARE(d, 2500.0);
     arv_fake_camera_read_register(fake, ARV_FAKE_CAMERA_REGISTER_EXPOSURE_TIME_US, &reg);
     QCOMPARE(reg, 2500u);
     CFloatNode gain(m_cam1, "Gain");
     QVERIFY(gain.getUnit(unit));
     QCOMPARE(QString(unit.c_str()), QString("dB"));
-    QVERIFY(gain.setValue(6.5));
-    QVERIFY(gain.getValue(d));
+    QVERIFY(gain.setValue(6.5) && gain.getValue(d));
     QCOMPARE(d, 6.5);
     CFloatNode rate(m_cam1, "AcquisitionFrameRate");
-    QVERIFY(rate.getFloatMaxMin(dmax, dmin));
-    QVERIFY(dmin < dmax);
-    QVERIFY(rate.setValue(50.0));
+    QVERIFY(rate.getFloatMaxMin(dmax, dmin) && dmin < dmax && rate.setValue(50.0));
     arv_fake_camera_read_register(fake, ARV_FAKE_CAMERA_REGISTER_ACQUISITION_FRAME_PERIOD_US, &reg);
     QCOMPARE(reg, 20000u);
     CFloatNode black(m_cam1, "BlackLevel");
-    QVERIFY(!black.getUnit(unit));
-    QVERIFY(black.getFloatIncrement(d));
+    QVERIFY(!black.getUnit(unit) && black.getFloatIncrement(d));
     QCOMPARE(d, 0.5);
     QVERIFY(!exposure.getFloatIncrement(d));
     long precision = 0;
@@ -126,15 +119,10 @@ void TestSdkFeatures::featuresOfEveryType()
     CBoolNode reverse(m_cam1, "ReverseX");
     QCOMPARE(reverse.getType(), CInternalParameterNode::featureTypeBool);
     bool b = true;
-    QVERIFY(reverse.getValue(b));
-    QVERIFY(!b);
-    QVERIFY(reverse.setValue(true));
-    QVERIFY(reverse.getValue(b));
-    QVERIFY(b);
+    QVERIFY(reverse.getValue(b) && !b && reverse.setValue(true) && reverse.getValue(b) && b);
     arv_fake_camera_read_register(fake, 0x1010, &reg);
     QCOMPARE(reg, 1u);
-    QVERIFY(reverse.setValueFromString("false"));
-    QVERIFY(reverse.getValueAsString(text));
+    QVERIFY(reverse.setValueFromString("false") && reverse.getValueAsString(text));
     QCOMPARE(QString(text.c_str()), QString("false"));
 
     CStringNode userId(m_cam1, "DeviceUserID");
@@ -142,8 +130,7 @@ void TestSdkFeatures::featuresOfEveryType()
     unsigned int maxLen = 0;
     QVERIFY(userId.getMaxStringLen(maxLen));
     QCOMPARE(maxLen, 16u);
-    QVERIFY(userId.setValue("Line-A"));
-    QVERIFY(userId.getValue(text));
+    QVERIFY(userId.setValue("Line-A") && userId.getValue(text));
     QCOMPARE(QString(text.c_str()), QString("Line-A"));
     QVERIFY(!userId.setValue("a name far longer than sixteen"));
     QCOMPARE(getLastError(), int(ERR_OUT_OF_RANGE));
@@ -167,8 +154,7 @@ void TestSdkFeatures::featuresOfEveryType()
     QCOMPARE(QString(entries.back().displayName.c_str()), QString("RGB 8"));
     QCOMPARE(entries[0].value, 0x01080001UL);
     QCOMPARE(entries[0].nameSpace, CInternalParameterNode::nameSpaceStandard);
-    QVERIFY(format.setEnumValue(0x01080001UL));
-    QVERIFY(format.getValueAsString(text));
+    QVERIFY(format.setEnumValue(0x01080001UL) && format.getValueAsString(text));
     QCOMPARE(QString(text.c_str()), QString("Mono8"));
     QVERIFY(!format.setValueBySymbol("Mono12"));
     QCOMPARE(getLastError(), int(ERR_OUT_OF_RANGE));
@@ -189,9 +175,7 @@ void TestSdkFeatures::featuresOfEveryType()
     QCOMPARE(int(memory[0]), 0xA0);
     QCOMPARE(int(memory[15]), 0xAF);
     TVector<unsigned char> back;
-    QVERIFY(raw.getRegValue(back));
-    QVERIFY(back == bytes);
-    QVERIFY(!raw.setRegValue(TVector<unsigned char>(3, 0)));
+    QVERIFY(raw.getRegValue(back) && back == bytes && !raw.setRegValue(TVector<unsigned char>(3, 0)));
     QCOMPARE(getLastError(), int(ERR_INVALID_PARAMETER));
 
     // Wrong accessor for the type.
@@ -203,8 +187,7 @@ void TestSdkFeatures::featuresOfEveryType()
     CIntNode missing(m_cam1, "NoSuchFeature");
     QVERIFY(!missing.isValid());
     QCOMPARE(getLastError(), int(ERR_NOT_FOUND));
-    QVERIFY(!missing.getValue(v));
-    QVERIFY(lastErrorText().contains("NoSuchFeature"));
+    QVERIFY(!missing.getValue(v) && lastErrorText().contains("NoSuchFeature"));
 }
 
 void TestSdkFeatures::commands()
@@ -216,20 +199,13 @@ void TestSdkFeatures::commands()
     CCmdNode hold(m_cam1, "TestHoldCommand");
     CCmdNode release(m_cam1, "TestHoldRelease");
     QCOMPARE(hold.getType(), CInternalParameterNode::featureTypeCommand);
-    QVERIFY(hold.isDone());
-    QVERIFY(hold.execute());
+    QVERIFY(hold.isDone() && hold.execute());
     bool done = true;
-    QVERIFY(hold.isDone(done));
-    QVERIFY(!done);
-    QVERIFY(!hold.isDone());
-    QVERIFY(release.execute());
-    QVERIFY(hold.isDone(done));
-    QVERIFY(done);
+    QVERIFY(hold.isDone(done) && !done && !hold.isDone() && release.execute() && hold.isDone(done) && done);
     QVERIFY(release.isDone());
 
     // Released by the camera itself.
-    QVERIFY(hold.execute());
-    QVERIFY(!hold.isDone());
+    QVERIFY(hold.execute() && !hold.isDone());
     const guint32 zero = 0;
     arv_fake_camera_write_memory(fake, 0x4000, 4, &zero);
     QVERIFY(hold.isDone());
@@ -237,10 +213,7 @@ void TestSdkFeatures::commands()
     // Write-only command registers complete at once.
     CCmdNode start(m_cam1, "AcquisitionStart");
     CCmdNode stop(m_cam1, "AcquisitionStop");
-    QVERIFY(!start.isReadable());
-    QVERIFY(start.isWriteable());
-    QVERIFY(start.execute());
-    QVERIFY(start.isDone());
+    QVERIFY(!start.isReadable() && start.isWriteable() && start.execute() && start.isDone());
     QCOMPARE(arv_fake_camera_get_acquisition_status(fake), 1u);
     QVERIFY(stop.execute());
     QCOMPARE(arv_fake_camera_get_acquisition_status(fake), 0u);
@@ -253,8 +226,7 @@ void TestSdkFeatures::refusedWrites()
     auto* cam = internal(m_cam1);
     QVERIFY(cam->connect(accessPermissionControl));
     CIntNode readOnly(m_cam1, "TestReadOnlyValue");
-    QVERIFY(readOnly.isReadable());
-    QVERIFY(!readOnly.isWriteable());
+    QVERIFY(readOnly.isReadable() && !readOnly.isWriteable());
     long v = 0;
     QVERIFY(readOnly.getValue(v));
     QCOMPARE(v, 0x12345678L);
@@ -297,9 +269,7 @@ void TestSdkFeatures::metadataAndTree()
     QCOMPARE(width.getRepresentation(), CInternalParameterNode::representLinear);
     QCOMPARE(QString(width.getDisplayName().c_str()), QString("Width"));
     QVERIFY(QString(width.getDescription().c_str()).contains("Width of the image"));
-    QVERIFY(!QString(width.getToolTip().c_str()).isEmpty());
-    QVERIFY(width.isImplemented());
-    QVERIFY(width.isAvailable());
+    QVERIFY(!QString(width.getToolTip().c_str()).isEmpty() && width.isImplemented() && width.isAvailable());
     QVERIFY(!width.isStreamable());
     QCOMPARE(CInternalParameterNode(m_cam1, "PayloadSize").getType(), CInternalParameterNode::featureTypeInteger);
     QCOMPARE(CInternalParameterNode(m_cam1, "GevSCPSPacketSize").getType(),
@@ -324,8 +294,7 @@ void TestSdkFeatures::metadataAndTree()
     QVERIFY(children[1]->getChildren(children));
     QCOMPARE(QString(children[0]->getName().c_str()), QString("SensorWidth"));
     QCOMPARE(QString(children[4]->getName().c_str()), QString("Width"));
-    QVERIFY(width.getChildren(children));
-    QVERIFY(children.empty());
+    QVERIFY(width.getChildren(children) && children.empty());
 
     // The whole tree, depth first: more than 300 features, nested categories.
     int features = 0, maxDepth = 0;
@@ -354,32 +323,21 @@ void TestSdkFeatures::availabilityAndSelectors()
 
     CIntNode quality(m_cam1, "ImageCompressionQuality");
     CEnumNode compression(m_cam1, "ImageCompressionMode");
-    QVERIFY(compression.setValueBySymbol("Off"));
-    QVERIFY(!quality.isAvailable());
-    QVERIFY(!quality.isWriteable());
+    QVERIFY(compression.setValueBySymbol("Off") && !quality.isAvailable() && !quality.isWriteable());
     QVERIFY(!quality.setValue(80));
     QCOMPARE(getLastError(), int(ERR_NOT_AVAILABLE));
-    QVERIFY(compression.setValueBySymbol("JPEG"));
-    QVERIFY(quality.isAvailable());
-    QVERIFY(quality.setValue(80));
+    QVERIFY(compression.setValueBySymbol("JPEG") && quality.isAvailable() && quality.setValue(80));
     QVERIFY(compression.setValueBySymbol("Off"));
 
     CInternalParameterNode gated(m_cam1, "TestGatedValue");
     CBoolNode gate(m_cam1, "TestAvailabilityGate");
-    QVERIFY(gate.setValue(false));
-    QVERIFY(!gated.isAvailable());
-    QVERIFY(gate.setValue(true));
-    QVERIFY(gated.isAvailable());
+    QVERIFY(gate.setValue(false) && !gated.isAvailable() && gate.setValue(true) && gated.isAvailable());
 
     CEnumNode userSet(m_cam1, "UserSetSelector");
     CCmdNode save(m_cam1, "UserSetSave");
-    QVERIFY(userSet.setValueBySymbol("Default"));
-    QVERIFY(!save.isAvailable());
-    QVERIFY(!save.execute());
+    QVERIFY(userSet.setValueBySymbol("Default") && !save.isAvailable() && !save.execute());
     QCOMPARE(getLastError(), int(ERR_NOT_AVAILABLE));
-    QVERIFY(userSet.setValueBySymbol("UserSet1"));
-    QVERIFY(save.isAvailable());
-    QVERIFY(save.execute());
+    QVERIFY(userSet.setValueBySymbol("UserSet1") && save.isAvailable() && save.execute());
     TVector<CString> available;
     QVERIFY(userSet.getEnumSymbolList(available));
     QCOMPARE(names(available), QStringList({"Default", "UserSet1", "UserSet2"}));
@@ -390,15 +348,13 @@ void TestSdkFeatures::availabilityAndSelectors()
     QCOMPARE(names(mode.getSelectorsName()), QStringList({"TriggerSelector"}));
     QCOMPARE(names(selector.getSelectedName()), QStringList({"TriggerMode", "TriggerSource", "TriggerActivation"}));
     QVERIFY(names(CInternalParameterNode(m_cam1, "Width").getSelectorsName()).isEmpty());
-    QVERIFY(selector.setValueBySymbol("AcquisitionStart"));
-    QVERIFY(mode.setValueBySymbol("On"));
+    QVERIFY(selector.setValueBySymbol("AcquisitionStart") && mode.setValueBySymbol("On"));
     guint32 reg = 0;
     arv_fake_camera_read_register(fake, 0x320, &reg);
     QCOMPARE(reg, 1u);
     arv_fake_camera_read_register(fake, 0x300, &reg);
     QCOMPARE(reg, 0u);
-    QVERIFY(mode.setValueBySymbol("Off"));
-    QVERIFY(selector.setValueBySymbol("FrameStart"));
+    QVERIFY(mode.setValueBySymbol("Off") && selector.setValueBySymbol("FrameStart"));
 }
 
 void TestSdkFeatures::parameterUpdateEvents()
@@ -426,8 +382,7 @@ void TestSdkFeatures::parameterUpdateEvents()
     QVERIFY(!changed.contains("HeightMax"));
     QVERIFY(!changed.contains("WidthReg"));        // not a feature of the tree
     QCOMPARE(QString(arg.key.c_str()), QString(m_cam1->getKey().c_str()));
-    QVERIFY(!arg.isPoll);
-    QVERIFY(arg.timestamp > 0);
+    QVERIFY(!arg.isPoll && arg.timestamp > 0);
 
     QVERIFY(CIntNode(m_cam1, "OffsetX").setValue(64));
     QTRY_COMPARE_WITH_TIMEOUT(updates.count(), size_t(2), 5000);
@@ -444,11 +399,9 @@ void TestSdkFeatures::parameterUpdateEvents()
     QTRY_COMPARE_WITH_TIMEOUT(updates.count(), size_t(3), 5000);
     QVERIFY(namesOf(updates.at(0)).contains("ImageCompressionQuality"));
     changed = namesOf(updates.at(1));
-    QVERIFY(changed.contains("UserSetSave"));
-    QVERIFY(changed.contains("UserSetLoad"));
+    QVERIFY(changed.contains("UserSetSave") && changed.contains("UserSetLoad"));
     changed = namesOf(updates.at(2));
-    QVERIFY(changed.contains("PixelSize"));
-    QVERIFY(changed.contains("PayloadSize"));
+    QVERIFY(changed.contains("PixelSize") && changed.contains("PayloadSize"));
 
     // Refused writes say nothing.
     QVERIFY(!CIntNode(m_cam1, "TestReadOnlyValue").setValue(3));
@@ -456,10 +409,8 @@ void TestSdkFeatures::parameterUpdateEvents()
     QTRY_COMPARE_WITH_TIMEOUT(updates.count(), size_t(4), 5000);
     changed = namesOf(updates.at(3));
     QCOMPARE(changed.first(), QString("TestHoldRelease"));
-    QVERIFY(changed.contains("TestPendingCount"));
-    QVERIFY(events.unsubscribeParamUpdate());
-    QVERIFY(CIntNode(m_cam1, "Width").setValue(512));
-    QVERIFY(EventHub::flush(5000));
+    QVERIFY(changed.contains("TestPendingCount") && events.unsubscribeParamUpdate());
+    QVERIFY(CIntNode(m_cam1, "Width").setValue(512) && EventHub::flush(5000));
     QCOMPARE(updates.count(), size_t(4));
 }
 

@@ -61,8 +61,7 @@ void TestSdkShutdown::endsEverything()
     CEventRecorder<SParamUpdataArg> updates;
     CEventRecorder<SMsgChannelArg> messages;
     auto events = std::make_shared<CInternalEventManager>(camera);
-    QVERIFY(events->subscribeParamUpdate(updates.proc()));
-    QVERIFY(events->subscribeMsgChannel(messages.proc()));
+    QVERIFY(events->subscribeParamUpdate(updates.proc()) && events->subscribeMsgChannel(messages.proc()));
     QVERIFY(CIntNode(camera, "Width").setValue(640));
     QTRY_COMPARE_WITH_TIMEOUT(updates.count(), size_t(1), 5000);
     CInternalStreamSource stream(camera);
@@ -83,16 +82,12 @@ void TestSdkShutdown::endsEverything()
 
     // Calls fail cleanly, and none starts a thread again.
     TVector<ICameraPtr> found;
-    QVERIFY(!CSystem::getInstance().discovery(found, typeGigEVision));
-    QVERIFY(refusedAsShutDown());
-    QVERIFY(found.empty());
+    QVERIFY(!CSystem::getInstance().discovery(found, typeGigEVision) && refusedAsShutDown() && found.empty());
     CSystem::_DiscoveryModeInfo probe;
     std::strcpy(probe.ipAddress, "127.0.0.1");
-    QVERIFY(!CSystem::getInstance().discoveryEx(found, discoveryUnicast, probe));
-    QVERIFY(refusedAsShutDown());
+    QVERIFY(!CSystem::getInstance().discoveryEx(found, discoveryUnicast, probe) && refusedAsShutDown());
     QVERIFY(!CSystem::getInstance().getCameraPtrAll(found));
-    QVERIFY(!internal(camera)->connect(accessPermissionControl));
-    QVERIFY(refusedAsShutDown());
+    QVERIFY(!internal(camera)->connect(accessPermissionControl) && refusedAsShutDown());
     QVERIFY(!CInternalEventManager(camera).subscribeConnectArgs([](const SConnectArg&) {}));
     QVERIFY(refusedAsShutDown());
     long width = 0;

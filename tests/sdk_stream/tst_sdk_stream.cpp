@@ -165,24 +165,19 @@ private slots:
         CFrame frame;
         QVERIFY(!src.getFrame(frame, 10));
         QCOMPARE(getLastError(), int(Vorlen::Infra::ERR_STREAM_NOT_OPEN));
-        QVERIFY(!src.setBufferCount(0));
-        QVERIFY(src.setBufferCount(4));
-        QVERIFY(src.setInterPacketTimeout(50));
-        QVERIFY(src.setMaxLostPacketNum(100));
-        QVERIFY(src.setSingleResendMaxPacketNum(64));
+        QVERIFY(!src.setBufferCount(0) && src.setBufferCount(4) && src.setInterPacketTimeout(50));
+        QVERIFY(src.setMaxLostPacketNum(100) && src.setSingleResendMaxPacketNum(64));
         QVERIFY(!src.setUrbTransfer(64, 64));   // not a USB camera
         QVERIFY(!src.isGrabbing());
 
         QVERIFY2(src.startGrabbing(), Vorlen::Infra::getErrMsg(getLastError()));
-        QVERIFY(src.isGrabbing());
-        QVERIFY(!src.startGrabbing());
+        QVERIFY(src.isGrabbing() && !src.startGrabbing());
         QCOMPARE(getLastError(), int(Vorlen::Infra::ERR_STREAM_BUSY));
         QVERIFY(!src.setBufferCount(6));
 
         uint64_t lastId = 0;
         for (int i = 0; i < 30; ++i) {
-            QVERIFY(grab(src, frame));
-            QVERIFY(frame.valid());
+            QVERIFY(grab(src, frame) && frame.valid());
             // A frame may follow a gap (a block dropped on a loaded machine or
             // overwritten in the queue): that is reported, not a failure here;
             // the loss counting has tests of its own on fixed packet sequences.
@@ -205,34 +200,25 @@ private slots:
         }
 
         StreamStatisticsInfo info;
-        QVERIFY(src.getStatisticsInfo(info));
-        QVERIFY(info.receivedImages >= 30);
-        QVERIFY(info.acquisitionFps > 0.0);
+        QVERIFY(src.getStatisticsInfo(info) && info.receivedImages >= 30 && info.acquisitionFps > 0.0);
         QVERIFY(info.bandwidthMbps > 0.0);
         QCOMPARE(info.errorImages, uint64_t(0));
         const uint64_t before = info.receivedImages;
-        QVERIFY(src.resetStatisticsInfo());
-        QVERIFY(src.getStatisticsInfo(info));
-        QVERIFY(info.receivedImages < before);
+        QVERIFY(src.resetStatisticsInfo() && src.getStatisticsInfo(info) && info.receivedImages < before);
 
-        QVERIFY(src.stopGrabbing());
-        QVERIFY(!src.isGrabbing());
-        QVERIFY(!src.stopGrabbing());
-        QVERIFY(!src.getFrame(frame, 10));
+        QVERIFY(src.stopGrabbing() && !src.isGrabbing() && !src.stopGrabbing() && !src.getFrame(frame, 10));
         QCOMPARE(getLastError(), int(Vorlen::Infra::ERR_STREAM_NOT_OPEN));
         QVERIFY(!frame.valid());
         // Counters of a finished grab stay readable.
         StreamStatisticsInfo after;
-        QVERIFY(src.getStatisticsInfo(after));
-        QVERIFY(after.receivedImages >= info.receivedImages);
+        QVERIFY(src.getStatisticsInfo(after) && after.receivedImages >= info.receivedImages);
     }
 
     void heldFramesDoNotDeadlock()
     {
         QVERIFY(openCamera(testAddress()));
         CInternalStreamSource src(m_camera);
-        QVERIFY(src.setBufferCount(3));
-        QVERIFY(src.startGrabbing());
+        QVERIFY(src.setBufferCount(3) && src.startGrabbing());
 
         // Every buffer held by the application: nothing more can arrive.
         QList<CFrame> held;
@@ -255,14 +241,12 @@ private slots:
         QCOMPARE(getLastError(), int(Vorlen::Infra::WARN_BUFFER_OVERRIDE));
         StreamStatisticsInfo info;
         src.getStatisticsInfo(info);
-        QVERIFY(info.overrideBlocks > 0);
-        QVERIFY(src.getLostFrameCount() >= info.overrideBlocks);
+        QVERIFY(info.overrideBlocks > 0 && src.getLostFrameCount() >= info.overrideBlocks);
 
         // One frame object reused: getFrame gives its old buffer back first.
         uint64_t lastId = extra.getBlockId();
         for (int i = 0; i < 20; ++i) {
-            QVERIFY(grab(src, extra));
-            QVERIFY(extra.getBlockId() > lastId);
+            QVERIFY(grab(src, extra) && extra.getBlockId() > lastId);
             lastId = extra.getBlockId();
         }
         QVERIFY(src.stopGrabbing());
@@ -301,19 +285,16 @@ private slots:
             QCOMPARE(getLastError(), int(Vorlen::Infra::WARN_BUFFER_OVERRIDE));
             StreamStatisticsInfo info;
             src.getStatisticsInfo(info);
-            QVERIFY(info.overrideBlocks > 0);
-            QVERIFY(src.stopGrabbing());
+            QVERIFY(info.overrideBlocks > 0 && src.stopGrabbing());
 
             // A limited grab ends by itself.
             QVERIFY(src.startGrabbing(3));
             for (int i = 0; i < 3; ++i)
                 QVERIFY(grab(src, f));
-            QVERIFY(!src.getFrame(f, 300));
-            QVERIFY(src.stopGrabbing());
+            QVERIFY(!src.getFrame(f, 300) && src.stopGrabbing());
 
             // The source goes away while still grabbing and a frame is held.
-            QVERIFY(src.startGrabbing());
-            QVERIFY(grab(src, fromEarlierGrab));
+            QVERIFY(src.startGrabbing() && grab(src, fromEarlierGrab));
         }
         QVERIFY(fromEarlierGrab.valid());
         QCOMPARE(fromEarlierGrab.getImageSize(), uint64_t(kWidth) * kHeight);
@@ -323,8 +304,7 @@ private slots:
         CInternalStreamSource again(m_camera);
         QVERIFY2(again.startGrabbing(), Vorlen::Infra::getErrMsg(getLastError()));
         CFrame f;
-        QVERIFY(grab(again, f));
-        QVERIFY(again.stopGrabbing());
+        QVERIFY(grab(again, f) && again.stopGrabbing());
     }
 
     void incompleteBlocksReported()
@@ -335,8 +315,7 @@ private slots:
         QVERIFY(events.subscribeStreamArg(log->proc()));
 
         CInternalStreamSource src(m_camera);
-        QVERIFY(src.setBufferCount(8));
-        QVERIFY(src.startGrabbing());
+        QVERIFY(src.setBufferCount(8) && src.startGrabbing());
         CFrame f;
         QVERIFY(grab(src, f));
         std::vector<uint64_t> delivered{f.getBlockId()};
@@ -360,12 +339,10 @@ private slots:
             if (getLastError() == Vorlen::Infra::ERR_NO_FRAME)
                 ++incomplete;
         }
-        QVERIFY(incomplete >= 3);
-        QVERIFY(QString(Vorlen::Infra::getErrMsg(getLastError())).contains("incomplete"));
+        QVERIFY(incomplete >= 3 && QString(Vorlen::Infra::getErrMsg(getLastError())).contains("incomplete"));
         StreamStatisticsInfo info;
         src.getStatisticsInfo(info);
-        QVERIFY(info.lostPacketBlock >= 3);
-        QVERIFY(src.getLostFrameCount() >= 3);
+        QVERIFY(info.lostPacketBlock >= 3 && src.getLostFrameCount() >= 3);
         QTRY_VERIFY_WITH_TIMEOUT(countOf(*log, streamEventLostPacket) >= 3, 5000);
 
         // Back to full packets: the stream carries on with complete frames.
@@ -375,8 +352,7 @@ private slots:
             QCOMPARE(f.getImageSize(), uint64_t(kWidth) * kHeight);
             delivered.push_back(f.getBlockId());
         }
-        QVERIFY(src.stopGrabbing());
-        QVERIFY(Vorlen::GenICam::EventHub::flush(5000));
+        QVERIFY(src.stopGrabbing() && Vorlen::GenICam::EventHub::flush(5000));
         events.unsubscribeStreamArg();
 
         // Normal frames are reported (at most one per interval, see the
@@ -389,8 +365,7 @@ private slots:
             else if (a.eStreamEventStatus == streamEventLostPacket)
                 incompleteIds.push_back(a.blockId);
         }
-        QVERIFY(!normal.empty());
-        QVERIFY(normal.size() <= delivered.size());
+        QVERIFY(!normal.empty() && normal.size() <= delivered.size());
         QVERIFY(std::is_sorted(normal.begin(), normal.end()));
         QCOMPARE(std::adjacent_find(normal.begin(), normal.end()), normal.end());
         for (uint64_t id : normal) {
@@ -433,11 +408,9 @@ private slots:
         // control channel to time out, which stopGrabbing must not do on the
         // caller's thread.
         QTRY_VERIFY_WITH_TIMEOUT(!m_camera->isConnected(), 30000);
-        QVERIFY(!watch.isReleased());
-        QVERIFY(src.stopGrabbing());
+        QVERIFY(!watch.isReleased() && src.stopGrabbing());
         QTRY_VERIFY_WITH_TIMEOUT(watch.isReleased(), 30000);
-        QVERIFY(watch.thread != std::this_thread::get_id());
-        QVERIFY(held.valid());
+        QVERIFY(watch.thread != std::this_thread::get_id() && held.valid());
         held.reset();
         events.unsubscribeStreamArg();
     }

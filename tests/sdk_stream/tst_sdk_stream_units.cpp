@@ -104,8 +104,7 @@ private slots:
     {
         CEventThrottle t(100);
         QVERIFY(t.pass(5));        // the first always
-        QVERIFY(!t.pass(5));
-        QVERIFY(!t.pass(104));
+        QVERIFY(!t.pass(5) && !t.pass(104));
         QVERIFY(t.pass(105));      // a whole interval after the last one let through
         QVERIFY(!t.pass(150));
         QVERIFY(t.pass(1000));     // after a pause
@@ -212,11 +211,9 @@ private slots:
         // Wrong byte order: the first tag claims more than there is.
         std::vector<uint8_t> p = chunkPayload(true);
         std::vector<SChunkSpan> spans;
-        QVERIFY(!walkChunks(p.data(), p.size(), false, spans));
-        QVERIFY(spans.empty());
+        QVERIFY(!walkChunks(p.data(), p.size(), false, spans) && spans.empty());
         // Too short and null payloads.
-        QVERIFY(!walkChunks(p.data(), 7, true, spans));
-        QVERIFY(!walkChunks(nullptr, 100, true, spans));
+        QVERIFY(!walkChunks(p.data(), 7, true, spans) && !walkChunks(nullptr, 100, true, spans));
         // Data in front of the chunks that is no chunk: the walk stops there.
         std::vector<uint8_t> q(p.begin() + 24, p.end());
         q.insert(q.begin(), 5, uint8_t(0xEE));          // 5 stray bytes + last chunk
@@ -255,8 +252,7 @@ private slots:
         QCOMPARE(found.value("ChunkTimestamp").first, 0xB002u);
         QCOMPARE(found.value("ChunkLineStatus").first, 0xC003u);
         // Not chunk data: the mode switch lives on the device port.
-        QVERIFY(!found.contains("ChunkModeActive"));
-        QVERIFY(!found.contains("NotAChunk"));
+        QVERIFY(!found.contains("ChunkModeActive") && !found.contains("NotAChunk"));
         g_object_unref(gc);
         QVERIFY(findChunkFeatures(nullptr).empty());
     }
@@ -353,9 +349,7 @@ private slots:
             data.reset();
             CFrame b = a;
             a.reset();
-            QVERIFY(!a.valid());
-            QVERIFY(b.valid());
-            QVERIFY(!gone);
+            QVERIFY(!a.valid() && b.valid() && !gone);
             QCOMPARE(b.getBlockId(), uint64_t(42));
             QVERIFY(b.getPayLoadTypes(types));
             QCOMPARE(types.size(), size_t(2));
@@ -366,8 +360,7 @@ private slots:
             QCOMPARE(id, 0x1001u);
             QCOMPARE(lines.size(), size_t(1));
             QCOMPARE(QString(lines[0].c_str()), QString("0000: f0 f1 f2 f3 f4 f5 f6 f7"));
-            QVERIFY(!b.getChunkDataByIndex(1, id, lines));
-            QVERIFY(lines.empty());
+            QVERIFY(!b.getChunkDataByIndex(1, id, lines) && lines.empty());
         }
         QVERIFY(gone);
     }

@@ -58,9 +58,7 @@ private slots:
     void displayCounterSettings();
     void statisticFigures();
     void statisticErrorText();
-    void saveThrottleOneOutOf();
-    void saveThrottleMaxRate();
-    void saveThrottleThroughput();
+    void saveThrottleRules();
     void saveThrottleFromConfiguration();
     void frameDecisions();
     void disabledDisplayStillSavesAndRecords();
@@ -85,10 +83,8 @@ void TestVideoStream::displayCounterLimitsRate()
     // First frame is always shown, then at most one per 33.3 ms.
     {
         CDisplayCounter counter;
-        QVERIFY(counter.isTimeToDisplay(0, 1000 * kMs));
-        QVERIFY(!counter.isTimeToDisplay(0, 1010 * kMs));
-        QVERIFY(!counter.isTimeToDisplay(0, 1033 * kMs));
-        QVERIFY(counter.isTimeToDisplay(0, 1034 * kMs));
+        QVERIFY(counter.isTimeToDisplay(0, 1000 * kMs) && !counter.isTimeToDisplay(0, 1010 * kMs));
+        QVERIFY(!counter.isTimeToDisplay(0, 1033 * kMs) && counter.isTimeToDisplay(0, 1034 * kMs));
         QVERIFY(!counter.isTimeToDisplay(0, 1050 * kMs));
     }
     // A 60 fps stream for 10 s: about 300 frames shown, never more than one
@@ -235,127 +231,84 @@ void TestVideoStream::statisticErrorText()
     QCOMPARE(errors, 0ULL);
 }
 
-void TestVideoStream::saveThrottleOneOutOf()
+void TestVideoStream::saveThrottleRules()
 {
     StreamRetrieveThread thread;
     thread.setSaveImageEnable(true);
-
-    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 3);
-    QString pattern;
-    for (int i = 0; i < 9; ++i)
-        pattern += thread.isTimeToSaveImage(100, i) ? '1' : '0';
-    QCOMPARE(pattern, QString("100100100"));
-
-    // Re-arming starts the count again.
-    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 3);
-    QVERIFY(thread.isTimeToSaveImage(100, 0));
-
-    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 1);
-    for (int i = 0; i < 5; ++i)
-        QVERIFY(thread.isTimeToSaveImage(100, i));
-    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 0);
-    for (int i = 0; i < 5; ++i)
-        QVERIFY(!thread.isTimeToSaveImage(100, i));
+    // Each rule is armed afresh on the same thread, then offered frames of
+    // (bytes, ms). 131072 bytes = 2^20 bits: at 1 Mbit/s a frame takes 1000 ms.
+    using T = StreamRetrieveThread;
+    const struct
+    {
+        int type, value;
+        std::vector<std::pair<qint64, qint64>> frames;
+        const char* saved;
+    } rules[] = {
+        {T::saveOneOutOf, 3, {{100, 0}, {100, 1}, {100, 2}, {100, 3}, {100, 4}, {100, 5}, {100, 6}, {100, 7}}, "10010010"},
+        {T::saveOneOutOf, 3, {{100, 0}}, "1"},   // re-arming starts the count again
+        {T::saveOneOutOf, 1, {{100, 0}, {100, 1}, {100, 2}}, "111"},
+        {T::saveOneOutOf, 0, {{100, 0}, {100, 1}, {100, 2}}, "000"},
+        {T::saveMaxRate, 100, {{100, 5000}, {100, 5050}, {100, 5100}, {100, 5150}, {100, 5199}, {100, 5200}}, "101001"},
+        {T::saveMaxRate, 0, {{100, 6000}, {100, 6000}}, "11"},
+        {T::saveMaxRate, -1, {{100, 7000}, {100, 9000}}, "00"},
+        {7, 0, {{100, 0}, {100, 0}}, "11"},   // unknown rule: every frame
+        {T::saveAverageThroughput, 1, {{131072, 10000}, {131072, 10500}, {131072, 11000}, {131072, 11001}}, "1001"},
+        // A larger frame waits longer (4 Mbit at 2 Mbit/s is 2000 ms), and
+        // the frame saved sets the next wait (500 ms).
+        {T::saveAverageThroughput, 2, {{524288, 20000}, {131072, 21500}, {131072, 22000}, {131072, 22001},
+                                        {131072, 22501}, {131072, 22502}}, "100101"},
+        // Rate 0 leaves the wait at 0: saved whenever the clock has moved on.
+        {T::saveAverageThroughput, 0, {{131072, 30000}, {131072, 30000}, {131072, 30001}}, "101"},
+    };
+    for (const auto& rule : rules) {
+        thread.setSaveType(rule.type, rule.value);
+        QString saved;
+        for (const auto& frame : rule.frames)
+            saved += thread.isTimeToSaveImage(frame.first, frame.second) ? '1' : '0';
+        QVERIFY2(saved == rule.saved, qPrintable(QString("rule %1 (%2): %3").arg(rule.type).arg(rule.value).arg(saved)));
+    }
 
     // Save switched off: nothing, whatever the rule.
-    thread.setSaveType(StreamRetrieveThread::saveAll, 0);
+    thread.setSaveType(T::saveAll, 0);
     QVERIFY(thread.isTimeToSaveImage(100, 0));
     thread.setSaveImageEnable(false);
     QVERIFY(!thread.isTimeToSaveImage(100, 0));
-    thread.setSaveType(StreamRetrieveThread::saveOneOutOf, 1);
+    thread.setSaveType(T::saveOneOutOf, 1);
     QVERIFY(!thread.isTimeToSaveImage(100, 0));
-}
-
-void TestVideoStream::saveThrottleMaxRate()
-{
-    StreamRetrieveThread thread;
-    thread.setSaveImageEnable(true);
-
-    thread.setSaveType(StreamRetrieveThread::saveMaxRate, 100);
-    QVERIFY(thread.isTimeToSaveImage(100, 5000));   // first after arming
-    QVERIFY(!thread.isTimeToSaveImage(100, 5050));
-    QVERIFY(thread.isTimeToSaveImage(100, 5100));
-    QVERIFY(!thread.isTimeToSaveImage(100, 5150));
-    QVERIFY(!thread.isTimeToSaveImage(100, 5199));
-    QVERIFY(thread.isTimeToSaveImage(100, 5200));
-
-    thread.setSaveType(StreamRetrieveThread::saveMaxRate, 0);
-    QVERIFY(thread.isTimeToSaveImage(100, 6000));
-    QVERIFY(thread.isTimeToSaveImage(100, 6000));
-
-    thread.setSaveType(StreamRetrieveThread::saveMaxRate, -1);
-    QVERIFY(!thread.isTimeToSaveImage(100, 7000));
-    QVERIFY(!thread.isTimeToSaveImage(100, 9000));
-
-    thread.setSaveType(7, 0);   // unknown rule: every frame
-    QVERIFY(thread.isTimeToSaveImage(100, 0));
-    QVERIFY(thread.isTimeToSaveImage(100, 0));
-}
-
-void TestVideoStream::saveThrottleThroughput()
-{
-    StreamRetrieveThread thread;
-    thread.setSaveImageEnable(true);
-
-    // 131072 bytes = 2^20 bits: at 1 Mbit/s a frame takes 1000 ms.
-    thread.setSaveType(StreamRetrieveThread::saveAverageThroughput, 1);
-    QVERIFY(thread.isTimeToSaveImage(131072, 10000));
-    QVERIFY(!thread.isTimeToSaveImage(131072, 10500));
-    QVERIFY(!thread.isTimeToSaveImage(131072, 11000));
-    QVERIFY(thread.isTimeToSaveImage(131072, 11001));
-    // A larger frame waits longer: 4 Mbit at 2 Mbit/s is 2000 ms.
-    thread.setSaveType(StreamRetrieveThread::saveAverageThroughput, 2);
-    QVERIFY(thread.isTimeToSaveImage(524288, 20000));
-    QVERIFY(!thread.isTimeToSaveImage(131072, 21500));
-    QVERIFY(!thread.isTimeToSaveImage(131072, 22000));
-    QVERIFY(thread.isTimeToSaveImage(131072, 22001));
-    // ... and that frame sets the next wait (500 ms).
-    QVERIFY(!thread.isTimeToSaveImage(131072, 22501));
-    QVERIFY(thread.isTimeToSaveImage(131072, 22502));
-
-    // Rate 0 leaves the wait at 0: saved whenever the clock has moved on.
-    thread.setSaveType(StreamRetrieveThread::saveAverageThroughput, 0);
-    QVERIFY(thread.isTimeToSaveImage(131072, 30000));
-    QVERIFY(!thread.isTimeToSaveImage(131072, 30000));
-    QVERIFY(thread.isTimeToSaveImage(131072, 30001));
 }
 
 void TestVideoStream::saveThrottleFromConfiguration()
 {
     StreamRetrieveThread thread;
     thread.setSaveImageEnable(true);
+    auto saved = [&](qint64 bytes, std::initializer_list<qint64> times) {
+        QString out;
+        for (qint64 ms : times)
+            out += thread.isTimeToSaveImage(bytes, ms) ? '1' : '0';
+        return out;
+    };
 
     cfg()->imageSaveThrottleOption = 0;
     cfg()->imageOneOutOf = "2";
     cfg()->notifySaveConfigChanged();
-    QString pattern;
-    for (int i = 0; i < 6; ++i)
-        pattern += thread.isTimeToSaveImage(10, i) ? '1' : '0';
-    QCOMPARE(pattern, QString("101010"));
+    QCOMPARE(saved(10, {0, 1, 2, 3, 4, 5}), QString("101010"));
 
     cfg()->imageSaveThrottleOption = 1;
     cfg()->imageMaxRate = "250";
     cfg()->notifySaveConfigChanged();
-    QVERIFY(thread.isTimeToSaveImage(10, 1000));
-    QVERIFY(!thread.isTimeToSaveImage(10, 1249));
-    QVERIFY(thread.isTimeToSaveImage(10, 1250));
-
+    QCOMPARE(saved(10, {1000, 1249, 1250}), QString("101"));
     // Init() starts the rule over without reading the configuration.
     thread.Init();
-    QVERIFY(thread.isTimeToSaveImage(10, 5000));
-    QVERIFY(!thread.isTimeToSaveImage(10, 5001));
+    QCOMPARE(saved(10, {5000, 5001}), QString("10"));
 
     cfg()->imageSaveThrottleOption = 2;
     cfg()->imageAverageThroughPut = "1";
     cfg()->notifyRestoreCfg();   // a restore re-reads everything
-    QVERIFY(thread.isTimeToSaveImage(131072, 0));
-    QVERIFY(!thread.isTimeToSaveImage(131072, 1000));
-    QVERIFY(thread.isTimeToSaveImage(131072, 1001));
+    QCOMPARE(saved(131072, {0, 1000, 1001}), QString("101"));
 
     cfg()->imageSaveThrottleOption = 3;
     cfg()->notifySaveConfigChanged();
-    QVERIFY(thread.isTimeToSaveImage(10, 0));
-    QVERIFY(thread.isTimeToSaveImage(10, 0));
+    QCOMPARE(saved(10, {0, 0}), QString("11"));
 }
 
 void TestVideoStream::frameDecisions()
@@ -379,14 +332,11 @@ void TestVideoStream::frameDecisions()
     CFrame second = makeFrame({CFrame::payloadImage}, 32, 16);
     thread.addFrame(second);
     const qint64 gapMs = timer.elapsed();
-    QVERIFY(!first.valid());
-    QVERIFY(!second.valid());
+    QVERIFY(!first.valid() && !second.valid());
 
-    QVERIFY(frames.size() >= 1);
-    QVERIFY(frames[0].display && !frames[0].save && !frames[0].record);
+    QVERIFY(frames.size() >= 1 && frames[0].display && !frames[0].save && !frames[0].record);
     // Only displayed: the full-resolution image is made on first use only.
-    QVERIFY(!frames[0].frame->isConverted());
-    QVERIFY(frames[0].frame->isHybridFrameValid());
+    QVERIFY(!frames[0].frame->isConverted() && frames[0].frame->isHybridFrameValid());
     QCOMPARE(frames[0].frame->getConvertedWidth(), 32u);
     QCOMPARE(frames[0].frame->getConvertedHeight(), 16u);
     QCOMPARE(frames[0].frame->getRawDataSize(), 32ull * 16);

@@ -189,8 +189,7 @@ private slots:
         CFrame b = makeBayerFrame(2);
         thread.addFrame(b);
         QCOMPARE(frames.size(), 2);
-        QVERIFY(!frames[0]->isConverted());
-        QVERIFY(frames[1]->isConverted());
+        QVERIFY(!frames[0]->isConverted() && frames[1]->isConverted());
 
         cfg()->BayerDemosaicing = 2;
         cfg()->notifyDisplayConfigChanged();
@@ -349,8 +348,7 @@ private slots:
             // the stream thread.
             for (const CQtHybridFramePtr& f : received[i].kept)
             {
-                QVERIFY(f->isConverted());
-                QVERIFY(f->isHybridFrameValid());
+                QVERIFY(f->isConverted() && f->isHybridFrameValid());
                 QCOMPARE(f->getConvertedWidth(), uint32_t(kWidth));
                 QCOMPARE(f->getRawDataSize(), uint64_t(kWidth) * kHeight);
             }
@@ -369,8 +367,7 @@ private slots:
             QFAIL(qPrintable(m_error));
         Vorlen::Memory::TSharedPtr<CInternalStreamSource> stream =
             Vorlen::Memory::makeShared<CInternalStreamSource>(Vorlen::Memory::TSharedPtr<ICamera>(camera));
-        QVERIFY(stream->setBufferCount(4));
-        QVERIFY(stream->startGrabbing());
+        QVERIFY(stream->setBufferCount(4) && stream->startGrabbing());
         CFrame frame;
         bool complete = false;
         for (int i = 0; i < 20 && !complete; ++i)
@@ -392,8 +389,7 @@ private slots:
         QVERIFY2(error.contains("incomplete"), qPrintable("last error: " + error));
         QVERIFY(stream->getLostFrameCount() > 0);
         StreamStatisticsInfo info;
-        QVERIFY(stream->getStatisticsInfo(info));
-        QVERIFY(info.lostPacketBlock > 0);
+        QVERIFY(stream->getStatisticsInfo(info) && info.lostPacketBlock > 0);
 
         StreamRetrieveThread thread;
         thread.setStream(stream);

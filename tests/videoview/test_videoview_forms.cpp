@@ -66,7 +66,6 @@ class TestVideoviewForms : public QObject
 private slots:
     void initTestCase();
     void init();
-    void layoutTables();
     void layoutGrowsOnBindAndNeverShrinks();
     void failedConnectionFreesViewKeepsLayout();
     void otherMessagesChangeNothing();
@@ -107,25 +106,6 @@ void TestVideoviewForms::init()
     m_manager->setMessageHandler([this](const QString& text) { m_messages.append(text); });
 }
 
-void TestVideoviewForms::layoutTables()
-{
-    const int layouts[] = { 1, 2, 4, 9, 16 };
-    const int number[] = { 1, 2, 4, 9, 16 }, column[] = { 1, 2, 2, 3, 4 }, row[] = { 1, 1, 2, 3, 4 };
-    for (int i = 0; i < 5; ++i) {
-        QCOMPARE(int(getVideoLayout(layouts[i])), layouts[i]);
-        QCOMPARE(getVideoNumber(layouts[i]), number[i]);
-        QCOMPARE(getColumn(layouts[i]), column[i]);
-        QCOMPARE(getRow(layouts[i]), row[i]);
-    }
-    for (int bad : { 0, 3, 5, 15, 17, -1 }) {
-        QCOMPARE(getVideoLayout(bad), VIDEO_LAYOUT_NONE);
-        QCOMPARE(getVideoNumber(bad), 0);
-        QCOMPARE(getColumn(bad), 0);
-        QCOMPARE(getRow(bad), 0);
-    }
-    QCOMPARE(nextVideoLayout(VIDEO_LAYOUT_16), VIDEO_LAYOUT_NONE);
-}
-
 void TestVideoviewForms::layoutGrowsOnBindAndNeverShrinks()
 {
     CMultiVideoForm* multi = m_manager->multiVideoForm();
@@ -147,6 +127,7 @@ void TestVideoviewForms::layoutGrowsOnBindAndNeverShrinks()
     QCOMPARE(multi->getFreeVideoFormID(), -1);
     QCOMPARE(selected.count(), 16);
     QCOMPARE(m_manager->layoutButtons()->checkedId(), 16);
+    QCOMPARE(nextVideoLayout(VIDEO_LAYOUT_16), VIDEO_LAYOUT_NONE);
 
     // Connected: the animation stops. Disconnected: the view is freed, the
     // layout stays.
@@ -158,8 +139,7 @@ void TestVideoviewForms::layoutGrowsOnBindAndNeverShrinks()
         m_manager->OnUpdateReceive(message(i % 2 ? MSG_DEVICE_DISCONNECTED : MSG_DEVICE_OFFLINE, m_devices[i]));
     QCOMPARE(multi->getCurrentLayout(), VIDEO_LAYOUT_16);
     for (int i = 0; i < 16; ++i) {
-        QVERIFY(multi->getForm(i)->isFree());
-        QVERIFY(!multi->getForm(i)->isWaiting());
+        QVERIFY(multi->getForm(i)->isFree() && !multi->getForm(i)->isWaiting());
     }
     // A free view is reused first, without growing.
     m_manager->OnUpdateReceive(message(MSG_DEVICE_CONNECTING, m_devices[16]));
@@ -177,11 +157,9 @@ void TestVideoviewForms::failedConnectionFreesViewKeepsLayout()
     QCOMPARE(multi->getCurrentLayout(), VIDEO_LAYOUT_4);
     m_manager->OnUpdateReceive(message(MSG_DEVICE_CONNECT_FAILED, m_devices[2]));
     QCOMPARE(multi->getCurrentLayout(), VIDEO_LAYOUT_4);
-    QVERIFY(multi->getForm(2)->isFree());
-    QVERIFY(!multi->getForm(2)->isWaiting());
+    QVERIFY(multi->getForm(2)->isFree() && !multi->getForm(2)->isWaiting());
     QCOMPARE(multi->getFormIdByDevice(m_devices[2]), -1);
-    QVERIFY(multi->isVisibleTo(m_manager.get()));
-    QVERIFY(multi->getForm(0)->isDeviceBind(m_devices[0]));
+    QVERIFY(multi->isVisibleTo(m_manager.get()) && multi->getForm(0)->isDeviceBind(m_devices[0]));
     QVERIFY(!multi->getForm(0)->isDeviceBind(CTavDevicePtr()));
     QCOMPARE(multi->getFreeVideoFormID(), 2);
 }
@@ -223,17 +201,14 @@ void TestVideoviewForms::maximiseRestoresExactLayout()
         before.append(multi->gridPosition(i));
 
     multi->OnMaxMizeForm(4);
-    QVERIFY(multi->isMaxMode());
-    QVERIFY(multi->getForm(4)->isMaxMode());
+    QVERIFY(multi->isMaxMode() && multi->getForm(4)->isMaxMode());
     QCOMPARE(multi->getGridLayout()->count(), 1);
     QCOMPARE(multi->gridPosition(4), QPoint(0, 0));
-    QVERIFY(multi->getForm(4)->isVisible());
-    QVERIFY(!multi->getForm(0)->isVisible());
+    QVERIFY(multi->getForm(4)->isVisible() && !multi->getForm(0)->isVisible());
     QCOMPARE(multi->getHighlightedForm(), 4);
 
     multi->OnMaxMizeForm(4);
-    QVERIFY(!multi->isMaxMode());
-    QVERIFY(!multi->getForm(4)->isMaxMode());
+    QVERIFY(!multi->isMaxMode() && !multi->getForm(4)->isMaxMode());
     QCOMPARE(multi->getCurrentLayout(), VIDEO_LAYOUT_9);
     QCOMPARE(multi->getGridLayout()->count(), 9);
     for (int i = 0; i < 9; ++i) {
@@ -309,29 +284,24 @@ void TestVideoviewForms::displayOptionsStoredInConfiguration()
     QCOMPARE(cfg()->displayValue, 60);
 
     m_manager->actionChunkData()->trigger();
-    QVERIFY(cfg()->displayChunkDataEnable);
-    QVERIFY(view->isShowChunkData());
+    QVERIFY(cfg()->displayChunkDataEnable && view->isShowChunkData());
     QVERIFY(userFileText().contains("<displayChunkDataEnable>1</displayChunkDataEnable>"));
     // The stream threads are told about the options they copy.
     QCOMPARE(announced.count(), 4);
 
     m_manager->actionCrosshair()->trigger();
-    QVERIFY(cfg()->isShowCrosshair);
-    QVERIFY(multi->getForm(15)->isShowCrosshair());
+    QVERIFY(cfg()->isShowCrosshair && multi->getForm(15)->isShowCrosshair());
     m_manager->actionCrosshairColor()->trigger();
     QCOMPARE(QColor(cfg()->RedCrosshair, cfg()->GreenCrosshair, cfg()->BlueCrosshair), QColor(10, 20, 30));
     QCOMPARE(view->crosshairColor(), QColor(10, 20, 30));
     QVERIFY(userFileText().contains("<GreenCrosshair>20</GreenCrosshair>"));
 
     m_manager->actionDrawROI()->trigger();
-    QVERIFY(cfg()->drawRoiEnable);
-    QVERIFY(view->isDrawROIEnable());
-    QVERIFY(!view->displayWnd()->isDragEnabled());
+    QVERIFY(cfg()->drawRoiEnable && view->isDrawROIEnable() && !view->displayWnd()->isDragEnabled());
     m_manager->actionROIColor()->trigger();
     QCOMPARE(QColor(cfg()->roiRed, cfg()->roiGreen, cfg()->roiBlue), QColor(10, 20, 30));
     m_manager->actionDisplayROI()->trigger();
-    QVERIFY(cfg()->displayRoiEnable);
-    QVERIFY(view->isDisplayROIEnable());
+    QVERIFY(cfg()->displayRoiEnable && view->isDisplayROIEnable());
     QVERIFY(userFileText().contains("<Enable>1</Enable>"));
     QVERIFY(userFileText().contains("<DisplayROIEnable>1</DisplayROIEnable>"));
 
@@ -343,17 +313,14 @@ void TestVideoviewForms::displayOptionsStoredInConfiguration()
     // Turning them off again.
     m_manager->actionCrosshair()->trigger();
     m_manager->actionDrawROI()->trigger();
-    QVERIFY(!cfg()->isShowCrosshair);
-    QVERIFY(!view->isDrawROIEnable());
-    QVERIFY(view->displayWnd()->isDragEnabled());
+    QVERIFY(!cfg()->isShowCrosshair && !view->isDrawROIEnable() && view->displayWnd()->isDragEnabled());
     QVERIFY(m_messages.isEmpty());
 
     // A restored configuration reaches menu and views.
     cfg()->isShowCrosshair = true;
     cfg()->BayerDemosaicing = 1;
     cfg()->notifyRestoreCfg();
-    QVERIFY(m_manager->actionCrosshair()->isChecked());
-    QVERIFY(m_manager->actionDemosaic(1)->isChecked());
+    QVERIFY(m_manager->actionCrosshair()->isChecked() && m_manager->actionDemosaic(1)->isChecked());
     QVERIFY(view->isShowCrosshair());
 }
 
@@ -379,16 +346,14 @@ void TestVideoviewForms::fullScreenAndBackWithEscape()
     m_manager->findChild<QToolButton*>("btnFullScreen")->click();
     QVERIFY(m_manager->isFullScreenMode());
     QWidget* window = multi->window();
-    QVERIFY(window != m_manager.get());
-    QVERIFY(window->isVisible());
+    QVERIFY(window != m_manager.get() && window->isVisible());
     QCOMPARE(fullScreen.count(), 1);
     QCOMPARE(fullScreen.at(0).at(0).toBool(), true);
     // Esc reaching the view inside goes up to the full-screen window.
     QTest::keyClick(multi->getForm(0), Qt::Key_Escape);
     QVERIFY(!m_manager->isFullScreenMode());
     QCOMPARE(multi->window(), m_manager.get());
-    QVERIFY(!window->isVisible());
-    QVERIFY(multi->isVisible());
+    QVERIFY(!window->isVisible() && multi->isVisible());
     QCOMPARE(fullScreen.count(), 2);
     QCOMPARE(fullScreen.at(1).at(0).toBool(), false);
 }
@@ -409,8 +374,7 @@ void TestVideoviewForms::roiConfigRoundTripIgnoresBadEntries()
                            "<VideoForm index=\"99\"><ROI><Left>1</Left><Top>1</Top><Width>8</Width><Height>8</Height></ROI></VideoForm>"
                            "<VideoForm index=\"-1\"><ROI><Left>1</Left><Top>1</Top><Width>8</Width><Height>8</Height></ROI></VideoForm>"
                            "</DrawROI></Lumidor></puregevpersistencefile>\n";
-    QVERIFY(writeAll(path, xml));
-    QVERIFY(cfg()->restoreConfig(path, true));
+    QVERIFY(writeAll(path, xml) && cfg()->restoreConfig(path, true));
     cfg()->notifyRestoreCfg();
     CMultiVideoForm* multi = m_manager->multiVideoForm();
     QCOMPARE(multi->getForm(2)->getROI().size(), 1);
@@ -447,8 +411,7 @@ void TestVideoviewForms::roiConfigRoundTripIgnoresBadEntries()
     // Deleting the highlighted view's ROIs saves at once.
     multi->OnFormHighLighted(7);
     m_manager->onActionDeleteROI();
-    QVERIFY(multi->getForm(7)->getROI().isEmpty());
-    QVERIFY(cfg()->mapVideoFormROI[7].isEmpty());
+    QVERIFY(multi->getForm(7)->getROI().isEmpty() && cfg()->mapVideoFormROI[7].isEmpty());
     m_manager->onSignalSetROI({ roi(4, 4, 4, 4) });
     QCOMPARE(cfg()->mapVideoFormROI[7].size(), 1);
     QFile::remove(path);
@@ -484,9 +447,7 @@ void TestVideoviewForms::roiEditorDrawsMovesResizesDeletes()
     QVERIFY(editor.release(QPointF(95, 20)));
     QCOMPARE(CRoiEditor::toRect(editor.rois()[0]), QRectF(90, 10, 5, 40));
     // Delete the selected one.
-    QVERIFY(editor.deleteSelected());
-    QVERIFY(editor.rois().isEmpty());
-    QVERIFY(!editor.deleteSelected());
+    QVERIFY(editor.deleteSelected() && editor.rois().isEmpty() && !editor.deleteSelected());
     // Entries with sizes not above zero are dropped.
     editor.setRois({ roi(0, 0, 0, 5), roi(-3, 0, 5, 5), roi(1, 1, 5, 5) });
     QCOMPARE(editor.rois().size(), 1);
@@ -501,12 +462,10 @@ void TestVideoviewForms::viewShowsPixelUnderCursorAndFollowsStream()
     QSignalSpy drawn(&hub, &CViewSignalHub::ROIChanged);
     view.resize(400, 300);
     view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    QVERIFY(view.isFree());
+    QVERIFY(QTest::qWaitForWindowExposed(&view) && view.isFree());
     QVERIFY(!view.controlBar()->playButton()->isEnabled());
     view.setDevice(m_devices[0]);
-    QVERIFY(!view.isFree());
-    QVERIFY(view.isDeviceBind(m_devices[0]));
+    QVERIFY(!view.isFree() && view.isDeviceBind(m_devices[0]));
     QCOMPARE(view.getFormID(), 3);
     QVERIFY(view.controlBar()->playButton()->isEnabled());
     // A device without a camera cannot start: nothing happens.

@@ -204,8 +204,7 @@ void TestVideoviewRender::otherFormatsUseTheFullConversion()
     const CQtHybridFramePtr frame = makeFrame(PixelFormat::RGB8, 16, 8, rgb);
     CDisplayRenderer renderer;
     QImage out;
-    QVERIFY(renderer.render(*frame, { QRect(0, 0, 16, 8), QSize(16, 8) }, out));
-    QVERIFY(frame->isConverted());
+    QVERIFY(renderer.render(*frame, { QRect(0, 0, 16, 8), QSize(16, 8) }, out) && frame->isConverted());
     QCOMPARE(out.pixel(3, 1), qRgb(250, 19, 5));
     QVERIFY(renderer.render(*frame, { QRect(0, 0, 16, 8), QSize(4, 2) }, out));
     QCOMPARE(qRed(out.pixel(0, 0)), 250);
@@ -318,8 +317,7 @@ void TestVideoviewRender::mailboxKeepsOnlyTheNewestPicture()
     QCOMPARE(box.replacedCount(), quint64(1));
     QVERIFY(box.take(out));
     QCOMPARE(out.serial, quint64(2));
-    QVERIFY(!box.take(out));
-    QVERIFY(box.post(c));
+    QVERIFY(!box.take(out) && box.post(c));
     box.clear();
     QVERIFY(!box.hasPending());
 }
@@ -336,9 +334,7 @@ void TestVideoviewRender::pipelineReusesItsBuffersAndNotifiesOnce()
     const CQtHybridFramePtr frame = makeFrame(PixelFormat::BayerRG8, 128, 64, raw);
 
     // A slow GUI: three frames arrive before one is taken.
-    QVERIFY(pipeline.submit(frame));
-    QVERIFY(pipeline.submit(frame));
-    QVERIFY(pipeline.submit(frame));
+    QVERIFY(pipeline.submit(frame) && pipeline.submit(frame) && pipeline.submit(frame));
     QCOMPARE(notified, 1);
     QCOMPARE(pipeline.mailbox().replacedCount(), quint64(2));
     SDisplayedImage painted;
@@ -365,11 +361,9 @@ void TestVideoviewRender::pipelineReusesItsBuffersAndNotifiesOnce()
     pipeline.setNotifier(nullptr);
     SDisplayedImage drain;
     pipeline.take(drain);
-    QVERIFY(pipeline.submit(frame));
-    QVERIFY(!pipeline.submit(CQtHybridFramePtr()));
+    QVERIFY(pipeline.submit(frame) && !pipeline.submit(CQtHybridFramePtr()));
     pipeline.clear();
-    QVERIFY(!pipeline.lastFrame());
-    QVERIFY(!pipeline.mailbox().hasPending());
+    QVERIFY(!pipeline.lastFrame() && !pipeline.mailbox().hasPending());
 }
 
 void TestVideoviewRender::widgetPaintsFramesFromAnotherThread()

@@ -1,15 +1,24 @@
-// The features page's workers without a camera: the update queue, the
-// command watch and the write queue, each given a reader the test controls,
-// which can be held inside its "camera call" to see what the worker does
-// meanwhile. (The one-shot loader is seen through the features page.)
+// What the features page is built from, without a camera: the property
+// browser's level and key filter and its command button's two states; the
+// page's workers (the update queue, the command watch and the write queue),
+// each given a reader the test controls, which can be held inside its
+// "camera call" to see what the worker does meanwhile. (Rows following their
+// properties, the decorated spin box and the one-shot loader are seen
+// through the features page.)
+#include <QLabel>
 #include <QPointer>
+#include <QPushButton>
 #include <QSemaphore>
+#include <QTreeWidget>
 #include <QtTest>
 
 #include "CCommandParamDoneStatusThread.h"
 #include "CUpdateParamThread.h"
 #include "CWriteParamThread.h"
+#include "QtPushButtonFactory.h"
 #include "QueuedSignalSpy.h"
+#include "qtpropertymanager.h"
+#include "qttreepropertybrowser.h"
 
 // A camera call the test holds: the worker enters it and stays until released.
 struct CameraCall
@@ -40,16 +49,49 @@ static QStringList names(const QueuedSignalSpy& spy)
     return out;
 }
 
-class TestParamWorkers : public QObject
+// Root > A(group) > A1(group) > deepLeaf(Guru) ; A > aBeginner ; B(group) > bExpert
+struct Tree
+{
+    QtGroupPropertyManager groups;
+    QtDoublePropertyManager values;
+    QtProperty *a, *a1, *deep, *aBeginner, *b, *bExpert, *emptyGroup;
+    Tree()
+    {
+        a = groups.addProperty("GroupA");
+        a1 = groups.addProperty("GroupA1");
+        b = groups.addProperty("GroupB");
+        emptyGroup = groups.addProperty("EmptyGroup");
+        deep = values.addProperty("DeepLeafGain");
+        deep->SetType(2);
+        aBeginner = values.addProperty("Width");
+        aBeginner->SetType(0);
+        bExpert = values.addProperty("BlackLevel");
+        bExpert->SetType(1);
+        a->addSubProperty(a1);
+        a1->addSubProperty(deep);
+        a->addSubProperty(aBeginner);
+        b->addSubProperty(bExpert);
+    }
+};
+
+static bool shown(QtTreePropertyBrowser& browser, QtProperty* p)
+{
+    const QList<QtBrowserItem*> items = browser.items(p);
+    return !items.isEmpty() && browser.isItemVisible(items.first());
+}
+
+class TestFeaturesParts : public QObject
 {
     Q_OBJECT
 private slots:
+    void filterByKeyAndLevel();
+    void commandButtonExecutingState();
     void updateQueueReplacesAndAppends();
     void commandWatchNeverWaitsOnTheCamera();
     void writesRunInOrderAndStopWithTheirOwner();
 };
 
-void TestParamWorkers::updateQueueReplacesAndAppends()
+void TestFeaturesParts::updateQueueReplacesAndAppends()
 {
     CameraCall hold;
     CUpdateParamThread worker([&](const QString& name) {
@@ -83,7 +125,7 @@ void TestParamWorkers::updateQueueReplacesAndAppends()
     QCOMPARE(names(read).last(), QString("f"));
 }
 
-void TestParamWorkers::commandWatchNeverWaitsOnTheCamera()
+void TestFeaturesParts::commandWatchNeverWaitsOnTheCamera()
 {
     CameraCall hold;
     QAtomicInt runDone(0);
@@ -127,7 +169,7 @@ void TestParamWorkers::commandWatchNeverWaitsOnTheCamera()
     QCOMPARE(worker.pendingNames(), 0);
 }
 
-void TestParamWorkers::writesRunInOrderAndStopWithTheirOwner()
+void TestFeaturesParts::writesRunInOrderAndStopWithTheirOwner()
 {
     QStringList ran;   // written by the worker, read once it has finished
     CameraCall hold;
@@ -135,14 +177,8 @@ void TestParamWorkers::writesRunInOrderAndStopWithTheirOwner()
     auto* worker = new CWriteParamThread();
     QPointer<CWriteParamThread> alive(worker);
     QStringList continued;
-    QList<QThread*> continuedOn;
-    QObject::connect(
-        worker, &CWriteParamThread::jobDone, owner,
-        [&](const CWriteContinuation& continuation) {
-            continuation();
-            continuedOn.append(QThread::currentThread());
-        },
-        Qt::QueuedConnection);
+    QObject::connect(worker, &CWriteParamThread::jobDone, owner,
+                     [](const CWriteContinuation& continuation) { continuation(); });
     for (const char* name : {"a", "b", "c"})
         worker->addJob([&, name]() -> CWriteContinuation {
             ran.append(name);
@@ -151,7 +187,6 @@ void TestParamWorkers::writesRunInOrderAndStopWithTheirOwner()
             return [&, name]() { continued.append(name); };
         });
     QTRY_COMPARE_WITH_TIMEOUT(continued, QStringList({"a", "c"}), 10000);
-    QCOMPARE(continuedOn, QList<QThread*>({QThread::currentThread(), QThread::currentThread()}));
 
     // The owner goes while a write waits on the camera and another is
     // queued: retiring returns at once, the queued write never runs, the
@@ -174,5 +209,81 @@ void TestParamWorkers::writesRunInOrderAndStopWithTheirOwner()
     QCOMPARE(continued, QStringList({"a", "c"}));
 }
 
-QTEST_MAIN(TestParamWorkers)
-#include "test_param_workers.moc"
+void TestFeaturesParts::filterByKeyAndLevel()
+{
+    Tree t;
+    QtTreePropertyBrowser browser;
+    browser.addProperty(t.a);
+    browser.addProperty(t.b);
+    browser.addProperty(t.emptyGroup);
+    QCOMPARE(browser.treeWidget()->topLevelItemCount(), 3);
+
+    // Which of a, a1, deep, aBeginner, b, bExpert, emptyGroup are shown, as "1" or "0".
+    auto visible = [&]() {
+        QString out;
+        for (QtProperty* p : {t.a, t.a1, t.deep, t.aBeginner, t.b, t.bExpert, t.emptyGroup})
+            out += shown(browser, p) ? '1' : '0';
+        return out;
+    };
+    const struct
+    {
+        int level;
+        const char* key;
+        const char* shown;
+    } cases[] = {
+        {2, "deepleaf", "1110000"},   // a deep match shows the leaf and its ancestors, nothing else
+        {2, "GroupB", "0000000"},     // a group's own name never matches
+        {0, "", "1001000"},           // level by level; groups only through their rows
+        {1, "", "1001110"},
+        {2, "", "1111110"},
+        {0, "e", "0000000"},          // the key does not lift the level (DeepLeafGain, BlackLevel)
+    };
+    for (const auto& c : cases) {
+        browser.setShowType(c.level);
+        browser.setShowKey(QString::fromLatin1(c.key));
+        QCOMPARE(visible(), QString(c.shown));
+    }
+
+    // Filtering while the browser is paused leaves the tree painting afterwards.
+    browser.setUpdatesEnabled(false);
+    browser.setShowType(1);
+    browser.setUpdatesEnabled(true);
+    QVERIFY(browser.treeWidget()->updatesEnabled());
+
+    bool ok = false;
+    QVERIFY(browser.isPropertyInvisible(t.deep, 1, &ok) && ok && !browser.isPropertyInvisible(t.deep, 2, &ok));
+}
+
+void TestFeaturesParts::commandButtonExecutingState()
+{
+    QtStringPropertyManager commands;
+    QtPushButtonFactory factory;
+    QtTreePropertyBrowser browser;
+    browser.setFactoryForManager(&commands, &factory);
+    QtProperty* cmd = commands.addProperty("UserSetLoad");
+    cmd->setCommandType(true);
+    commands.setValue(cmd, "{Command}");
+    browser.show();
+    browser.setCurrentItem(browser.addProperty(cmd));   // the current row has its editor open
+
+    auto* button = browser.treeWidget()->viewport()->findChild<QPushButton*>("myPushButton");
+    QVERIFY(button);
+    QCOMPARE(button->text(), QString("{Command}"));
+    auto* label = button->parentWidget()->findChild<QLabel*>("labelExecuting");
+    QVERIFY(label && label->text() == "{Executing}" && !button->isHidden() && label->isHidden());
+
+    QSignalSpy clicks(&factory, &QtPushButtonFactory::onClick);
+    button->click();
+    QVERIFY(clicks.count() == 1 && clicks.first().at(0).value<QtProperty*>() == cmd);
+
+    factory.setDone(cmd, false);
+    QVERIFY(!cmd->isDone() && button->isHidden() && !label->isHidden());
+    factory.setDone(cmd, true);
+    QVERIFY(!button->isHidden() && label->isHidden());
+
+    commands.setValue(cmd, "{Befehl}");
+    QCOMPARE(button->text(), QString("{Befehl}"));
+}
+
+QTEST_MAIN(TestFeaturesParts)
+#include "test_features_parts.moc"
