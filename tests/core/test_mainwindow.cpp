@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
+#include <cstring>
 #include <memory>
 
 #include "CAboutDlg.h"
@@ -249,7 +250,7 @@ private slots:
         const QString unwritable = blocker.fileName() + QStringLiteral("/sub/x.tavcfg");
         text = messageShownBy([&] { result = w.saveConfigurationReporting(unwritable); });
         QVERIFY(!result);
-        QCOMPARE(text, QStringLiteral("Save configuration failed: %1").arg(unwritable));
+        QCOMPARE(text, QStringLiteral("Save configuration failed: %1\n%2").arg(unwritable, strerror(ENOTDIR)));
         cfg->init();
     }
 
