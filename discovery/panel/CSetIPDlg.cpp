@@ -120,6 +120,7 @@ void CSetIPDlg::buildUi()
                {m_lblInterfaceMask, m_txtInterfaceSubnetMask},
                {m_lblInterfaceGateway, m_txtInterfaceGateway}});
     auto* deviceHeader = new QHBoxLayout;
+    deviceHeader->setSpacing(6);
     deviceHeader->addWidget(m_lblDeviceSection);
     deviceHeader->addWidget(m_lblDeviceStatus);
     deviceHeader->addStretch(1);

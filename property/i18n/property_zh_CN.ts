@@ -44,6 +44,10 @@
         <translation>在翻译名称与原始属性名称之间切换</translation>
     </message>
     <message>
+        <source>Select a feature to see its description.</source>
+        <translation>选择一个属性以查看其说明。</translation>
+    </message>
+    <message>
         <source>set value failed, please check increment value</source>
         <translation>设置失败，请检查步长值</translation>
     </message>

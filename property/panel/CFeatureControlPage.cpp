@@ -122,8 +122,8 @@ void CFeatureControlPage::addRow(const QString& name, const char* label, ERowKin
         row->slider->setMinimumWidth(100);
         row->spin = new CSpinBox(row->row);
         row->dspin = new CDoubleSpinBox(row->row);
-        row->spin->setMinimumWidth(80);
-        row->dspin->setMinimumWidth(80);
+        row->spin->setMinimumWidth(kNumberBoxMinWidth);
+        row->dspin->setMinimumWidth(kNumberBoxMinWidth);
         row->dspin->hide();
         h->addWidget(row->slider, 1);
         h->addWidget(row->spin);
@@ -347,14 +347,34 @@ void CFeatureControlPage::onStateRead(SFeatureState s)
     if (SRow* row = findRow(s.name))
     {
         applyState(*row, s);
+        alignNumberBoxes();
         emit stateApplied(s.name);
     }
+}
+
+void CFeatureControlPage::alignNumberBoxes()
+{
+    // Every number box of the page as wide as the widest (their widths follow
+    // range and unit), so the sliders beside them start and end in line.
+    int width = kNumberBoxMinWidth;
+    for (const SRow* row : m_rows)
+        if (row->kind == rowNumber)
+            width = qMax(width, qMax(row->spin->sizeHint().width(), row->dspin->sizeHint().width()));
+    for (SRow* row : m_rows)
+        if (row->kind == rowNumber)
+        {
+            row->spin->setMinimumWidth(width);
+            row->dspin->setMinimumWidth(width);
+        }
 }
 
 void CFeatureControlPage::onWriteDone(QString name, bool ok, QString error, SFeatureState s)
 {
     if (SRow* row = findRow(name))
+    {
         applyState(*row, s);
+        alignNumberBoxes();
+    }
     if (!ok)
         showMessage(error.isEmpty() ? tr("Setting %1 failed.").arg(name) : error);
     // A value may change the range or availability of the others.

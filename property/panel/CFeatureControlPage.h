@@ -109,7 +109,10 @@ private slots:
     void onExecuteDone(QString name, bool ok, QString error);
 
 private:
+    static const int kNumberBoxMinWidth = 80;
+
     void addSection(const char* title);
+    void alignNumberBoxes();
     void addRow(const QString& name, const char* label, ERowKind kind);
 
     struct SRow

@@ -1,7 +1,6 @@
 #include "CFeaturesFormUi.h"
 
 #include <QComboBox>
-#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -9,6 +8,7 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 
+#include "CTextWidthGuard.h"
 #include "Named.h"
 #include "qttreepropertybrowser.h"
 
@@ -35,7 +35,8 @@ void CFeaturesFormUi::setupUi(QWidget* form)
     for (const auto& button : pageButtons)
     {
         *button.first = named(new QPushButton(form), button.second);
-        buttons->addWidget(*button.first);
+        CTextWidthGuard::install(*button.first);
+        buttons->addWidget(*button.first, 1);
     }
     btnTranslate->setCheckable(true);
     btnTranslate->setChecked(true);
@@ -59,13 +60,15 @@ void CFeaturesFormUi::retranslateUi(bool expanded)
     cbVisibility->setItemText(1, tr("Expert"));
     cbVisibility->setItemText(2, tr("Guru"));
     lineEditKey->setPlaceholderText(tr("Search features"));
+    // Each button is kept as wide as its text (CTextWidthGuard); the row
+    // shares its width equally, so the buttons stay in place when the text
+    // toggles.
     btnExpand->setText(expanded ? tr("Collapse All") : tr("Expand All"));
-    // Wide enough for either text, so toggling never clips or shifts the row.
-    const QFontMetrics metrics(btnExpand->font());
-    btnExpand->setMinimumWidth(
-        qMax(metrics.horizontalAdvance(tr("Collapse All")), metrics.horizontalAdvance(tr("Expand All"))) + 36);
+    CTextWidthGuard::fit(btnExpand);
     btnReset->setText(tr("Reset"));
     btnSave->setText(tr("Save"));
     btnTranslate->setText(tr("Translate"));
     btnTranslate->setToolTip(tr("Switch between translated and raw feature names"));
+    // Shown while no row is chosen, so the empty pane says what it is for.
+    textDesc->setPlaceholderText(tr("Select a feature to see its description."));
 }

@@ -40,7 +40,7 @@ const SButton kButtons[] = {
      &CPropertyForm::on_btnSettings_clicked},
     {"btnImageFormat", ":/Pic/Icon_Property_Tab_ImageFormat.png", QT_TRANSLATE_NOOP("CPropertyForm", "Image Format"),
      &CPropertyForm::on_btnImageFormat_clicked},
-    {"btnGPIO", ":/Pic/Icon_Property_Tab_UserSet.png", QT_TRANSLATE_NOOP("CPropertyForm", "GPIO"),
+    {"btnGPIO", ":/Pic/Icon_Property_Tab_GPIO.png", QT_TRANSLATE_NOOP("CPropertyForm", "GPIO"),
      &CPropertyForm::on_btnGPIO_clicked},
     {"btnExpandProperty", ":/Pic/Icon_Property_Expand.png", QT_TRANSLATE_NOOP("CPropertyForm", "Expand all"),
      &CPropertyForm::on_btnExpandProperty_clicked},

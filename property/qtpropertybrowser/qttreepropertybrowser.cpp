@@ -3,6 +3,7 @@
 #include <functional>
 
 #include <QApplication>
+#include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>
@@ -70,7 +71,11 @@ QtTreePropertyBrowser::QtTreePropertyBrowser(QWidget* parent) : QtAbstractProper
     m_treeWidget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_treeWidget->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_treeWidget->header()->setSectionsMovable(false);
-    m_treeWidget->header()->setSectionResizeMode(QHeaderView::Stretch);
+    // Feature trees nest four or five levels deep in a narrow panel: a small
+    // indentation leaves the names their room.
+    m_treeWidget->setIndentation(kIndentation);
+    m_treeWidget->viewport()->installEventFilter(this);
+    setResizeMode(Stretch);
     m_delegate = new QtPropertyEditorDelegate(this, [this](const QModelIndex& index, QWidget* parentWidget) {
         QTreeWidgetItem* item = static_cast<QtPropertyEditorView*>(m_treeWidget)->itemFromIndex(index);
         QtBrowserItem* browserItem = m_itemToIndex.value(item);
@@ -107,15 +112,32 @@ void QtTreePropertyBrowser::setHeaderVisible(bool visible)
 void QtTreePropertyBrowser::setResizeMode(ResizeMode mode)
 {
     m_resizeMode = mode;
-    QHeaderView::ResizeMode m = QHeaderView::Stretch;
+    QHeaderView::ResizeMode m = QHeaderView::Interactive;
     switch (mode)
     {
     case Interactive: m = QHeaderView::Interactive; break;
     case Fixed: m = QHeaderView::Fixed; break;
     case ResizeToContents: m = QHeaderView::ResizeToContents; break;
-    case Stretch: m = QHeaderView::Stretch; break;
+    case Stretch: m = QHeaderView::Interactive; break;   // sized by stretchNameColumn()
     }
     m_treeWidget->header()->setSectionResizeMode(m);
+    m_treeWidget->header()->setStretchLastSection(true);
+    stretchNameColumn();
+}
+
+void QtTreePropertyBrowser::stretchNameColumn()
+{
+    // Names are long and values mostly short: the name column takes the
+    // larger share of the width, the value column the rest.
+    if (m_resizeMode == Stretch)
+        setSplitterPosition(m_treeWidget->viewport()->width() * kNameColumnPercent / 100);
+}
+
+bool QtTreePropertyBrowser::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_treeWidget->viewport() && event->type() == QEvent::Resize)
+        stretchNameColumn();
+    return QtAbstractPropertyBrowser::eventFilter(watched, event);
 }
 
 int QtTreePropertyBrowser::splitterPosition() const

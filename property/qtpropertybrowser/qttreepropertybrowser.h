@@ -27,6 +27,8 @@ public:
     ~QtTreePropertyBrowser() override;
 
     void setHeaderVisible(bool visible);
+    // Stretch (the default): the name column keeps 60 % of the width, the
+    // value column the rest.
     ResizeMode resizeMode() const { return m_resizeMode; }
     void setResizeMode(ResizeMode mode);
     int splitterPosition() const;
@@ -64,6 +66,7 @@ signals:
     void expanded(QtBrowserItem* item);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void itemInserted(QtBrowserItem* item, QtBrowserItem* afterItem) override;
     void itemRemoved(QtBrowserItem* item) override;
     void itemChanged(QtBrowserItem* item) override;
@@ -74,6 +77,11 @@ private slots:
     void slotItemCollapsed(QTreeWidgetItem* item);
 
 private:
+    static const int kIndentation = 14;
+    static const int kNameColumnPercent = 60;
+
+    // In Stretch mode the name column keeps its share of the width.
+    void stretchNameColumn();
     void updateItem(QTreeWidgetItem* item);
     bool canEdit(QtProperty* property) const;
     void openEditor(QTreeWidgetItem* item);

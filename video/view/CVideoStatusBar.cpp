@@ -5,15 +5,17 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "CElidedLabel.h"
+
 CVideoStatusBar::CVideoStatusBar(QWidget* parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("videoStatusBar"));
     setAttribute(Qt::WA_StyledBackground);
-    m_lblStats = new QLabel(this);
+    m_lblStats = new CElidedLabel(this);
     m_lblStats->setObjectName(QStringLiteral("lblVideoStatistics"));
-    m_lblError = new QLabel(this);
+    m_lblError = new CElidedLabel(this);
     m_lblError->setObjectName(QStringLiteral("lblVideoError"));
-    m_lblCursor = new QLabel(this);
+    m_lblCursor = new CElidedLabel(this);
     m_lblCursor->setObjectName(QStringLiteral("lblVideoCursor"));
     m_lblCursor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (QLabel* l : { m_lblStats, m_lblError, m_lblCursor })
@@ -99,11 +101,12 @@ void CVideoStatusBar::retranslate()
     } else {
         m_lblCursor->clear();
     }
-    // Empty fields give their room to the others; narrow views keep the
-    // whole text in the tool tip.
+    // Empty fields give their room to the others; a field too narrow for its
+    // text ends it with "..." and keeps the whole text in the tool tip.
     m_lblError->setVisible(!m_lblError->text().isEmpty());
     m_lblCursor->setVisible(!m_lblCursor->text().isEmpty());
     m_lblStats->setToolTip(m_lblStats->text());
+    m_lblCursor->setToolTip(m_lblCursor->text());
 }
 
 void CVideoStatusBar::changeEvent(QEvent* event)
