@@ -3,6 +3,7 @@
 #include "FakeCameraRig.h"
 
 #include "SimCamSetup.h"
+#include "Vorlen/GenICam.h"
 
 #include <arpa/inet.h>
 #include <ifaddrs.h>
@@ -115,6 +116,40 @@ bool FakeCameraRig::readRegister(int i, uint32_t address, uint32_t& value) const
 {
     ArvFakeCamera* f = fake(i);
     return f && arv_fake_camera_read_register(f, address, &value);
+}
+
+Vorlen::GenICam::CInternalCameraPtr FakeCameraRig::startConnected(const std::string& address,
+                                                                  const std::string& serial, int width, int height,
+                                                                  const std::string& pixelFormat,
+                                                                  uint32_t framePeriodUs, int* index)
+{
+    using namespace Vorlen::GenICam;
+    const int i = start(address, serial, std::string(), width, height, pixelFormat);
+    if (i < 0)
+        return CInternalCameraPtr();
+    if (index)
+        *index = i;
+    writeRegister(i, ARV_FAKE_CAMERA_REGISTER_ACQUISITION_FRAME_PERIOD_US, framePeriodUs);
+    CSystem::_DiscoveryModeInfo info;
+    std::strncpy(info.ipAddress, address.c_str(), sizeof(info.ipAddress) - 1);
+    info.timeoutMs = 2000;
+    Vorlen::Infra::TVector<ICameraPtr> found;
+    const char* step = "unicast discovery of ";
+    CInternalCameraPtr camera;
+    if (CSystem::getInstance().discoveryEx(found, discoveryUnicast, info)) {
+        for (const ICameraPtr& c : found)
+            if (c->getSerialNumber().str() == serial)
+                camera = Vorlen::Memory::dynamicPointerCast<CInternalCamera>(c);
+        if (!camera) {
+            m_lastError = "camera " + serial + " not found on " + address;
+            return camera;
+        }
+        step = "connect to ";
+        if (camera->connect(accessPermissionControl))
+            return camera;
+    }
+    m_lastError = step + address + ": " + Vorlen::Infra::getErrMsg(Vorlen::Infra::getLastError());
+    return CInternalCameraPtr();
 }
 
 std::string FakeCameraRig::defaultXmlPath()

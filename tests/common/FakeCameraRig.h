@@ -15,6 +15,8 @@
 #include <string>
 #include <vector>
 
+#include "Vorlen/GenICam/ICamera.h"
+
 // Aravis types, declared here so that this header mixes with Qt's (GLib's
 // headers clash with Qt's "signals" keyword). Include <arv.h> to use them.
 typedef struct _ArvFakeCamera ArvFakeCamera;
@@ -35,8 +37,15 @@ public:
     // (address missing, port taken, description unreadable).
     int start(const std::string& address, const std::string& serial, const std::string& xmlPath = std::string(),
               int width = 0, int height = 0, const std::string& pixelFormat = std::string());
+    // Starts a camera as start() does with our description, sets its frame
+    // period, finds it by unicast discovery and connects with control
+    // access. Null, with why in lastError(), when a step fails; index (when
+    // given) is the camera's index.
+    Vorlen::GenICam::CInternalCameraPtr startConnected(const std::string& address, const std::string& serial,
+                                                       int width, int height, const std::string& pixelFormat,
+                                                       uint32_t framePeriodUs, int* index = nullptr);
     // Why the last start() returned -1, naming what the rig lacks; empty
-    // after a successful start. Tests put it in their failure message.
+    // after a successful start (or startConnected()). Tests put it in their failure message.
     const std::string& lastError() const { return m_lastError; }
     // Stops (destroys) camera i; the index stays reserved, fake(i) is then null.
     void stop(int i);

@@ -1,21 +1,17 @@
 // Parameter files without a camera: the end marker against a file cut at
-// every byte, files that are no regular files or too large, the user's
-// cancel against the worker's commit, and writes on a full disk.
+// every byte, files that are no regular files or too large, and the user's
+// cancel against the worker's commit.
 #include <QDir>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <cerrno>
-#include <cstring>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "CDeviceParamFile.h"
 #include "CParamFileLoadThread.h"
 #include "CRegularFile.h"
-#include "QueuedSignalSpy.h"
-#include "SmallTmpfs.h"
 #include "TestFiles.h"
 
 namespace {
@@ -30,11 +26,6 @@ CDeviceParamFile sampleFile()
     file.entries.append({"DeviceUserID", {}, "a\\b\nc=d", 0});
     file.entries.append({"Width", {}, "640", 0});
     return file;
-}
-
-QString noSpace()
-{
-    return QString::fromLocal8Bit(std::strerror(ENOSPC));
 }
 
 // A worker whose work commits (or finds itself cancelled) when the test says so.
@@ -65,7 +56,6 @@ private slots:
     void endMarkerCatchesEveryCut();
     void onlyRegularFiles();
     void cancelWinsUntilCommit();
-    void writesSurviveAFullDisk();
 
 private:
     QString path(const char* name) const { return m_dir.filePath(QString::fromLatin1(name)); }
@@ -191,44 +181,6 @@ void TestParamFileChecks::cancelWinsUntilCommit()
     QVERIFY(late.wait(10000));
     QCOMPARE(late.committed.load(), 1);
     QVERIFY(!late.cancel() && !late.isCancelled());
-}
-
-void TestParamFileChecks::writesSurviveAFullDisk()
-{
-    SmallTmpfs disk;
-    const QString root = path("disk");
-    QVERIFY2(disk.mount(root, 64), qPrintable(disk.error()));
-    const QString old = root + "/camera.txt", fresh = root + "/new.txt", report = root + "/report.log";
-    CDeviceParamFile file = sampleFile();
-    QString error;
-    QVERIFY2(file.save(old, error), qPrintable(error));
-    QVERIFY(writeAll(report, "earlier report\n"));
-    const QByteArray before = readAll(old);
-    QVERIFY2(disk.fill(), qPrintable(disk.error()));
-
-    // Overwrite and new name: refused with the file and the reason; the old
-    // file is kept as it was, nothing new is left.
-    file.entries[0].value = "20000";
-    for (const QString& p : {old, fresh})
-    {
-        QVERIFY(!file.save(p, error));
-        QVERIFY2(error.contains(p) && error.contains(noSpace()), qPrintable(error));
-    }
-    QCOMPARE(readAll(old), before);
-    QCOMPARE(QDir(root).entryList(QDir::Files | QDir::Hidden, QDir::Name),
-             QStringList({"camera.txt", "filler", "report.log"}));
-
-    // The load report too: a load that fails on its file says the report
-    // was not written, and the earlier report stays.
-    SParamFileEnv env;
-    CParamFileLoadThread load("no-camera", m_dir.path(), env, report);   // a folder: refused
-    QueuedSignalSpy finished(&load, &CParamFileLoadThread::loadFinished);
-    load.begin();
-    QVERIFY(finished.wait(10000));
-    QCOMPARE(finished.last().at(0).toInt(), int(CParamFileLoadThread::resultFailed));
-    const QString reportError = finished.last().at(4).toString();
-    QVERIFY2(reportError.contains(report) && reportError.contains(noSpace()), qPrintable(reportError));
-    QCOMPARE(readAll(report), QByteArray("earlier report\n"));
 }
 
 QTEST_GUILESS_MAIN(TestParamFileChecks)

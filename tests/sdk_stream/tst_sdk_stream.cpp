@@ -67,68 +67,14 @@ private:
     FakeCameraRig m_rig;
     int m_index = -1;
     CInternalCameraPtr m_camera;
-    QString m_xml;
-    QTemporaryDir m_tmp;
     int m_serial = 0;
 
-    // Our simulated camera's description, or Aravis' built-in one when ours
-    // is not in the tree.
-    QString xmlPath()
+    // Starts a camera and connects to it; m_rig.lastError() says what failed.
+    bool openCamera()
     {
-        const QString ours = QString::fromStdString(FakeCameraRig::defaultXmlPath());
-        if (QFile::exists(ours))
-            return ours;
-        ArvFakeCamera* f = arv_fake_camera_new("XMLDUMP");
-        size_t size = 0;
-        const char* xml = arv_fake_camera_get_genicam_xml(f, &size);
-        const QString path = m_tmp.filePath("builtin.xml");
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly))
-            file.write(xml, qint64(size));
-        g_object_unref(f);
-        return path;
-    }
-
-    // Starts a camera and connects to it; says what failed.
-    bool openCamera(const char* address, int periodUs = kPeriod60Fps)
-    {
-        const std::string serial = "SDKS" + std::to_string(++m_serial);
-        m_index = m_rig.start(address, serial, m_xml.toStdString(), kWidth, kHeight, "Mono8");
-        if (m_index < 0) {
-            qWarning("no simulated camera on %s (address missing or port taken)", address);
-            return false;
-        }
-        m_rig.writeRegister(m_index, ARV_FAKE_CAMERA_REGISTER_ACQUISITION_FRAME_PERIOD_US, uint32_t(periodUs));
-        CSystem::_DiscoveryModeInfo info;
-        std::strncpy(info.ipAddress, address, sizeof(info.ipAddress) - 1);
-        info.timeoutMs = 2000;
-        TVector<ICameraPtr> cameras;
-        if (!CSystem::getInstance().discoveryEx(cameras, discoveryUnicast, info)) {
-            qWarning("discovery of %s: %s", address, Vorlen::Infra::getErrMsg(getLastError()));
-            return false;
-        }
-        for (const ICameraPtr& c : cameras) {
-            if (c->getSerialNumber().str() == serial)
-                m_camera = Vorlen::Memory::dynamicPointerCast<CInternalCamera>(c);
-        }
-        if (!m_camera) {
-            for (const ICameraPtr& c : cameras)
-                qWarning("found %s key %s", c->getSerialNumber().c_str(), c->getKey().c_str());
-            qWarning("camera %s not among the %d found", serial.c_str(), int(cameras.size()));
-            return false;
-        }
-        if (!m_camera->connect(accessPermissionControl)) {
-            qWarning("connect: %s", Vorlen::Infra::getErrMsg(getLastError()));
-            return false;
-        }
-        return true;
-    }
-
-    // 127.0.0.5 when scripts/loopback.sh added it (keeps clear of the other
-    // camera tests), else 127.0.0.1.
-    static const char* testAddress()
-    {
-        return FakeCameraRig::hasAddress("127.0.0.5") ? "127.0.0.5" : "127.0.0.1";
+        m_camera = m_rig.startConnected("127.0.0.1", "SDKS" + std::to_string(++m_serial), kWidth, kHeight, "Mono8",
+                                        kPeriod60Fps, &m_index);
+        return bool(m_camera);
     }
 
     static bool grab(CInternalStreamSource& src, CFrame& frame, int attempts = 20)
@@ -141,12 +87,6 @@ private:
     }
 
 private slots:
-    void initTestCase()
-    {
-        QVERIFY(m_tmp.isValid());
-        m_xml = xmlPath();
-    }
-
     void cleanup()
     {
         // Also after a loss: disconnecting joins the finished thread that
@@ -160,7 +100,7 @@ private slots:
 
     void streamsFrames()
     {
-        QVERIFY(openCamera(testAddress()));
+        QVERIFY2(openCamera(), m_rig.lastError().c_str());
         CInternalStreamSource src(m_camera);
         CFrame frame;
         QVERIFY(!src.getFrame(frame, 10));
@@ -216,7 +156,7 @@ private slots:
 
     void heldFramesDoNotDeadlock()
     {
-        QVERIFY(openCamera(testAddress()));
+        QVERIFY2(openCamera(), m_rig.lastError().c_str());
         CInternalStreamSource src(m_camera);
         QVERIFY(src.setBufferCount(3) && src.startGrabbing());
 
@@ -254,7 +194,7 @@ private slots:
 
     void startStopCycles()
     {
-        QVERIFY(openCamera(testAddress()));
+        QVERIFY2(openCamera(), m_rig.lastError().c_str());
         CFrame fromEarlierGrab;
         {
             CInternalStreamSource src(m_camera);
@@ -309,7 +249,7 @@ private slots:
 
     void incompleteBlocksReported()
     {
-        QVERIFY(openCamera(testAddress()));
+        QVERIFY2(openCamera(), m_rig.lastError().c_str());
         auto log = std::make_shared<CEventRecorder<SStreamArg>>();
         CInternalEventManager events(m_camera);
         QVERIFY(events.subscribeStreamArg(log->proc()));
@@ -377,7 +317,7 @@ private slots:
 
     void cameraVanishes()
     {
-        QVERIFY(openCamera(testAddress()));
+        QVERIFY2(openCamera(), m_rig.lastError().c_str());
         auto log = std::make_shared<CEventRecorder<SStreamArg>>();
         CInternalEventManager events(m_camera);
         QVERIFY(events.subscribeStreamArg(log->proc()));

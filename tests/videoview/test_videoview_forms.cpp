@@ -67,8 +67,7 @@ private slots:
     void initTestCase();
     void init();
     void layoutGrowsOnBindAndNeverShrinks();
-    void failedConnectionFreesViewKeepsLayout();
-    void otherMessagesChangeNothing();
+    void failedConnectionFreesViewOthersChangeNothing();
     void maximiseRestoresExactLayout();
     void swapByDragKeepsPositions();
     void displayOptionsStoredInConfiguration();
@@ -149,22 +148,7 @@ void TestVideoviewForms::layoutGrowsOnBindAndNeverShrinks()
     QCOMPARE(multi->getFreeVideoFormID(), 1);
 }
 
-void TestVideoviewForms::failedConnectionFreesViewKeepsLayout()
-{
-    CMultiVideoForm* multi = m_manager->multiVideoForm();
-    for (int i = 0; i < 3; ++i)
-        m_manager->OnUpdateReceive(message(MSG_DEVICE_CONNECTING, m_devices[i]));
-    QCOMPARE(multi->getCurrentLayout(), VIDEO_LAYOUT_4);
-    m_manager->OnUpdateReceive(message(MSG_DEVICE_CONNECT_FAILED, m_devices[2]));
-    QCOMPARE(multi->getCurrentLayout(), VIDEO_LAYOUT_4);
-    QVERIFY(multi->getForm(2)->isFree() && !multi->getForm(2)->isWaiting());
-    QCOMPARE(multi->getFormIdByDevice(m_devices[2]), -1);
-    QVERIFY(multi->isVisibleTo(m_manager.get()) && multi->getForm(0)->isDeviceBind(m_devices[0]));
-    QVERIFY(!multi->getForm(0)->isDeviceBind(CTavDevicePtr()));
-    QCOMPARE(multi->getFreeVideoFormID(), 2);
-}
-
-void TestVideoviewForms::otherMessagesChangeNothing()
+void TestVideoviewForms::failedConnectionFreesViewOthersChangeNothing()
 {
     CMultiVideoForm* multi = m_manager->multiVideoForm();
     m_manager->OnUpdateReceive(message(MSG_DEVICE_CONNECTING, m_devices[0]));
@@ -182,10 +166,15 @@ void TestVideoviewForms::otherMessagesChangeNothing()
     QCOMPARE(multi->getFormIdByDevice(m_devices[5]), -1);
     QVERIFY(multi->getForm(0)->isWaiting());
 
-    // Through the observer interface the message is handled queued.
+    // Through the observer interface the message is handled queued. A
+    // failed connection frees the view and keeps the layout.
     m_manager->Update(message(MSG_DEVICE_CONNECT_FAILED, m_devices[1]));
     QVERIFY(!multi->getForm(1)->isFree());
-    QTRY_VERIFY(multi->getForm(1)->isFree());
+    QTRY_VERIFY(multi->getForm(1)->isFree() && !multi->getForm(1)->isWaiting());
+    QCOMPARE(multi->getCurrentLayout(), VIDEO_LAYOUT_2);
+    QCOMPARE(multi->getFormIdByDevice(m_devices[1]), -1);
+    QCOMPARE(multi->getFreeVideoFormID(), 1);
+    QVERIFY(multi->getForm(0)->isDeviceBind(m_devices[0]) && !multi->getForm(0)->isDeviceBind(CTavDevicePtr()));
 }
 
 void TestVideoviewForms::maximiseRestoresExactLayout()
