@@ -5,8 +5,32 @@
 #include <QFile>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QTime>
+#include <cstdarg>
 #include <cstring>
 #include <unistd.h>
+
+void writeLog(const char* format, ...)
+{
+    if (!format)
+        return;
+    va_list args;
+    va_start(args, format);
+    const QString text = QString::vasprintf(format, args);
+    va_end(args);
+    const QString line = QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz ")) + text;
+
+    static QMutex mutex;
+    QMutexLocker lock(&mutex);
+    // Without an application object there is no application directory.
+    if (!QCoreApplication::instance())
+        return;
+    QFile file(QCoreApplication::applicationDirPath() + QStringLiteral("/log.txt"));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append))
+        return;
+    file.write((line + QStringLiteral("\r\n")).toLocal8Bit());
+    file.close();
+}
 
 bool logPrintProc(const char* line)
 {

@@ -3,6 +3,14 @@
 // files. Every sink may be called from any thread.
 #include <QString>
 
+// "hh:mm:ss.zzz " + the formatted text + CR LF, appended to
+// <application dir>/log.txt.
+void writeLog(const char* format, ...)
+#if defined(__GNUC__)
+    __attribute__((format(printf, 1, 2)))
+#endif
+    ;
+
 // Sink for print output of the camera library: appends the line as it is to
 // getLogFilePath(); lines naming "Vorlen::" are dropped; the file is emptied
 // once it reaches 10 MiB.

@@ -1,6 +1,7 @@
 #include "CSetIPDlg.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -200,6 +201,12 @@ bool CSetIPDlg::setInfo(const TSharedPtrGigEInterfaceInfo& info, const Vorlen::I
     return true;
 }
 
+bool CSetIPDlg::isNetMaskMatched(const QString& mask)
+{
+    return mask == QLatin1String("255.0.0.0") || mask == QLatin1String("255.255.0.0") ||
+           mask == QLatin1String("255.255.255.0") || mask == QLatin1String("255.255.255.255");
+}
+
 bool CSetIPDlg::isInSameSubnet(const QString& a, const QString& b, const QString& mask)
 {
     const QStringList pa = a.split(QLatin1Char('.'));
@@ -331,6 +338,21 @@ void CSetIPDlg::restoreConfig()
 void CSetIPDlg::onRestoreCfg()
 {
     restoreConfig();
+}
+
+void CSetIPDlg::postMsg(unsigned int msg, unsigned long long wParam, unsigned long long lParam)
+{
+    QCoreApplication::postEvent(this, new CPostMsgEvent(msg, wParam, lParam));
+}
+
+bool CSetIPDlg::event(QEvent* event)
+{
+    if (event->type() == QEvent::Type(kPostMsgEventType)) {
+        auto* msg = static_cast<CPostMsgEvent*>(event);
+        LOG_DEBUG("posted message %u (%llu, %llu)", msg->message, msg->wParam, msg->lParam);
+        return true;
+    }
+    return QDialog::event(event);
 }
 
 void CSetIPDlg::showWait(const QString& text)

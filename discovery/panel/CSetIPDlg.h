@@ -21,18 +21,35 @@ class CSetIPDlg : public CFramelessDialog
 {
     Q_OBJECT
 public:
+    // The custom event postMsg() posts to the dialog itself.
+    static const int kPostMsgEventType = 1100;
+    class CPostMsgEvent : public QEvent
+    {
+    public:
+        CPostMsgEvent(unsigned int msg, unsigned long long w, unsigned long long l)
+            : QEvent(QEvent::Type(kPostMsgEventType)), message(msg), wParam(w), lParam(l)
+        {
+        }
+        unsigned int message;
+        unsigned long long wParam;
+        unsigned long long lParam;
+    };
+
     explicit CSetIPDlg(bool modal = true, QWidget* parent = nullptr);
     ~CSetIPDlg() override;
 
     // Fills both sections; "Device not found." when the key no longer resolves.
     bool setInfo(const Vorlen::GenICam::TSharedPtrGigEInterfaceInfo& info, const Vorlen::Infra::CString& key);
 
+    // True only for 255.0.0.0, 255.255.0.0, 255.255.255.0 and 255.255.255.255.
+    static bool isNetMaskMatched(const QString& mask);
     static bool isInSameSubnet(const QString& a, const QString& b, const QString& mask);
     // Every dotted part of 256..999 becomes 255; true when something changed.
     static bool invalidIPto255(QString& text);
     // Message of a checkIp code (empty for 0).
     static QString checkIpMessage(int code);
 
+    void postMsg(unsigned int msg, unsigned long long wParam, unsigned long long lParam);
     void saveConfig();
     void restoreConfig();
 
@@ -67,6 +84,9 @@ public slots:
     void on_txtDevGateway_cursorPositionChanged(int oldPos, int newPos);
     void onSetIpEnd(bool ok);
     void onRestoreCfg();
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     void retranslateUi();

@@ -1,7 +1,11 @@
 #pragma once
-// Item types of the device tree.
+// Item types of the device tree and the small id helpers around them.
 // Interface (root) items are 1001..1006 and device items 1007..1012, one per
 // camera type 0..5; 1000 means "no such item".
+#include <QVariant>
+
+#include "Vorlen/GenICam/CSystem.h"
+
 enum ETreeItemType
 {
     treeItemUnknown = 1000,
@@ -26,3 +30,10 @@ bool isInterfaceItemType(int type);
 bool isDeviceItemType(int type);
 // The camera type of a device item type (-1 for any other).
 int deviceCameraType(int itemType);
+// Interface enumerator 0..5 -> 1..6, anything else 0.
+int interfaceType(Vorlen::GenICam::EInterfaceType type);
+// 1..6 -> 1..6, anything else 0.
+int deviceType(int type);
+// Process-wide counter: 1, 2, ... wrapping from 0xFFFFFFFF back to 1.
+unsigned int createId();
+unsigned int toUid(const QVariant& value);

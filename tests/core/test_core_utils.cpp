@@ -234,6 +234,25 @@ private slots:
         QCOMPARE(readAll(upgrade), QByteArray("Vorlen:: is not filtered here|next"));
     }
 
+    void writeLogAppendsTimedLines()
+    {
+        const QString path = QCoreApplication::applicationDirPath() + "/log.txt";
+        QFile::remove(path);
+        writeLog("value %d %s", 42, "abc");
+        const std::string big(5000, 'z');
+        writeLog("%s", big.c_str());
+        const QByteArray text = readAll(path);
+        const QList<QByteArray> lines = text.split('\n');
+        QCOMPARE(lines.size(), 3);
+        QVERIFY(lines.at(2).isEmpty());
+        QVERIFY2(QRegularExpression(QStringLiteral("^\\d\\d:\\d\\d:\\d\\d\\.\\d{3} value 42 abc\\r$"))
+                     .match(QString::fromLatin1(lines.at(0)))
+                     .hasMatch(),
+                 lines.at(0).constData());
+        QVERIFY(lines.at(1).endsWith(QByteArray::fromStdString(big) + "\r"));
+        QFile::remove(path);
+    }
+
     void commonMessageBox()
     {
         QWidget parent;

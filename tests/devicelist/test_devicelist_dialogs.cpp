@@ -170,6 +170,13 @@ void TestDeviceListDialogs::ipDialogEditing()
     // Only numbers of three digits are capped; a part of four is left as it is.
     QString text = "255.250.25.2550";
     QVERIFY(!CSetIPDlg::invalidIPto255(text) && text == "255.250.25.2550");
+    // Only the four whole-octet masks match.
+    QStringList matched;
+    for (const char* mask : {"255.0.0.0", "255.255.0.0", "255.255.255.0", "255.255.255.255", "255.255.255.128",
+                             "0.0.0.0", "255.255.0.255", ""})
+        if (CSetIPDlg::isNetMaskMatched(mask))
+            matched << mask;
+    QCOMPARE(matched, QStringList({"255.0.0.0", "255.255.0.0", "255.255.255.0", "255.255.255.255"}));
 
     // The cursor never rests past the last allowed character.
     dialog.txtDevGateway()->setText("192.168.100.200");

@@ -20,8 +20,10 @@
 #include "CCommonMessageBox.h"
 #include "CDialogTitleBar.h"
 #include "CDoubleSpinBox.h"
+#include "CElidedLabel.h"
 #include "CSlider.h"
 #include "CSpinBox.h"
+#include "CTextWidthGuard.h"
 #include "CWaitDlg.h"
 
 namespace {
@@ -176,6 +178,31 @@ private slots:
         QTest::keyClick(spin, Qt::Key_Return);
         QCOMPARE(changed.count(), 1);
         QCOMPARE(spin->value(), 75);
+    }
+
+    void narrowPlacesKeepTheirText()
+    {
+        // A label narrower than its text ends it with an ellipsis; text()
+        // keeps the whole text.
+        const QString text = QStringLiteral("Error: Stream not open because the camera stopped answering (12)");
+        CElidedLabel label;
+        label.setText(text);
+        label.resize(120, 20);
+        QVERIFY(label.shownText().endsWith(QChar(0x2026)) && label.shownText().size() < text.size());
+        QCOMPARE(label.text(), text);
+        label.resize(label.fontMetrics().horizontalAdvance(text) + 10, 20);
+        QCOMPARE(label.shownText(), text);
+
+        // A button whose style sheet allows less than its text keeps room for
+        // the text, also after the text changes.
+        QPushButton button(QStringLiteral("Collapse All"));
+        button.setStyleSheet(QStringLiteral("QPushButton { min-width: 10px; }"));
+        CTextWidthGuard::install(&button);
+        button.ensurePolished();
+        QTRY_VERIFY(button.minimumWidth() >= button.sizeHint().width());
+        button.setText(QStringLiteral("A much longer caption than before"));
+        CTextWidthGuard::fit(&button);
+        QVERIFY(button.minimumWidth() >= button.sizeHint().width());
     }
 
     void sliderJumpsToTheClick()
